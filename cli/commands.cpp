@@ -1,0 +1,4 @@
+#include "cli/commands.h"
+namespace tamrel::cli {
+int run(int, char**) { return 0; }
+}

@@ -1,0 +1,4 @@
+#pragma once
+namespace tamrel::cli {
+int run(int argc, char** argv);
+}

@@ -1,0 +1,42 @@
+#include "core/host.h"
+
+#include <cstdio>
+#include <ctime>
+#include <string>
+
+namespace tamrel {
+namespace {
+thread_local const Host* installed = nullptr;
+}
+
+Date system_now() {
+    std::time_t t = std::time(nullptr);
+    std::tm tm{};
+    localtime_r(&t, &tm);
+    return Date{tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday, tm.tm_hour, tm.tm_min, tm.tm_sec};
+}
+
+const Host& default_host() {
+    static const Host host{
+        [](std::string_view line) {
+            std::string text(line);
+            text += '\n';
+            std::fwrite(text.data(), 1, text.size(), stderr);
+        },
+        [] { return system_now(); },
+        {},
+    };
+    return host;
+}
+
+const Host& current_host() { return installed ? *installed : default_host(); }
+
+HostScope::HostScope(const Host& host) : previous_(installed) { installed = &host; }
+HostScope::~HostScope() { installed = previous_; }
+
+Date now() {
+    const Host& h = current_host();
+    return h.now ? h.now() : system_now();
+}
+
+}  // namespace tamrel

@@ -1,0 +1,53 @@
+#include "core/shared_blocks.h"
+
+#include "core/routine.h"
+#include "core/writer.h"
+
+namespace tamrel::mlGen {
+
+void AppendDBNA(std::string& out, const Vorgang& v, bool marker) {
+    routine("mlGen.GenDBNA", [&](int& line) {
+        Writer w(out, line);
+        w.lit("DBNA").an(v.Familienname, 30).an(v.Vorname, 30).an(v.Vorsatzwort, 20).an(v.Namenszusatz, 20);
+        w.an(v.Titel, 20).lit(marker ? "A" : " ");
+        w.check(125, "DBNA");
+    });
+}
+
+void AppendDBAN(std::string& out, const Vorgang& v, bool& filled) {
+    routine("mlGen.GenDBAN", [&](int& line) {
+        Writer w(out, line, filled);
+        w.lit("DBAN").an(v.Land == "D" ? std::string_view{} : std::string_view(v.Land), 3);
+        w.an(v.PLZ, 10).an(v.Ort, 34).an(v.Strasse, 33).an(v.Hausnummer, 9).an(v.Adresszusatz, 40);
+        w.check(133, "DBAN");
+    });
+}
+
+void AppendDBGB(std::string& out, const Vorgang& v) {
+    routine("mlGen.GenDBGB", [&](int& line) {
+        Writer w(out, line);
+        w.lit("DBGB").an(v.Geburtsname, 30).an(v.GeburtsVorsatzwort, 20).an(v.GeburtsNamenszusatz, 20);
+        w.n(v.Geburtsdatum, 8).an(v.Geschlecht, 1).an(v.Geburtsort, 34);
+        w.check(117, "DBGB");
+    });
+}
+
+std::string GenDBNA(const Vorgang& v, bool marker) {
+    std::string out;
+    AppendDBNA(out, v, marker);
+    return out;
+}
+
+std::string GenDBAN(const Vorgang& v, bool& filled) {
+    std::string out;
+    AppendDBAN(out, v, filled);
+    return out;
+}
+
+std::string GenDBGB(const Vorgang& v) {
+    std::string out;
+    AppendDBGB(out, v);
+    return out;
+}
+
+}  // namespace tamrel::mlGen

@@ -1,0 +1,86 @@
+#include "core/text.h"
+
+namespace tamrel::text {
+
+bool is_valid_utf8(std::string_view s) noexcept {
+    const auto* p = reinterpret_cast<const unsigned char*>(s.data());
+    const auto* end = p + s.size();
+    while (p < end) {
+        unsigned char c = *p;
+        if (c < 0x80) { ++p; continue; }
+        std::size_t n;
+        char32_t cp;
+        if (c >= 0xC2 && c <= 0xDF) { n = 1; cp = c & 0x1F; }
+        else if ((c >> 4) == 0xE) { n = 2; cp = c & 0x0F; }
+        else if (c >= 0xF0 && c <= 0xF4) { n = 3; cp = c & 0x07; }
+        else return false;
+        if (static_cast<std::size_t>(end - p) <= n) return false;
+        for (std::size_t i = 1; i <= n; ++i) {
+            if ((p[i] & 0xC0) != 0x80) return false;
+            cp = (cp << 6) | (p[i] & 0x3F);
+        }
+        if ((n == 2 && (cp < 0x800 || (cp >= 0xD800 && cp <= 0xDFFF))) ||
+            (n == 3 && (cp < 0x10000 || cp > 0x10FFFF)))
+            return false;
+        p += n + 1;
+    }
+    return true;
+}
+
+std::size_t char_count(std::string_view s) noexcept {
+    std::size_t n = 0;
+    for (unsigned char c : s) n += (c & 0xC0) != 0x80;
+    return n;
+}
+
+std::size_t byte_offset(std::string_view s, std::size_t n) noexcept {
+    std::size_t i = 0;
+    while (n > 0 && i < s.size()) {
+        i += seq_len(static_cast<unsigned char>(s[i]));
+        --n;
+    }
+    return i < s.size() ? i : s.size();
+}
+
+std::string_view left(std::string_view s, std::size_t n) noexcept {
+    return s.substr(0, byte_offset(s, n));
+}
+
+std::string_view right(std::string_view s, std::size_t n) noexcept {
+    std::size_t total = char_count(s);
+    if (n >= total) return s;
+    return s.substr(byte_offset(s, total - n));
+}
+
+std::string_view mid(std::string_view s, std::size_t start, std::size_t len) noexcept {
+    if (start < 1) start = 1;
+    std::size_t from = byte_offset(s, start - 1);
+    std::string_view rest = s.substr(from);
+    return rest.substr(0, byte_offset(rest, len));
+}
+
+std::string_view trim_blanks(std::string_view s) noexcept {
+    while (!s.empty() && s.front() == ' ') s.remove_prefix(1);
+    while (!s.empty() && s.back() == ' ') s.remove_suffix(1);
+    return s;
+}
+
+std::string sanitize(std::string_view s) {
+    if (is_valid_utf8(s)) return std::string(s);
+    std::string out;
+    std::size_t i = 0;
+    while (i < s.size()) {
+        std::size_t n = seq_len(static_cast<unsigned char>(s[i]));
+        std::string_view piece = s.substr(i, n);
+        if (piece.size() == n && is_valid_utf8(piece)) {
+            out += piece;
+            i += n;
+        } else {
+            out += "\xEF\xBF\xBD";
+            ++i;
+        }
+    }
+    return out;
+}
+
+}  // namespace tamrel::text

@@ -1,0 +1,29 @@
+// Helpers shared by the tests: a host whose log lines and clock the test owns.
+#pragma once
+#include <string>
+#include <vector>
+
+#include "core/error.h"
+#include "core/host.h"
+
+namespace tamrel::testing {
+
+struct RecordingHost {
+    std::vector<std::string> lines;
+    Date clock{2024, 3, 5, 8, 9, 10};
+    Host host{[this](std::string_view l) { lines.emplace_back(l); }, [this] { return clock; }, {}};
+    HostScope scope{host};
+};
+
+// Runs `f`, expecting a tamrel::Error; returns it.
+template <class F>
+Error expect_error(F&& f) {
+    try {
+        f();
+    } catch (const Error& e) {
+        return e;
+    }
+    throw std::runtime_error("expected a tamrel::Error");
+}
+
+}  // namespace tamrel::testing
