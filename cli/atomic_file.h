@@ -1,0 +1,26 @@
+// An output file that appears under its name only when complete: written to
+// a temporary file in the same folder, renamed on commit, removed otherwise.
+#pragma once
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+namespace tamrel::cli {
+
+class AtomicFile {
+public:
+    explicit AtomicFile(std::string target);  // throws std::runtime_error
+    ~AtomicFile();
+    AtomicFile(const AtomicFile&) = delete;
+    AtomicFile& operator=(const AtomicFile&) = delete;
+
+    void write(std::string_view bytes);  // throws std::runtime_error
+    void commit();                       // throws std::runtime_error
+
+private:
+    std::string target_, temp_;
+    std::FILE* file_ = nullptr;
+    bool committed_ = false;
+};
+
+}  // namespace tamrel::cli

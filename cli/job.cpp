@@ -1,0 +1,78 @@
+#include "cli/job.h"
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <stdexcept>
+
+namespace tamrel::cli {
+
+using nlohmann::json;
+
+const ClassInfo* find_class(const std::string& cls) {
+    static const ClassInfo classes[] = {
+        {"clsGenBeitrNachw", "objBeitrNachw", "CreateProtoBeitr", ClassInfo::BeitrNachw},
+        {"clsGenBeitrErh", "objBeitrErh", "CreateProtoBeitrErh", ClassInfo::BeitrErh},
+        {"clsGenMeldung", "objMeldung", "CreateProtoMeld", ClassInfo::Meldung},
+        {"clsGenErst", "objErst", "CreateProtoErst", ClassInfo::GroupA},
+        {"clsGenZahl", "objZahl", "CreateProtoZahl", ClassInfo::GroupA},
+        {"clsGenBetrieb", "objBetrieb", "CreateProtoBetrieb", ClassInfo::GroupA},
+        {"clsGenArbeitsBesch", "objArbeitsBesch", "CreateProtoArbeitsBesch", ClassInfo::GroupA},
+        {"clsGenEntgelt", "objEntgelt", "CreateProtoEntgelt", ClassInfo::GroupA},
+        {"clsGenAbfrVers", "objAbfrVers", "CreateProtoAbfrVers", ClassInfo::GroupA},
+        {"clsGenAsyl", "objAsyl", nullptr, ClassInfo::Asyl},
+        {"clsGenAbfrStammdatenUV", "objAbfrStammdatenUV", "CreateProtoAbfrStammdatenUV", ClassInfo::GroupA},
+        {"clsGenLohnnachweis", "objLohnnachweis", "CreateProtoLohnnachweis", ClassInfo::GroupA},
+    };
+    for (const auto& c : classes)
+        if (cls == c.cls) return &c;
+    return nullptr;
+}
+
+Job read_job(const std::string& path) {
+    std::ifstream in(path);
+    if (!in) throw std::runtime_error(path + ": cannot be read");
+    json j;
+    try {
+        j = json::parse(in);
+    } catch (const json::exception& e) {
+        throw std::runtime_error(path + ": not valid JSON: " + e.what());
+    }
+    if (!j.is_object()) throw std::runtime_error(path + ": expected a JSON object");
+    static const std::set<std::string> keys = {"class",       "strBNRAb",        "strBNREm",    "strFileNr",
+                                               "strFirma",    "strDatum",        "enmVerfahren", "datDate",
+                                               "udtDSKOData", "udtDatensatzData", "now",        "tests",
+                                               "reports",     "reports_file"};
+    for (const auto& [k, v] : j.items())
+        if (!keys.contains(k)) throw std::runtime_error(path + ": " + k + ": unknown key");
+    Job job;
+    if (!j.contains("class") || !j["class"].is_string()) throw std::runtime_error(path + ": class: expected a string");
+    job.info = find_class(j["class"].get<std::string>());
+    if (!job.info) throw std::runtime_error(path + ": class: unknown generator class " + j["class"].get<std::string>());
+    job.frame = json::object();
+    for (const char* k : {"strBNRAb", "strBNREm", "strFileNr", "strFirma", "strDatum"}) {
+        if (j.contains(k)) job.frame[k] = j[k];
+        else if (std::string(k) != "strDatum") throw std::runtime_error(path + ": " + k + ": missing");
+    }
+    if (j.contains("enmVerfahren")) job.enmVerfahren = j["enmVerfahren"];
+    if (j.contains("datDate")) job.datDate = j["datDate"];
+    if (j.contains("udtDSKOData")) job.dsko = j["udtDSKOData"];
+    if (j.contains("udtDatensatzData")) job.datensatz = j["udtDatensatzData"];
+    if (j.contains("now")) job.now = j["now"];
+    if (j.contains("tests")) job.tests = j["tests"];
+    bool inline_reports = j.contains("reports"), file_reports = j.contains("reports_file");
+    if (inline_reports == file_reports)
+        throw std::runtime_error(path + ": give the reports either as \"reports\" or as \"reports_file\"");
+    if (inline_reports) {
+        if (!j["reports"].is_array()) throw std::runtime_error(path + ": reports: expected an array");
+        job.reports = j["reports"];
+    } else {
+        if (!j["reports_file"].is_string()) throw std::runtime_error(path + ": reports_file: expected a string");
+        std::filesystem::path p = j["reports_file"].get<std::string>();
+        if (p.is_relative()) p = std::filesystem::path(path).parent_path() / p;
+        job.reportsFile = p.string();
+    }
+    return job;
+}
+
+}  // namespace tamrel::cli

@@ -1,0 +1,68 @@
+#include "cli/output_encoding.h"
+
+namespace tamrel::cli {
+namespace {
+
+char32_t decode(std::string_view s, std::size_t& i) {
+    auto c = static_cast<unsigned char>(s[i]);
+    if (c < 0x80) return s[i++] & 0x7F;
+    int n = c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : 1;
+    char32_t cp = c & (0x3F >> n);
+    for (int k = 1; k <= n && i + k < s.size(); ++k) cp = (cp << 6) | (static_cast<unsigned char>(s[i + k]) & 0x3F);
+    i += n + 1;
+    return cp;
+}
+
+int latin9(char32_t cp) {
+    switch (cp) {
+        case 0x20AC: return 0xA4;
+        case 0x0160: return 0xA6;
+        case 0x0161: return 0xA8;
+        case 0x017D: return 0xB4;
+        case 0x017E: return 0xB8;
+        case 0x0152: return 0xBC;
+        case 0x0153: return 0xBD;
+        case 0x0178: return 0xBE;
+        case 0xA4: case 0xA6: case 0xA8: case 0xB4: case 0xB8: case 0xBC: case 0xBD: case 0xBE: return -1;
+        default: return cp <= 0xFF ? static_cast<int>(cp) : -1;
+    }
+}
+
+}  // namespace
+
+std::optional<Encoding> parse_encoding(std::string_view name) {
+    if (name == "ISO-8859-1" || name == "latin1") return Encoding::Latin1;
+    if (name == "ISO-8859-15" || name == "latin9") return Encoding::Latin9;
+    if (name == "UTF-8" || name == "utf8") return Encoding::Utf8;
+    return std::nullopt;
+}
+
+const char* encoding_name(Encoding e) {
+    switch (e) {
+        case Encoding::Latin1: return "ISO-8859-1";
+        case Encoding::Latin9: return "ISO-8859-15";
+        default: return "UTF-8";
+    }
+}
+
+std::size_t encode(std::string& out, std::string_view text, Encoding e) {
+    if (e == Encoding::Utf8) {
+        out += text;
+        return 0;
+    }
+    std::size_t position = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        ++position;
+        if (static_cast<unsigned char>(text[i]) < 0x80) {
+            out += text[i++];
+            continue;
+        }
+        char32_t cp = decode(text, i);
+        int b = e == Encoding::Latin9 ? latin9(cp) : (cp <= 0xFF ? static_cast<int>(cp) : -1);
+        if (b < 0) return position;
+        out += static_cast<char>(b);
+    }
+    return 0;
+}
+
+}  // namespace tamrel::cli

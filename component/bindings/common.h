@@ -1,0 +1,2 @@
+#pragma once
+#include "component/shared_bindings.h"

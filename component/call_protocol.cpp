@@ -1,0 +1,136 @@
+#include "component/call_protocol.h"
+
+#include <algorithm>
+#include <set>
+
+#include "component/call_registry.h"
+#include "core/error.h"
+#include "core/text.h"
+
+namespace tamrel {
+namespace {
+
+using json = nlohmann::json;
+using ordered_json = nlohmann::ordered_json;
+using json_binding::RequestError;
+
+const std::set<std::string, std::less<>> kRequestKeys = {"id", "class", "method", "args", "now", "tests"};
+
+Date parse_now(const json& j) {
+    if (!j.is_string()) throw RequestError("now: expected a date text");
+    auto d = parse_iso_date(j.get_ref<const std::string&>());
+    if (!d || d->is_empty()) throw RequestError("now: expected \"YYYY-MM-DDTHH:MM:SS\"");
+    return *d;
+}
+
+TextTest list_test(const json& j, const std::string& name) {
+    if (!j.is_array()) throw RequestError("tests." + name + ": expected a list of texts");
+    auto texts = std::make_shared<std::set<std::string, std::less<>>>();
+    for (const auto& e : j) {
+        if (!e.is_string()) throw RequestError("tests." + name + ": expected a list of texts");
+        texts->insert(e.get<std::string>());
+    }
+    return [texts](std::string_view t) { return texts->find(t) != texts->end(); };
+}
+
+ObjectTests parse_tests(const json& j) {
+    if (!j.is_object()) throw RequestError("tests: expected an object");
+    ObjectTests t;
+    for (const auto& [k, v] : j.items()) {
+        if (k == "NameTest") t.NameTest = list_test(v, k);
+        else if (k == "EmpfBknTest1") t.EmpfBknTest1 = list_test(v, k);
+        else if (k == "EmpfBknTest2") t.EmpfBknTest2 = list_test(v, k);
+        else throw RequestError("tests." + k + ": unknown test");
+    }
+    return t;
+}
+
+const Method& find_method(const json& request) {
+    if (!request.contains("class")) throw RequestError("class: missing");
+    if (!request.contains("method")) throw RequestError("method: missing");
+    const auto& c = request.at("class");
+    const auto& m = request.at("method");
+    if (!c.is_string()) throw RequestError("class: expected a string");
+    if (!m.is_string()) throw RequestError("method: expected a string");
+    const auto& cls = c.get_ref<const std::string&>();
+    const auto& name = m.get_ref<const std::string&>();
+    if (cls == "clsGenDef") throw RequestError("class: clsGenDef cannot be created");
+    auto it = registry().find(cls);
+    if (it == registry().end()) throw RequestError("class: unknown class " + cls);
+    auto mt = it->second.find(name);
+    if (mt == it->second.end()) throw RequestError("method: " + cls + " has no method " + name);
+    return mt->second;
+}
+
+void check_arg_names(const json& args, const Method& method) {
+    for (const auto& [k, v] : args.items()) {
+        bool known = std::find(method.required.begin(), method.required.end(), k) != method.required.end() ||
+                     std::find(method.optional.begin(), method.optional.end(), k) != method.optional.end();
+        if (!known) throw RequestError("args." + k + ": unknown parameter");
+    }
+    for (const auto& r : method.required)
+        if (!args.contains(r)) throw RequestError("args." + r + ": missing");
+}
+
+ordered_json with_id(const json& request) {
+    ordered_json response = ordered_json::object();
+    if (request.is_object() && request.contains("id")) response["id"] = request.at("id");
+    return response;
+}
+
+}  // namespace
+
+ordered_json call(const json& request) {
+    ordered_json response = with_id(request);
+    try {
+        if (!request.is_object()) throw RequestError("request: expected a JSON object");
+        for (const auto& [k, v] : request.items())
+            if (!kRequestKeys.contains(k)) throw RequestError(k + ": unknown key");
+        const Method& method = find_method(request);
+        static const json kNoArgs = json::object();
+        const json& args = request.contains("args") ? request.at("args") : kNoArgs;
+        if (!args.is_object()) throw RequestError("args: expected an object");
+        check_arg_names(args, method);
+
+        auto lines = std::make_shared<std::vector<std::string>>();
+        Host host{[lines](std::string_view l) { lines->emplace_back(l); }, Clock(), ObjectTests()};
+        if (request.contains("now")) {
+            Date fixed = parse_now(request.at("now"));
+            host.now = [fixed] { return fixed; };
+        } else {
+            host.now = [] { return system_now(); };
+        }
+        if (request.contains("tests")) host.tests = parse_tests(request.at("tests"));
+
+        Invocation inv(args, host);
+        try {
+            std::string result = method.run(inv);
+            response["result"] = std::move(result);
+            response["out"] = std::move(inv.out());
+            response["log"] = *lines;
+        } catch (const Error& e) {
+            response["error"] = {{"number", e.number()}, {"source", e.source()}, {"description", e.description()}};
+            response["log"] = *lines;
+        }
+    } catch (const RequestError& e) {
+        response["request_error"] = text::sanitize(e.what());
+    }
+    return response;
+}
+
+std::string call_line(std::string_view line, bool& request_error) {
+    json request;
+    try {
+        request = json::parse(line);
+    } catch (const json::exception& e) {
+        request_error = true;
+        ordered_json r = ordered_json::object();
+        r["request_error"] = std::string("not a JSON object: ") + text::sanitize(e.what());
+        return r.dump();
+    }
+    ordered_json response = call(request);
+    request_error = response.contains("request_error");
+    return response.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+}  // namespace tamrel

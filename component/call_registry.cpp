@@ -1,0 +1,62 @@
+#include "component/call_registry.h"
+
+namespace tamrel {
+
+using json_binding::fail;
+
+std::string Invocation::str(const char* name) const {
+    std::string v;
+    json_binding::read(args_.at(name), v, std::string("args.") + name);
+    return v;
+}
+
+std::string Invocation::opt_str(const char* name) const {
+    if (!args_.contains(name) || args_.at(name).is_null()) return {};
+    return str(name);
+}
+
+Date Invocation::date(const char* name) const {
+    if (!args_.contains(name) || args_.at(name).is_null()) return {};
+    const auto& j = args_.at(name);
+    std::string path = std::string("args.") + name;
+    if (!j.is_string()) fail(path, "expected a date text");
+    auto d = parse_iso_date(j.get_ref<const std::string&>());
+    if (!d) fail(path, "expected \"YYYY-MM-DD\" or \"YYYY-MM-DDTHH:MM:SS\"");
+    return *d;
+}
+
+std::int32_t Invocation::verf(const char* name) const {
+    const auto& j = args_.at(name);
+    if (j.is_string()) {
+        const auto& s = j.get_ref<const std::string&>();
+        if (s == "vmNormal") return 0;
+        if (s == "vmSofort") return 1;
+        if (s == "vmBV") return 2;
+        fail(std::string("args.") + name, "expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\"");
+    }
+    return enm(name);
+}
+
+std::int32_t Invocation::enm(const char* name) const {
+    std::int32_t v = 0;
+    json_binding::read(args_.at(name), v, std::string("args.") + name);
+    return v;
+}
+
+bool Invocation::boolean(const char* name) const {
+    bool v = false;
+    json_binding::read(args_.at(name), v, std::string("args.") + name);
+    return v;
+}
+
+const Registry& registry() {
+    static const Registry r = [] {
+        Registry reg;
+        register_frames_and_pending(reg);
+        register_meldung(reg);
+        return reg;
+    }();
+    return r;
+}
+
+}  // namespace tamrel

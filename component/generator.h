@@ -1,0 +1,68 @@
+// What every generator class shares: the host it was created with (log sink,
+// clock, data-object tests), installed for the duration of each public call,
+// and the frame wrappers of the classes whose frame methods take the common
+// parameter lists.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/date.h"
+#include "core/host.h"
+#include "core/objects.h"
+#include "core/routine.h"
+
+namespace tamrel {
+
+class Generator {
+public:
+    explicit Generator(Host host = default_host()) : host_(std::move(host)) {}
+    const Host& host() const { return host_; }
+
+protected:
+    // Runs a public method: this generator's host installed, the routine's
+    // error convention around the body.
+    template <class Ctx, class Body>
+    decltype(auto) call(const Ctx& context, Body&& body) const {
+        HostScope scope(host_);
+        return routine(context, std::forward<Body>(body));
+    }
+
+private:
+    Host host_;
+};
+
+// Procedure codes and the context texts of a class's frame wrappers (some
+// carry another class's name; they are kept as they are).
+struct FrameSpec {
+    std::string_view voszCode;
+    std::string_view dskoCode;
+    std::string_view voszContext;  // ends with "("
+    std::string_view dskoContext;
+    std::string_view ncszContext;  // ends with "("
+};
+
+// The frame methods of the classes of group A (and the DEUEV query and
+// master-data classes): GenVOSZ with enmVerfahren (ignored), GenDSKO, GenNCSZ.
+class FrameGenerator : public Generator {
+public:
+    std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                        std::string_view strFirma, std::int32_t enmVerfahren, std::string& strDatum,
+                        const Date& datDate = {}) const;
+    std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                        std::string_view strFirma, std::int32_t enmVerfahren) const;
+    std::string GenDSKO(DSKOData& udtDSKOData, const Date& datDate = {}) const;
+    std::string GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                        std::string_view strCount, const Date& datDate = {}) const;
+
+protected:
+    FrameGenerator(const FrameSpec& spec, Host host) : Generator(std::move(host)), spec_(spec) {}
+
+private:
+    FrameSpec spec_;
+};
+
+// The error of a procedure that this build does not provide.
+[[noreturn]] void raise_not_available(std::string_view source);
+
+}  // namespace tamrel

@@ -1,0 +1,24 @@
+// The contribution collection generator (record DSBE with DBMI and DBHB).
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "component/generator.h"
+
+namespace tamrel {
+
+struct BeitrErh;
+
+class clsGenBeitrErh : public Generator {
+public:
+    explicit clsGenBeitrErh(Host host = default_host()) : Generator(std::move(host)) {}
+
+    std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                        std::string_view strFirma, std::string& strDatum, const Date& datDate = {}) const;
+    std::string GenDSKO(DSKOData& udtDSKOData, const Date& datDate = {}) const;
+    std::string GenData(const BeitrErh& objBeitrErh, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
+    std::string GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                        std::string_view strCount, const Date& datDate = {}) const;
+};
+
+}  // namespace tamrel

@@ -1,0 +1,98 @@
+// The DSME record, left to right as its layout table.
+#include "core/host.h"
+#include "core/writer.h"
+#include "reports/clsGenMeldung/clsGenMeldung.h"
+
+namespace tamrel {
+namespace {
+
+// The ten flag characters at positions 171-180: the table's seven flags for
+// the reason, then "NNN", each later rule overriding an earlier one.
+std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerfahren, std::string& dbuv) {
+    constexpr std::string_view table = clsGenMeldung::kBlockTable;
+    std::size_t p = table.find(m.Meldegrund);
+    if (p == std::string_view::npos)
+        raise(kErrReason, "clsGenMeldung.GenDSME",
+              "Datenbausteine konnten zum Meldegrund " + m.Meldegrund + " nicht ermittelt werden");
+    std::string f(table.substr(p + m.Meldegrund.size(), 7));
+    f += "NNN";
+    auto set = [&f](std::size_t flag, char c) {
+        if (flag <= f.size()) f[flag - 1] = c;
+    };
+    if (m.Meldungsart == 1 && gen.IsGeringBkn(m)) set(7, 'N');
+    if (m.Meldungsart == 2) set(3, 'N');
+    if (m.Meldungsart != 1 && m.Meldungsart != 2) {
+        set(3, 'N');
+        set(7, 'N');
+    }
+    if (m.MitNamensdaten) set(2, 'J');
+    if (m.Meldungsart == 8) {
+        const TextTest& test = current_host().tests.NameTest;
+        bool named = test ? test(m.Vorgang.Bezugskennung) : false;
+        if (m.Vorgang.Bezugskennung.empty() || named) set(2, 'J');
+    }
+    if (!m.Vorgang.Geburtsdatum.empty()) set(3, 'J');
+    if (m.Meldegrund == "58" || enmVerfahren == vmSofort) {
+        if (m.Vorgang.Versicherungsnummer.empty()) set(4, 'J');
+    } else if (m.Meldegrund != "92") {
+        if (!m.Vorgang.PLZ.empty() || !m.Vorgang.Ort.empty()) set(4, 'J');
+    }
+    if (m.Meldungsart != 8) {
+        constexpr std::string_view eu_reasons = "10,11,12,13,20,40,58";
+        if (!m.Vorgang.EuAngabe1.empty() && eu_reasons.find(m.Meldegrund) != std::string_view::npos &&
+            m.Vorgang.Versicherungsnummer.empty() && !m.Vorgang.EuAngabe2.empty())
+            set(5, 'J');
+    } else {
+        set(5, 'N');
+    }
+    bool produced = false;
+    dbuv = clsGenMeldung::GenDBUV(m, produced);
+    set(6, produced ? 'J' : 'N');
+    return f;
+}
+
+// Version prefix (an 10) and running number (n 10): the file reference.
+std::string version_and_number(const DatensatzData& dd, std::int32_t number) {
+    std::string ref;
+    bool filled = false;
+    mlGen::AppendAn(ref, dd.strVersion, 10, filled);
+    mlGen::AppendN(ref, mlGen::Decimal(number), 10, filled);
+    return ref;
+}
+
+}  // namespace
+
+void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd, std::int32_t enmVerfahren,
+                            const Date& datDate) {
+    routine(
+        [&] {
+            return call_text("clsGenMeldung.GenDSME(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren,
+                             datDate);
+        },
+        [&](int& line) {
+            const Date date = mlGen::GetDate(datDate);
+            const std::string referenceB = version_and_number(dd, m.Laufnummer);
+            const bool minijob = m.Beitragsgruppe2.size() > 0 &&
+                                 std::string_view("246").find(m.Beitragsgruppe2) != std::string_view::npos;
+            Writer w(out, line);
+            w.lit("DSME").lit("DEUEV").an(dd.strBNRAb, 15).an(m.Empfaenger.Betriebsnummer, 15).lit("03");
+            w.stamp(m.Zeitpunkt, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").zeros(1);
+            w.an(m.Vorgang.Versicherungsnummer, 12);
+            w.an(m.Meldungsart == 1 ? (minijob ? "0G" : "0C") : "", 2);
+            w.an(m.Vorgang.Arbeitgeber.Betriebsnummer, 15).an(m.Vorgang.Aktenzeichen, 20);
+            w.an(m.Empfaenger.Betriebsnummer, 15);
+            if (m.Meldungsart != 8)
+                w.an(referenceB, 20);
+            else
+                w.an(!m.Vorgang.Bezugskennung.empty() ? m.Vorgang.Bezugskennung : m.Ersatzaktenzeichen, 20);
+            w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).n(m.Personengruppe, 3).n(m.Meldegrund, 2);
+            w.an(m.Vorgang.Laenderschluessel, 3);
+            w.an(flag_text(*this, m, enmVerfahren, dbuv_), 10);
+            w.blank(1).lit("5").blank(1).flag(enmVerfahren == vmSofort).an(m.Zusatzmerkmal, 1).blank(3);
+            w.flag(m.Meldegrund == "58").blank(1).zeros(20).lit("01").an(dd.strProdID, 7).an(dd.strModID, 8);
+            w.an(referenceB, 32).blank(100).lit("N").blank(199);
+            w.check(559, "DSME");
+        });
+}
+
+}  // namespace tamrel

@@ -1,0 +1,47 @@
+// The DEUEV report generator: DSME records with the blocks that the report
+// reason calls for, and the frame records of a DEUEV transfer file.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "component/generator.h"
+#include "reports/clsGenMeldung/Meldung.h"
+
+namespace tamrel {
+
+class clsGenMeldung : public Generator {
+public:
+    explicit clsGenMeldung(Host host = default_host()) : Generator(std::move(host)) {}
+
+    std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                        std::string_view strFirma, std::int32_t enmVerfahren, std::string& strDatum,
+                        const Date& datDate = {}) const;
+    std::string GenDSKO(DSKOData& udtDSKOData, const Date& datDate = {}) const;
+    std::string GenData(const Meldung& objMeldung, DatensatzData& udtDatensatzData, std::int32_t enmVerfahren,
+                        const Date& datDate = {});
+    std::string GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                        std::string_view strCount, std::int32_t enmVerfahren, const Date& datDate = {}) const;
+
+    // The block-selection table: reason, then seven J/N flags, 35 entries.
+    static constexpr std::string_view kBlockTable =
+        "10JJJJNNJ11JJJJNNJ12JJJJNNJ13JJJJNNJ20NJNNNNN30JNNNNNJ31JNNNNNJ32JNNNNNJ33JNNNNNJ34JNNNNNJ35JNNNNNJ36JNNNNNJ"
+        "40JJNJNNJ49JNNNNNJ50JNNNNNJ51JNNNNNJ52JNNNNNJ53JNNNNNJ54JNNNNNJ55JNNNNNJ56JNNNNNJ57JNNNNNJ58NJNNNNN59JNNNNNJ"
+        "60NJNNNNN61NNNJNNN62NNNNNNN63NNNNNNN70JNNNNNJ71JNNNNNJ72JNNNNNJ89NNNNNNN90NNNNNNN91JNNNNNJ92JNNNNJN";
+
+    // Internal builders, public for the tests and benchmarks.
+    void GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd, std::int32_t enmVerfahren,
+                 const Date& datDate);
+    bool IsGeringBkn(const Meldung& m) const;
+    static void GenDBME(std::string& out, const Meldung& m);
+    static void GenDBEU(std::string& out, const Meldung& m);
+    static std::string GenDBUV(const Meldung& m, bool& produced);
+    static void GenDBKS(std::string& out, const Meldung& m);
+    static void GenDBSO(std::string& out, const Meldung& m);
+    static void GenDBKV(std::string& out, const Meldung& m);
+
+private:
+    std::string dbuv_;  // the DBUV block of the most recent GenDSME
+};
+
+}  // namespace tamrel
