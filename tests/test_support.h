@@ -27,3 +27,18 @@ Error expect_error(F&& f) {
 }
 
 }  // namespace tamrel::testing
+
+namespace tamrel::testing {
+
+// Expected fields, written the way the layout tables read.
+inline std::string an(std::string_view v, std::size_t width) {
+    std::string s(v);
+    s.resize(width, ' ');
+    return s;
+}
+inline std::string n(std::string_view v, std::size_t width) {
+    return std::string(width > v.size() ? width - v.size() : 0, '0') + std::string(v);
+}
+inline std::string blanks(std::size_t width) { return std::string(width, ' '); }
+
+}  // namespace tamrel::testing
