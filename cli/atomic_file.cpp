@@ -28,8 +28,8 @@ AtomicFile::AtomicFile(std::string target) : target_(std::move(target)) {
         std::remove(temp_.c_str());
         throw std::runtime_error(target_ + ": cannot open the temporary file");
     }
-    static thread_local char buffer[1 << 16];
-    std::setvbuf(file_, buffer, _IOFBF, sizeof buffer);
+    buffer_ = std::make_unique<char[]>(kBufferSize);
+    std::setvbuf(file_, buffer_.get(), _IOFBF, kBufferSize);
 }
 
 AtomicFile::~AtomicFile() {

@@ -2,6 +2,7 @@
 // a temporary file in the same folder, renamed on commit, removed otherwise.
 #pragma once
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,8 @@ public:
 
 private:
     std::string target_, temp_;
+    static constexpr std::size_t kBufferSize = 1 << 16;
+    std::unique_ptr<char[]> buffer_;  // before file_: released after fclose
     std::FILE* file_ = nullptr;
     bool committed_ = false;
 };

@@ -91,7 +91,8 @@ public:
     Generator(const Job& job, const GenerateOptions& o, Encoding enc) : job_(job), options_(o), enc_(enc) {}
 
     std::string call_method(const char* method, json args, const std::string& what) {
-        json request = {{"class", job_.info->cls}, {"method", method}, {"args", std::move(args)}};
+        bool protocol = std::string_view(method).starts_with("CreateProto");
+        json request = {{"class", protocol ? "clsProtoEntry" : job_.info->cls}, {"method", method}, {"args", std::move(args)}};
         if (!job_.now.is_null()) request["now"] = job_.now;
         if (!job_.tests.is_null()) request["tests"] = job_.tests;
         auto response = call(request);

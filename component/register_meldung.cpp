@@ -1,5 +1,6 @@
 #include "component/bindings/Meldung.h"
 #include "component/call_registry.h"
+#include "protocol/clsProtoEntry.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
 namespace tamrel {
@@ -37,6 +38,13 @@ void register_meldung(Registry& r) {
                         auto date = inv.date("datDate");
                         return clsGenMeldung(inv.host()).GenNCSZ(a, e, f, count, verf, date);
                     }};
+    r["clsProtoEntry"]["CreateProtoMeld"] = {{"objMeldung", "blnError"}, {"strErrText"}, [](Invocation& inv) {
+        auto m = inv.object<Meldung>("objMeldung");
+        bool err = inv.boolean("blnError");
+        auto text = inv.opt_str("strErrText");
+        return clsProtoEntry(inv.host()).CreateProtoMeld(m, err, text);
+    }};
 }
 
 }  // namespace tamrel
+

@@ -1,6 +1,7 @@
 #include "protocol/proto_fields.h"
 
 #include "core/routine.h"
+#include "core/mlGen.h"
 #include "core/text.h"
 
 namespace tamrel::proto {

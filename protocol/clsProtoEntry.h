@@ -1,0 +1,31 @@
+// The protocol lines: one ";"-separated line per report, for the host's
+// protocol of sent reports. Each method reads the same data object as its
+// generator, plus whether the report failed and the failure's text.
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "component/generator.h"
+
+namespace tamrel {
+
+struct BeitrNachw;
+struct Meldung;
+struct BeitrErh;
+struct Erst;
+struct Zahl;
+struct Betrieb;
+struct Entgelt;
+struct ArbeitsBesch;
+struct AbfrVers;
+struct AbfrStammdatenUV;
+struct Lohnnachweis;
+
+class clsProtoEntry : public Generator {
+public:
+    explicit clsProtoEntry(Host host = default_host()) : Generator(std::move(host)) {}
+
+    std::string CreateProtoMeld(const Meldung& objMeldung, bool blnError, std::string_view strErrText = {}) const;
+};
+
+}  // namespace tamrel

@@ -1,0 +1,71 @@
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "component/c_api.h"
+#include "component/call_protocol.h"
+
+using nlohmann::json;
+
+namespace {
+
+json call(const std::string& text) { return json::parse(tamrel::call(json::parse(text)).dump()); }
+
+TEST(CallProtocol, RequestErrorsNameWhatIsWrong) {
+    const std::pair<const char*, const char*> cases[] = {
+        {R"({"class":"clsGenX","method":"GenData"})", "class: unknown class clsGenX"},
+        {R"({"class":"clsGenDef","method":"GenData"})", "class: clsGenDef cannot be created"},
+        {R"({"class":"clsGenAsyl","method":"GenDSKO"})", "method: clsGenAsyl has no method GenDSKO"},
+        {R"({"class":"clsGenMeldung","method":"GenDSKO","args":{"udtDSKOData":{},"extra":1}})",
+         "args.extra: unknown parameter"},
+        {R"({"class":"clsGenMeldung","method":"GenDSKO","args":{}})", "args.udtDSKOData: missing"},
+        {R"({"class":"clsGenMeldung","method":"GenDSKO","args":{"udtDSKOData":{"strPLZ":12345}}})",
+         "args.udtDSKOData.strPLZ: expected a string"},
+        {R"({"class":"clsGenMeldung","method":"GenDSKO","args":{"udtDSKOData":{},"datDate":"2024-02-30"}})",
+         "args.datDate: expected \"YYYY-MM-DD\" or \"YYYY-MM-DDTHH:MM:SS\""},
+        {R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"KsErster":40000},"udtDatensatzData":{},"enmVerfahren":0}})",
+         "args.objMeldung.KsErster: integer out of the 16-bit range"},
+        {R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"Vorgang":{"Arbeitgeber":{"Nmae1":""}}},"udtDatensatzData":{},"enmVerfahren":0}})",
+         "args.objMeldung.Vorgang.Arbeitgeber.Nmae1: unknown property"},
+        {R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{},"udtDatensatzData":{},"enmVerfahren":"vmFast"}})",
+         "args.enmVerfahren: expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\""},
+        {R"({"class":"clsGenMeldung","method":"GenDSKO","args":{"udtDSKOData":{}},"tests":{"Other":[]}})",
+         "tests.Other: unknown test"},
+        {R"({"class":"clsGenMeldung","method":"GenDSKO","args":{"udtDSKOData":{}},"now":"yesterday"})",
+         "now: expected \"YYYY-MM-DDTHH:MM:SS\""},
+        {R"({"class":"clsGenMeldung","method":"GenDSKO","args":{"udtDSKOData":{}},"when":1})", "when: unknown key"},
+    };
+    for (const auto& [request, message] : cases) EXPECT_EQ(call(request)["request_error"], message) << request;
+}
+
+TEST(CallProtocol, InOutDateIndexedListsAndTests) {
+    json r = call(R"({"id":"a","class":"clsGenBetrieb","method":"GenVOSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","enmVerfahren":0},"now":"2024-03-05T08:00:00"})");
+    EXPECT_EQ(r["id"], "a");
+    EXPECT_EQ(r["out"]["strDatum"], "20240305");
+    EXPECT_EQ(r["result"].get<std::string>().substr(39, 8), "20240305");
+    EXPECT_EQ(r["log"], json::array());
+
+    // Indexed lists as object or array; bounds follow the indices given.
+    const char* ks_object = R"({"1":"AB","2":"CD","3":"","4":"","5":"","6":"","7":"","8":"","9":"","10":"","11":"","12":"EF"})";
+    std::string request = std::string(R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"Meldegrund":"30","Meldungsart":1,"KsZeileA":)") +
+                          ks_object + R"(},"udtDatensatzData":{},"enmVerfahren":0,"datDate":"2024-03-01"}})";
+    std::string dbks = call(request)["result"].get<std::string>().substr(559 + 147);
+    EXPECT_EQ(dbks.substr(0, 30), "DBKSK AB          CD          ");
+    EXPECT_EQ(dbks.size(), 220u);
+
+    json named = call(R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"Meldegrund":"62","Meldungsart":8,"Vorgang":{"Bezugskennung":"K1"}},"udtDatensatzData":{},"enmVerfahren":0,"datDate":"2024-03-01"},"tests":{"NameTest":["K1"]}})");
+    EXPECT_EQ(named["result"].get<std::string>().substr(171, 1), "J");
+}
+
+TEST(CallProtocol, CInterfaceRoundTrip) {
+    char* response = tamrel_call(R"({"class":"clsGenZahl","method":"GenDSKO","args":{"udtDSKOData":{}},"now":"2024-03-05T08:00:00"})");
+    ASSERT_NE(response, nullptr);
+    json r = json::parse(response);
+    tamrel_free(response);
+    EXPECT_EQ(r["result"].get<std::string>().substr(0, 9), "DSKOZAHLS");
+    char* bad = tamrel_call("{");
+    EXPECT_TRUE(json::parse(bad).contains("request_error"));
+    tamrel_free(bad);
+}
+
+}  // namespace

@@ -1,0 +1,174 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <nlohmann/json.hpp>
+
+#include "reports/clsGenMeldung/clsGenMeldung.h"
+#include "test_support.h"
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using namespace tamrel;
+
+namespace {
+
+struct Result {
+    int status;
+    std::string out;
+};
+
+Result run(const std::string& args) {
+    std::string cmd = std::string(TAMREL_EXE) + " " + args + " 2>/dev/null";
+    FILE* p = popen(cmd.c_str(), "r");
+    std::string out;
+    char buf[4096];
+    while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
+    int status = pclose(p);
+    return {WEXITSTATUS(status), out};
+}
+
+std::string slurp(const fs::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    std::stringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+class Cli : public ::testing::Test {
+protected:
+    void SetUp() override {
+        dir_ = fs::temp_directory_path() / ("tamrel-cli-" + std::to_string(::getpid()) + "-" +
+                                            ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        fs::remove_all(dir_);
+        fs::create_directories(dir_);
+    }
+    void TearDown() override { fs::remove_all(dir_); }
+
+    // A report whose file reference carries `name`; reason "99" fails.
+    static json report(const std::string& name, const std::string& reason = "62") {
+        return {{"Laufnummer", 7},
+                {"Meldegrund", reason},
+                {"Meldungsart", 1},
+                {"Vorgang", {{"Aktenzeichen", name}, {"Versicherungsnummer", "X"}}}};
+    }
+    json job(json reports) const {
+        return {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"}, {"strFileNr", "1"},
+                {"strFirma", "F"},          {"datDate", "2024-03-01T10:11:12"},    {"reports", std::move(reports)}};
+    }
+    fs::path write(const std::string& name, const std::string& text) const {
+        std::ofstream(dir_ / name, std::ios::binary) << text;
+        return dir_ / name;
+    }
+    // The lines the library gives for this job, joined as the file holds them.
+    static std::string expected_utf8(const std::vector<std::string>& names, std::size_t count, const char* eol) {
+        clsGenMeldung gen;
+        Date d{2024, 3, 1, 10, 11, 12};
+        std::string datum;
+        DSKOData dsko;
+        DatensatzData dd;
+        std::string s = gen.GenVOSZ("1", "2", "1", "F", 0, datum, d) + eol + gen.GenDSKO(dsko, d) + eol;
+        for (const auto& n : names) {
+            Meldung m;
+            m.Laufnummer = 7;
+            m.Meldegrund = "62";
+            m.Meldungsart = 1;
+            m.Vorgang.Aktenzeichen = n;
+            m.Vorgang.Versicherungsnummer = "X";
+            s += gen.GenData(m, dd, 0, d) + eol;
+        }
+        return s + gen.GenNCSZ("1", "2", "1", std::to_string(count), 0, d) + eol;
+    }
+
+    fs::path dir_;
+};
+
+TEST_F(Cli, GenerateWritesTheWholeFileInLatin1) {
+    auto jobFile = write("job.json", job({report("M\xC3\xBCller"), report("Weiss")}).dump());
+    Result r = run("generate " + jobFile.string() + " -o " + (dir_ / "out.txt").string());
+    ASSERT_EQ(r.status, 0);
+    std::string expected = expected_utf8({"M\xC3\xBCller", "Weiss"}, 3, "\n");
+    expected.replace(expected.find("M\xC3\xBCller"), 7, "M\xFCller");
+    EXPECT_EQ(slurp(dir_ / "out.txt"), expected);
+}
+
+TEST_F(Cli, EncodingsAndLineEndings) {
+    auto jobFile = write("job.json", job({report("\xE2\x82\xAC uro")}).dump());
+    Result latin1 = run("generate " + jobFile.string() + " -o " + (dir_ / "a.txt").string());
+    EXPECT_EQ(latin1.status, 1);
+    EXPECT_FALSE(fs::exists(dir_ / "a.txt"));
+
+    ASSERT_EQ(run("generate " + jobFile.string() + " --encoding ISO-8859-15 --crlf -o " + (dir_ / "b.txt").string()).status, 0);
+    std::string expected = expected_utf8({"\xE2\x82\xAC uro"}, 2, "\r\n");
+    expected.replace(expected.find("\xE2\x82\xAC"), 3, "\xA4");
+    EXPECT_EQ(slurp(dir_ / "b.txt"), expected);
+
+    ASSERT_EQ(run("generate " + jobFile.string() + " --encoding UTF-8 -o " + (dir_ / "c.txt").string()).status, 0);
+    EXPECT_EQ(slurp(dir_ / "c.txt"), expected_utf8({"\xE2\x82\xAC uro"}, 2, "\n"));
+}
+
+TEST_F(Cli, FailureLeavesNothingAndKeepGoingLeavesTheReportOut) {
+    auto jobFile = write("job.json", job({report("A"), report("B", "99"), report("C")}).dump());
+    write("out.txt", "previous content");
+    Result stop = run("generate " + jobFile.string() + " -o " + (dir_ / "out.txt").string());
+    EXPECT_EQ(stop.status, 1);
+    EXPECT_EQ(slurp(dir_ / "out.txt"), "previous content");
+
+    Result keep = run("generate " + jobFile.string() + " --keep-going --protocol " + (dir_ / "p.txt").string() + " -o " +
+                   (dir_ / "out.txt").string());
+    EXPECT_EQ(keep.status, 3);
+    std::string written = slurp(dir_ / "out.txt");
+    std::string expected = expected_utf8({"A", "C"}, 3, "\n");
+    // Report C keeps its own running number; only the failed report is missing.
+    EXPECT_EQ(written, expected);
+    std::string protocol = slurp(dir_ / "p.txt");
+    EXPECT_EQ(std::count(protocol.begin(), protocol.end(), '\n'), 3);
+    EXPECT_NE(protocol.find(";1;\"report 2: error -2147213202, clsGenMeldung.GenDSME: Datenbausteine konnten zum Meldegrund 99 nicht ermittelt werden\""),
+              std::string::npos);
+    for (const auto& e : fs::directory_iterator(dir_)) EXPECT_EQ(e.path().filename().string().find(".tmp-"), std::string::npos);
+}
+
+TEST_F(Cli, ReportsFromNdjson) {
+    auto jobFile = write("job.json", job(json::array()).dump());
+    write("reports.ndjson", report("A").dump() + "\n\n" + report("B").dump() + "\n");
+    ASSERT_EQ(run("generate " + jobFile.string() + " --reports " + (dir_ / "reports.ndjson").string() + " -o " +
+                  (dir_ / "out.txt").string()).status, 0);
+    EXPECT_EQ(slurp(dir_ / "out.txt"), expected_utf8({"A", "B"}, 3, "\n"));
+}
+
+TEST_F(Cli, BadJobsAreRefused) {
+    const std::string jobs[] = {
+        R"({"class":"clsGenDef","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","reports":[]})",
+        R"({"class":"clsGenMeldung","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","reprots":[]})",
+        R"({"class":"clsGenMeldung","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F"})",
+        "not json",
+    };
+    for (const auto& j : jobs) {
+        auto f = write("job.json", j);
+        EXPECT_EQ(run("generate " + f.string() + " -o " + (dir_ / "o.txt").string()).status, 2) << j;
+        EXPECT_FALSE(fs::exists(dir_ / "o.txt"));
+    }
+}
+
+TEST_F(Cli, CallAnswersEveryLineInOrder) {
+    auto f = write("req.ndjson",
+                   R"({"id":1,"class":"clsGenMeldung","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strCount":"3","enmVerfahren":"vmBV","datDate":"2024-03-01"}})"
+                   "\n\n{broken\n"
+                   R"({"id":3,"class":"clsGenAsyl","method":"GenDSKO","args":{}})" "\n");
+    Result r = run("call " + f.string());
+    EXPECT_EQ(r.status, 2);
+    std::istringstream lines(r.out);
+    std::string a, b, c;
+    std::getline(lines, a);
+    std::getline(lines, b);
+    std::getline(lines, c);
+    EXPECT_EQ(json::parse(a)["result"], "NCSZAGBVD1              2              202403010000010000000301");
+    EXPECT_TRUE(json::parse(b).contains("request_error"));
+    EXPECT_EQ(json::parse(c)["id"], 3);
+    EXPECT_EQ(json::parse(c)["request_error"], "method: clsGenAsyl has no method GenDSKO");
+}
+
+}  // namespace
