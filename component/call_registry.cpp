@@ -54,6 +54,7 @@ const Registry& registry() {
         Registry reg;
         register_frames_and_pending(reg);
         register_meldung(reg);
+        register_beitrag(reg);
         return reg;
     }();
     return r;

@@ -55,5 +55,6 @@ Method pending_data(const std::string& cls, const std::string& objName);
 // Each procedure's registration (component/register_*.cpp).
 void register_frames_and_pending(Registry& r);
 void register_meldung(Registry& r);
+void register_beitrag(Registry& r);
 
 }  // namespace tamrel

@@ -1,0 +1,19 @@
+#pragma once
+#include "component/shared_bindings.h"
+#include "reports/clsGenBeitrErh/BeitrErh.h"
+
+namespace tamrel::json_binding {
+
+template <>
+struct Binding<BeitrErh> {
+    using B = BeitrErh;
+    static constexpr auto fields = std::make_tuple(
+        field("Laufnummer", &B::Laufnummer), field("Ersatzaktenzeichen", &B::Ersatzaktenzeichen),
+        field("ArtKennzeichen", &B::ArtKennzeichen), field("Zeitraum1", &B::Zeitraum1),
+        field("Zeitraum2", &B::Zeitraum2), field("Betrag1", &B::Betrag1), field("Betrag2", &B::Betrag2),
+        field("Merkmal1", &B::Merkmal1), field("Betrag3", &B::Betrag3), field("Betrag4", &B::Betrag4),
+        field("Merkmal2", &B::Merkmal2), field("Betrag5", &B::Betrag5), field("Betrag6", &B::Betrag6),
+        field("Zeitpunkt", &B::Zeitpunkt), field("Vorgang", &B::Vorgang), field("Empfaenger", &B::Empfaenger));
+};
+
+}  // namespace tamrel::json_binding
