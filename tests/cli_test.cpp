@@ -172,3 +172,20 @@ TEST_F(Cli, CallAnswersEveryLineInOrder) {
 }
 
 }  // namespace
+
+namespace {
+
+// Every example job writes its transfer file and protocol.
+TEST_F(Cli, EveryExampleJobGenerates) {
+    for (const auto& e : fs::directory_iterator(fs::path(TAMREL_SOURCE_DIR) / "examples")) {
+        if (e.path().extension() != ".json") continue;
+        std::string proto = std::string(e.path().filename().string()).starts_with("xml-") ? "" :
+                            " --protocol " + (dir_ / "p.txt").string();
+        Result r = run("generate " + e.path().string() + proto + " -o " + (dir_ / "o.txt").string());
+        EXPECT_EQ(r.status, 0) << e.path();
+        std::string file = slurp(dir_ / "o.txt");
+        EXPECT_TRUE(file.starts_with("VOSZ") || file.starts_with("<?xml")) << e.path();
+    }
+}
+
+}  // namespace
