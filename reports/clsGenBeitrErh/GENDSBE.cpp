@@ -53,9 +53,7 @@ void GenDBHB(std::string& out, const BeitrErh& b) {
 }  // namespace
 
 std::string clsGenBeitrErh::GenData(const BeitrErh& b, DatensatzData& dd, const Date& datDate) const {
-    return call(
-        [&] { return call_text("clsGenBeitrErh.GenData(", ObjArg{"objBeitrErh"}, ObjArg{"udtDatensatzData"}, datDate); },
-        [&](int& line) {
+    return call("clsGenBeitrErh.GenData", [&](int& line) {
             std::string out;
             out.reserve(613);
             line = 1;
@@ -66,7 +64,7 @@ std::string clsGenBeitrErh::GenData(const BeitrErh& b, DatensatzData& dd, const 
             line = 3;
             if (dbhb) GenDBHB(out, b);
             return out;
-        });
+    });
 }
 
 }  // namespace tamrel

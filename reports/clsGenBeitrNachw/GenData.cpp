@@ -21,12 +21,7 @@ std::string negated(std::string_view amount) {
 std::string clsGenBeitrNachw::GenData(const BeitrNachw& b, std::string_view strBNRAb, std::string_view strBNRSt,
                                       std::string_view strVersion, std::string_view strMicroseconds,
                                       const Date& datDate) const {
-    return call(
-        [&] {
-            return call_text("clsGenBeitrNachw.GenData(", ObjArg{"objBeitrNachw"}, strBNRAb, strBNRSt, strVersion,
-                             strMicroseconds, datDate);
-        },
-        [&](int& line) {
+    return call("clsGenBeitrNachw.GenData", [&](int& line) {
             const Date date = mlGen::GetDate(datDate);
             const bool bnv = b.Nachweisart == bnBNV;
             const bool extended = b.Nachweisart == 1;
@@ -70,7 +65,7 @@ std::string clsGenBeitrNachw::GenData(const BeitrNachw& b, std::string_view strB
             }
             w.check(extended ? 774 : 678, "Datensatz");
             return out;
-        });
+    });
 }
 
 }  // namespace tamrel
