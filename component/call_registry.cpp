@@ -55,6 +55,7 @@ const Registry& registry() {
         register_frames_and_pending(reg);
         register_meldung(reg);
         register_beitrag(reg);
+        register_queries(reg);
         return reg;
     }();
     return r;

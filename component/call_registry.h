@@ -56,5 +56,6 @@ Method pending_data(const std::string& cls, const std::string& objName);
 void register_frames_and_pending(Registry& r);
 void register_meldung(Registry& r);
 void register_beitrag(Registry& r);
+void register_queries(Registry& r);
 
 }  // namespace tamrel

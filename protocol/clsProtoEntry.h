@@ -20,6 +20,7 @@ struct ArbeitsBesch;
 struct AbfrVers;
 struct AbfrStammdatenUV;
 struct Lohnnachweis;
+struct LnPosition;
 
 class clsProtoEntry : public Generator {
 public:
@@ -28,6 +29,12 @@ public:
     std::string CreateProtoBeitr(const BeitrNachw& objBeitrNachw, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoMeld(const Meldung& objMeldung, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoBeitrErh(const BeitrErh& objBeitrErh, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoBetrieb(const Betrieb& objBetrieb, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoAbfrVers(const AbfrVers& objAbfrVers, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoAbfrStammdatenUV(const AbfrStammdatenUV& objAbfrStammdatenUV, bool blnError,
+                                            std::string_view strErrText = {}) const;
+    std::string CreateProtoLohnnachweis(const Lohnnachweis& objLohnnachweis, bool blnError,
+                                        std::string_view strErrText = {}) const;
 };
 
 }  // namespace tamrel

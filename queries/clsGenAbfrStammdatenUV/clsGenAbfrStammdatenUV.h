@@ -1,0 +1,25 @@
+// The accident-insurance master-data query generator: DSAS, with DBAP when
+// the contact data hold anything.
+#pragma once
+#include <string>
+
+#include "component/frame_specs.h"
+#include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV.h"
+
+namespace tamrel {
+
+class clsGenAbfrStammdatenUV : public FrameGenerator {
+public:
+    explicit clsGenAbfrStammdatenUV(Host host = default_host())
+        : FrameGenerator(frames::kAbfrStammdatenUV, std::move(host)) {}
+
+    std::string GenData(const AbfrStammdatenUV& objAbfrStammdatenUV, DatensatzData& udtDatensatzData,
+                        const Date& datDate = {});
+
+    void GenDSAS(std::string& out, const AbfrStammdatenUV& a, const DatensatzData& dd, const Date& date);
+
+private:
+    std::string dbap_;  // the DBAP block of the most recent GenDSAS
+};
+
+}  // namespace tamrel

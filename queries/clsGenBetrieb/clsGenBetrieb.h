@@ -1,0 +1,25 @@
+// The establishment master data generator: DSBD, with DBKA when the second
+// address holds data.
+#pragma once
+#include <string>
+
+#include "component/frame_specs.h"
+#include "queries/clsGenBetrieb/Betrieb.h"
+
+namespace tamrel {
+
+class clsGenBetrieb : public FrameGenerator {
+public:
+    explicit clsGenBetrieb(Host host = default_host()) : FrameGenerator(frames::kBetrieb, std::move(host)) {}
+
+    std::string GenData(const Betrieb& objBetrieb, DatensatzData& udtDatensatzData, const Date& datDate = {});
+
+    // Internal builders, public for the tests.
+    void GenDSBD(std::string& out, const Betrieb& b, const DatensatzData& dd, const Date& date);
+    static std::string GenDBKA(const Betrieb& b, bool& filled);
+
+private:
+    std::string dbka_;  // the DBKA block of the most recent GenDSBD
+};
+
+}  // namespace tamrel

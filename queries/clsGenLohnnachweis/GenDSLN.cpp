@@ -1,0 +1,42 @@
+// The DSLN record: the fixed part as its layout table, then one 59-character
+// group per position.
+#include "core/writer.h"
+#include "queries/clsGenLohnnachweis/clsGenLohnnachweis.h"
+
+namespace tamrel {
+
+std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd, const Date& datDate) {
+    return call("clsGenLohnnachweis.GenData", [&](int& line) {
+        line = 1;
+        const Date date = mlGen::GetDate(datDate);
+        std::string out;
+        out.reserve(494 + 321 + 59 * static_cast<std::size_t>(l.AnzahlPositionen > 0 ? l.AnzahlPositionen : 0));
+        line = 2;
+        GenDSLN(out, l, dd, date);
+        line = 3;
+        if (is_j(out, 479)) out += dbap_;
+        return out;
+    });
+}
+
+void clsGenLohnnachweis::GenDSLN(std::string& out, const Lohnnachweis& l, const DatensatzData& dd, const Date& date) {
+    routine("clsGenLohnnachweis.GenDSLN", [&](int& line) {
+        Writer w(out, line);
+        w.an("DSLN", 4).an("UVELN", 5).an(dd.strBNRAb, 15).an("95783331", 15).n("01", 2).zeros(2).zeros(2);
+        w.stamp(l.ErstellDatum, 1, date, 14).n(dd.strMicroseconds, 6).zeros(20).an("N", 1).n("0", 1).n("0", 1);
+        w.blank(100).an(dd.strProdID, 7).an(dd.strModID, 8).an(dd.strVersion, 10).n(l.DatensatzNr, 10).blank(12);
+        w.an(l.Feld236, 32).flag(l.Kennz268).blank(32).n("5", 1).blank(100).an(l.Feld402, 15).an(l.Feld417, 20);
+        w.n(l.Feld437, 5).n(l.Feld442, 3).n(l.Feld445, 4).an(l.Arbeitgeber.Betriebsnummer, 15).an(l.Feld464, 15);
+        dbap_.clear();
+        bool hasData = false;
+        AppendDBAP(dbap_, l, l.Arbeitgeber, hasData, "clsGenLohnnachweis.GenDBAP");
+        w.an(hasData ? "J" : "N", 1).an(l.Feld480, 4).an(l.Feld484, 3).n(l.Feld487, 6).n(l.AnzahlPositionen, 2);
+        for (std::int16_t i = 1; i <= l.AnzahlPositionen; i = add16(i, 1)) {
+            const LnPosition p = l.Position(i);
+            w.an(p.PosFeld1, 15).an(p.PosFeld2, 8).n(p.PosFeld3, 15).n(p.PosFeld4, 15).n(p.PosFeld5, 6);
+        }
+        w.check(add16(494, mul16(59, l.AnzahlPositionen)), "DSLN");
+    });
+}
+
+}  // namespace tamrel

@@ -1,0 +1,23 @@
+// The accident-insurance wage statement generator: DSLN with its positions,
+// and DBAP when the contact data hold anything.
+#pragma once
+#include <string>
+
+#include "component/frame_specs.h"
+#include "queries/clsGenLohnnachweis/Lohnnachweis.h"
+
+namespace tamrel {
+
+class clsGenLohnnachweis : public FrameGenerator {
+public:
+    explicit clsGenLohnnachweis(Host host = default_host()) : FrameGenerator(frames::kLohnnachweis, std::move(host)) {}
+
+    std::string GenData(const Lohnnachweis& objLohnnachweis, DatensatzData& udtDatensatzData, const Date& datDate = {});
+
+    void GenDSLN(std::string& out, const Lohnnachweis& l, const DatensatzData& dd, const Date& date);
+
+private:
+    std::string dbap_;  // the DBAP block of the most recent GenDSLN
+};
+
+}  // namespace tamrel
