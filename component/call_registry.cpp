@@ -56,6 +56,7 @@ const Registry& registry() {
         register_meldung(reg);
         register_beitrag(reg);
         register_queries(reg);
+        register_payments(reg);
         return reg;
     }();
     return r;

@@ -57,5 +57,6 @@ void register_frames_and_pending(Registry& r);
 void register_meldung(Registry& r);
 void register_beitrag(Registry& r);
 void register_queries(Registry& r);
+void register_payments(Registry& r);
 
 }  // namespace tamrel

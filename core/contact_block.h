@@ -1,5 +1,6 @@
-// DBAP, the contact-person block of the accident-insurance procedures
-// (master-data query and wage statement share it unchanged).
+// The contact-person block: contact person, then the employer's names and
+// address (postal code and town before street). The accident-insurance
+// procedures write it as DBAP, the reimbursement as DBAA.
 #pragma once
 #include <string>
 #include <string_view>
@@ -12,9 +13,9 @@ struct ContactPerson {
     std::string ApAnrede, ApName, ApTel, ApFax, ApEmail;
 };
 
-// Appends DBAP (321 characters); `hasData` is set when any field holds data.
-// `context` is the calling class's routine name for the log line.
-void AppendDBAP(std::string& out, const ContactPerson& ap, const Arbeitgeber& ag, bool& hasData,
-                std::string_view context);
+// Appends the 321-character block named `id`; `hasData` is set when any
+// field holds data. `context` is the calling routine's name for the log line.
+void AppendContactBlock(std::string& out, std::string_view id, const ContactPerson& ap, const Arbeitgeber& ag,
+                        bool& hasData, std::string_view context);
 
 }  // namespace tamrel

@@ -29,6 +29,8 @@ public:
     std::string CreateProtoBeitr(const BeitrNachw& objBeitrNachw, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoMeld(const Meldung& objMeldung, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoBeitrErh(const BeitrErh& objBeitrErh, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoErst(const Erst& objErst, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoZahl(const Zahl& objZahl, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoBetrieb(const Betrieb& objBetrieb, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoAbfrVers(const AbfrVers& objAbfrVers, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoAbfrStammdatenUV(const AbfrStammdatenUV& objAbfrStammdatenUV, bool blnError,

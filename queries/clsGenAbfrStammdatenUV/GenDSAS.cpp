@@ -29,7 +29,7 @@ void clsGenAbfrStammdatenUV::GenDSAS(std::string& out, const AbfrStammdatenUV& a
         w.n(a.Feld417, 5).n(a.Feld422, 3).n(a.Feld425, 4).an(a.Arbeitgeber.Betriebsnummer, 15).an(a.Feld444, 15);
         dbap_.clear();
         bool hasData = false;
-        AppendDBAP(dbap_, a, a.Arbeitgeber, hasData, "clsGenAbfrStammdatenUV.GenDBAP");
+        AppendContactBlock(dbap_, "DBAP", a, a.Arbeitgeber, hasData, "clsGenAbfrStammdatenUV.GenDBAP");
         w.an(hasData ? "J" : "N", 1).an("UV10", 4);
         w.check(463, "DSAS");
     });

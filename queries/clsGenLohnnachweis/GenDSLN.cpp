@@ -29,7 +29,7 @@ void clsGenLohnnachweis::GenDSLN(std::string& out, const Lohnnachweis& l, const 
         w.n(l.Feld437, 5).n(l.Feld442, 3).n(l.Feld445, 4).an(l.Arbeitgeber.Betriebsnummer, 15).an(l.Feld464, 15);
         dbap_.clear();
         bool hasData = false;
-        AppendDBAP(dbap_, l, l.Arbeitgeber, hasData, "clsGenLohnnachweis.GenDBAP");
+        AppendContactBlock(dbap_, "DBAP", l, l.Arbeitgeber, hasData, "clsGenLohnnachweis.GenDBAP");
         w.an(hasData ? "J" : "N", 1).an(l.Feld480, 4).an(l.Feld484, 3).n(l.Feld487, 6).n(l.AnzahlPositionen, 2);
         for (std::int16_t i = 1; i <= l.AnzahlPositionen; i = add16(i, 1)) {
             const LnPosition p = l.Position(i);

@@ -1,0 +1,69 @@
+// The DSER record, left to right as its layout table.
+#include "core/writer.h"
+#include "reports/clsGenErst/clsGenErst.h"
+
+namespace tamrel {
+namespace {
+
+std::string_view reason_code(const Erst& e) {
+    if (e.Erstattungsgrund == 11) return "01";
+    if (e.Leistungsart == 2) return "02";
+    if (e.Leistungsart == 1) return "03";
+    return {};
+}
+
+std::string_view settlement_code(std::int32_t v) {
+    static constexpr std::string_view codes[] = {"0", "1", "2", "3"};
+    return v >= 1 && v <= 4 ? codes[v - 1] : std::string_view{};
+}
+
+}  // namespace
+
+std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& datDate) const {
+    return call([&] { return call_text("clsGenErst.GenData(", ObjArg{"objErst"}, ObjArg{"udtDatensatzData"}, datDate); },
+                [&](int& line) {
+                    line = 1;
+                    const Date date = mlGen::GetDate(datDate);
+                    std::string out;
+                    out.reserve(455 + 202 + 180 + 191 + 174 + 125 + 321);
+                    line = 2;
+                    GenDSER(out, e, dd, date);
+                    const bool dbau = is_j(out, 349), dbbt = is_j(out, 350), dbzu = is_j(out, 351), dbaa = is_j(out, 354);
+                    line = 3;
+                    if (dbau) GenDBAU(out, e);
+                    line = 4;
+                    if (dbbt) GenDBBT(out, e);
+                    line = 5;
+                    if (dbzu) GenDBZU(out, e);
+                    line = 6;
+                    GenDBBV(out, e);
+                    line = 7;
+                    GenDBNA(out, e);
+                    line = 8;
+                    if (dbaa) GenDBAA(out, e);
+                    return out;
+                });
+}
+
+void clsGenErst::GenDSER(std::string& out, const Erst& e, const DatensatzData& dd, const Date& date) {
+    routine("clsGenErst.GenDSER", [&](int& line) {
+        const Vorgang& v = e.Vorgang;
+        std::string reference;
+        bool scratch = false;
+        mlGen::AppendAn(reference, dd.strVersion, 10, scratch);
+        mlGen::AppendN(reference, mlGen::Decimal(e.ErstattungsId), 10, scratch);
+        Writer w(out, line);
+        w.lit("DSER").lit("AAGER").an(dd.strBNRAb, 15).an(e.Empfaenger.Betriebsnummer, 15).lit("05");
+        w.stamp(e.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0");
+        w.an(v.Versicherungsnummer, 12).n(v.Geburtsdatum, 8).an(v.Arbeitgeber.Betriebsnummer, 15);
+        w.an(v.Aktenzeichen, 20).blank(20).an(e.Empfaenger.Betriebsnummer, 15).blank(20);
+        w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).n(reason_code(e), 2).n(e.ErstDatum, 8);
+        w.n(settlement_code(e.Abrechnungskennzeichen), 1).an(v.Geschlecht, 1).lit("2").an(dd.strProdID, 7);
+        w.an(dd.strModID, 8).an(reference, 32).blank(100);
+        w.flag(e.Erstattungsgrund == 11).flag(e.Leistungsart == 2).flag(e.Leistungsart == 1).lit("J").lit("J");
+        w.flag(!e.DBAAEntfaellt).blank(1).blank(100);
+        w.check(455, "DSER");
+    });
+}
+
+}  // namespace tamrel

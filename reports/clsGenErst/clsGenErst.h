@@ -1,0 +1,27 @@
+// The reimbursement generator: DSER with DBAU, DBBT or DBZU by reason, then
+// DBBV, DBNA and (unless waived) DBAA.
+#pragma once
+#include <string>
+
+#include "component/frame_specs.h"
+#include "reports/clsGenErst/Erst.h"
+
+namespace tamrel {
+
+class clsGenErst : public FrameGenerator {
+public:
+    explicit clsGenErst(Host host = default_host()) : FrameGenerator(frames::kErst, std::move(host)) {}
+
+    std::string GenData(const Erst& objErst, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
+
+    // Internal builders, public for the tests.
+    static void GenDSER(std::string& out, const Erst& e, const DatensatzData& dd, const Date& date);
+    static void GenDBAU(std::string& out, const Erst& e);
+    static void GenDBBT(std::string& out, const Erst& e);
+    static void GenDBZU(std::string& out, const Erst& e);
+    static void GenDBBV(std::string& out, const Erst& e);
+    static void GenDBNA(std::string& out, const Erst& e);
+    static void GenDBAA(std::string& out, const Erst& e);
+};
+
+}  // namespace tamrel

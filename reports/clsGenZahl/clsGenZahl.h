@@ -1,0 +1,28 @@
+// The pay-agency report generator: DSVZ with DBZK, DBNA and, when they hold
+// data, DBGA and DBAN; pseudonymised reports replace the person's identity.
+#pragma once
+#include <string>
+
+#include "component/frame_specs.h"
+#include "reports/clsGenZahl/Zahl.h"
+
+namespace tamrel {
+
+class clsGenZahl : public FrameGenerator {
+public:
+    explicit clsGenZahl(Host host = default_host()) : FrameGenerator(frames::kZahl, std::move(host)) {}
+
+    std::string GenData(const Zahl& objZahl, DatensatzData& udtDatensatzData, const Date& datDate = {});
+
+    // Internal builders, public for the tests.
+    void GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date);
+    static void GenDBZK(std::string& out, const Zahl& z);
+    static void GenDBNA(std::string& out, const Zahl& z);
+    static std::string GenDBGA(const Zahl& z, bool& hasData);
+    static std::string GenDBAN(const Zahl& z, bool& hasData);
+
+private:
+    std::string dbga_, dban_;  // built during the most recent GenDSVZ
+};
+
+}  // namespace tamrel
