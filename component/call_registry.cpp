@@ -57,6 +57,7 @@ const Registry& registry() {
         register_beitrag(reg);
         register_queries(reg);
         register_payments(reg);
+        register_asyl(reg);
         return reg;
     }();
     return r;

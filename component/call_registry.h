@@ -58,5 +58,6 @@ void register_meldung(Registry& r);
 void register_beitrag(Registry& r);
 void register_queries(Registry& r);
 void register_payments(Registry& r);
+void register_asyl(Registry& r);
 
 }  // namespace tamrel

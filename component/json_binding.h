@@ -35,6 +35,18 @@ constexpr Field<T, M> field(std::string_view name, M T::*member) {
     return {name, member};
 }
 
+// A group of properties spelt with a common prefix ("MgdVsnr", "MgdKvnr", …)
+// that fill one member of a nested type with its own table.
+template <class T, class M>
+struct Prefixed {
+    std::string_view prefix;
+    M T::*member;
+};
+template <class T, class M>
+constexpr Prefixed<T, M> prefixed(std::string_view prefix, M T::*member) {
+    return {prefix, member};
+}
+
 // Specialise with `static constexpr auto fields = std::make_tuple(field(...), ...);`
 template <class T>
 struct Binding;
@@ -109,18 +121,32 @@ void read(const json& j, std::vector<T>& out, const std::string& path) {
     }
 }
 
+template <class T, class M, class O>
+bool try_read(const Field<T, M>& f, std::string_view key, const json& value, O& out, const std::string& path) {
+    if (f.name != key) return false;
+    read(value, out.*(f.member), path);
+    return true;
+}
+
+template <class T, class M, class O>
+bool try_read(const Prefixed<T, M>& f, std::string_view key, const json& value, O& out, const std::string& path) {
+    if (!key.starts_with(f.prefix)) return false;
+    std::string_view rest = key.substr(f.prefix.size());
+    bool known = false;
+    std::apply([&](const auto&... g) { ((known = known || try_read(g, rest, value, out.*(f.member), path)), ...); },
+               Binding<M>::fields);
+    return known;
+}
+
 template <Bound T>
 void read(const json& j, T& out, const std::string& path) {
     if (!j.is_object()) fail(path, "expected an object");
     for (const auto& [key, value] : j.items()) {
         bool known = false;
-        std::apply(
-            [&](const auto&... f) {
-                ((!known && f.name == key ? (read(value, out.*(f.member), path + "." + key), known = true) : false),
-                 ...);
-            },
-            Binding<T>::fields);
-        if (!known) fail(path + "." + key, "unknown property");
+        const std::string here = path + "." + key;
+        std::apply([&](const auto&... f) { ((known = known || try_read(f, key, value, out, here)), ...); },
+                   Binding<T>::fields);
+        if (!known) fail(here, "unknown property");
     }
     if constexpr (requires { Binding<T>::finish(out, j); }) Binding<T>::finish(out, j);
 }
