@@ -69,3 +69,42 @@ TEST(CallProtocol, CInterfaceRoundTrip) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(CallProtocol, FrameCodesOfEveryClass) {
+    struct Case {
+        const char* cls;
+        const char* vosz_args;
+        const char* dsko_args;
+        const char* vosz;
+        const char* dsko;
+    };
+    const char* common = R"("strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F")";
+    const Case cases[] = {
+        {"clsGenMeldung", R"(,"enmVerfahren":"vmSofort")", "", "AGTRV", "DEUEV"},
+        {"clsGenBeitrNachw", R"(,"enmVerfahren":4)", R"(,"enmVerfahren":4)", "BWBNV", "BWBNV"},
+        {"clsGenBeitrNachw", R"(,"enmVerfahren":1)", R"(,"enmVerfahren":1)", "BWNAC", "BWNAC"},
+        {"clsGenBeitrErh", "", "", "AGBVB", "BVBEI"},
+        {"clsGenErst", R"(,"enmVerfahren":0)", "", "AGAAG", "AAGER"},
+        {"clsGenZahl", R"(,"enmVerfahren":0)", "", "AGDAZ", "ZAHLS"},
+        {"clsGenBetrieb", R"(,"enmVerfahren":0)", "", "AGDEU", "DEUEV"},
+        {"clsGenArbeitsBesch", R"(,"enmVerfahren":0)", "", "AGTBA", "ALG  "},
+        {"clsGenEntgelt", R"(,"enmVerfahren":0)", "", "AGEEL", "LEIST"},
+        {"clsGenAbfrVers", R"(,"enmVerfahren":0)", "", "AGTRV", "DEUEV"},
+        {"clsGenAbfrStammdatenUV", R"(,"enmVerfahren":0)", "", "UNUVS", "UVSDD"},
+        {"clsGenLohnnachweis", R"(,"enmVerfahren":0)", "", "UNUVL", "UVELN"},
+    };
+    for (const auto& c : cases) {
+        json v = call(std::string(R"({"class":")") + c.cls + R"(","method":"GenVOSZ","args":{)" + common + c.vosz_args +
+                      R"(,"datDate":"2024-03-01"}})");
+        ASSERT_TRUE(v.contains("result")) << c.cls << v.dump();
+        EXPECT_EQ(v["result"].get<std::string>().substr(4, 5), c.vosz) << c.cls;
+        EXPECT_EQ(v["result"].get<std::string>().size(), 105u);
+        json d = call(std::string(R"({"class":")") + c.cls + R"(","method":"GenDSKO","args":{"udtDSKOData":{})" +
+                      c.dsko_args + R"(,"datDate":"2024-03-01"}})");
+        EXPECT_EQ(d["result"].get<std::string>().substr(4, 5), c.dsko) << c.cls;
+    }
+}
+
+}  // namespace
