@@ -58,6 +58,7 @@ const Registry& registry() {
         register_queries(reg);
         register_payments(reg);
         register_asyl(reg);
+        register_certificates(reg);
         return reg;
     }();
     return r;

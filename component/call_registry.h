@@ -59,5 +59,6 @@ void register_beitrag(Registry& r);
 void register_queries(Registry& r);
 void register_payments(Registry& r);
 void register_asyl(Registry& r);
+void register_certificates(Registry& r);
 
 }  // namespace tamrel

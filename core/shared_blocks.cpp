@@ -5,22 +5,30 @@
 
 namespace tamrel::mlGen {
 
-void AppendDBNA(std::string& out, const Vorgang& v, bool marker) {
-    routine("mlGen.GenDBNA", [&](int& line) {
+void AppendNameBlock(std::string& out, const Vorgang& v, std::string_view marker, std::string_view context) {
+    routine(context, [&](int& line) {
         Writer w(out, line);
         w.lit("DBNA").an(v.Familienname, 30).an(v.Vorname, 30).an(v.Vorsatzwort, 20).an(v.Namenszusatz, 20);
-        w.an(v.Titel, 20).lit(marker ? "A" : " ");
+        w.an(v.Titel, 20).an(marker, 1);
         w.check(125, "DBNA");
     });
 }
 
-void AppendDBAN(std::string& out, const Vorgang& v, bool& filled) {
-    routine("mlGen.GenDBAN", [&](int& line) {
+void AppendAddressBlock(std::string& out, const Vorgang& v, bool blank_d, bool& filled, std::string_view context) {
+    routine(context, [&](int& line) {
         Writer w(out, line, filled);
-        w.lit("DBAN").an(v.Land == "D" ? std::string_view{} : std::string_view(v.Land), 3);
+        w.lit("DBAN").an(blank_d && v.Land == "D" ? std::string_view{} : std::string_view(v.Land), 3);
         w.an(v.PLZ, 10).an(v.Ort, 34).an(v.Strasse, 33).an(v.Hausnummer, 9).an(v.Adresszusatz, 40);
         w.check(133, "DBAN");
     });
+}
+
+void AppendDBNA(std::string& out, const Vorgang& v, bool marker) {
+    AppendNameBlock(out, v, marker ? "A" : " ", "mlGen.GenDBNA");
+}
+
+void AppendDBAN(std::string& out, const Vorgang& v, bool& filled) {
+    AppendAddressBlock(out, v, true, filled, "mlGen.GenDBAN");
 }
 
 void AppendDBGB(std::string& out, const Vorgang& v) {

@@ -1,6 +1,7 @@
 // The name, address and birth blocks that several procedures share.
 #pragma once
 #include <string>
+#include <string_view>
 
 #include "core/objects.h"
 
@@ -9,6 +10,11 @@ namespace tamrel::mlGen {
 std::string GenDBNA(const Vorgang& vorgang, bool marker);
 std::string GenDBAN(const Vorgang& vorgang, bool& filled);
 std::string GenDBGB(const Vorgang& vorgang);
+
+// The layouts behind the shared blocks: the marker character of DBNA and
+// whether DBAN writes the country "D" (the shared DBAN leaves it blank).
+void AppendNameBlock(std::string& out, const Vorgang& vorgang, std::string_view marker, std::string_view context);
+void AppendAddressBlock(std::string& out, const Vorgang& vorgang, bool blank_d, bool& filled, std::string_view context);
 
 // The same blocks appended to a caller's buffer.
 void AppendDBNA(std::string& out, const Vorgang& vorgang, bool marker);

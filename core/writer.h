@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/mlGen.h"
+#include "core/routine.h"
 #include "core/text.h"
 
 namespace tamrel {
@@ -58,5 +59,20 @@ private:
     bool own_filled_ = false;
     bool* filled_;
 };
+
+// A block whose fields all come from `fill`: its identifier, the fields, the
+// length check under its identifier, all under the routine `context`.
+// Returns whether any field held data.
+template <class Fill>
+bool write_block(std::string& out, std::string_view context, int length, std::string_view id, Fill&& fill) {
+    return routine(context, [&](int& line) {
+        bool filled = false;
+        Writer w(out, line, filled);
+        w.lit(id);
+        fill(w);
+        w.check(length, id);
+        return filled;
+    });
+}
 
 }  // namespace tamrel

@@ -32,6 +32,9 @@ public:
     std::string CreateProtoErst(const Erst& objErst, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoZahl(const Zahl& objZahl, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoBetrieb(const Betrieb& objBetrieb, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoEntgelt(const Entgelt& objEntgelt, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoArbeitsBesch(const ArbeitsBesch& objArbeitsBesch, bool blnError,
+                                        std::string_view strErrText = {}) const;
     std::string CreateProtoAbfrVers(const AbfrVers& objAbfrVers, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoAbfrStammdatenUV(const AbfrStammdatenUV& objAbfrStammdatenUV, bool blnError,
                                             std::string_view strErrText = {}) const;

@@ -1,0 +1,50 @@
+// The employment certificate generator: DSAB, DSEU or DSNE by procedure,
+// followed by the blocks the record announces.
+#pragma once
+#include <string>
+
+#include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
+#include "component/frame_specs.h"
+
+namespace tamrel {
+
+class clsGenArbeitsBesch : public FrameGenerator {
+public:
+    explicit clsGenArbeitsBesch(Host host = default_host()) : FrameGenerator(frames::kArbeitsBesch, std::move(host)) {}
+
+    std::string GenData(const ArbeitsBesch& objArbeitsBesch, DatensatzData& udtDatensatzData, const Date& datDate = {});
+
+    // Record builders, public for the tests.
+    void GenDSAB(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
+    void GenDSEU(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
+    void GenDSNE(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
+
+private:
+    std::string dbab_;    // the DBAB block of the most recent record
+    std::string second_;  // DBHA after DSAB, DBHN after DSNE
+};
+
+// The eighteen block builders; each appends its block and reports whether
+// any field held data.
+namespace bea {
+bool GenDBNA(std::string& out, const ArbeitsBesch& a);
+bool GenDBAN(std::string& out, const ArbeitsBesch& a);
+bool GenDBAG(std::string& out, const ArbeitsBesch& a);
+bool GenDBAB(std::string& out, const ArbeitsBesch& a);
+bool GenDBSE(std::string& out, const DBSE& item);
+bool GenDBNE(std::string& out, const ArbeitsBesch& a);
+bool GenDBSA(std::string& out, const ArbeitsBesch& a);
+bool GenDBSB(std::string& out, const DBSB& item);
+bool GenDBAZ(std::string& out, const DBAZ& item);
+bool GenDBEN(std::string& out, const DBEN& item);
+bool GenDBEZ(std::string& out, const DBEZ& item);
+bool GenDBEE(std::string& out, const DBEE& item);
+bool GenDBFZ(std::string& out, const DBFZ& item);
+bool GenDBHA(std::string& out, const ArbeitsBesch& a);
+bool GenDBKE(std::string& out, const ArbeitsBesch& a);
+bool GenDBKU(std::string& out, const ArbeitsBesch& a);
+bool GenDBNB(std::string& out, const ArbeitsBesch& a);
+bool GenDBHN(std::string& out, const ArbeitsBesch& a);
+}  // namespace bea
+
+}  // namespace tamrel

@@ -1,0 +1,78 @@
+// The DSLW record, left to right as its layout table; each block is built
+// where its flag is written and kept until GenData appends it.
+#include "certificates/clsGenEntgelt/clsGenEntgelt.h"
+#include "core/writer.h"
+
+namespace tamrel {
+
+namespace eel {
+bool GenDBNA(std::string& out, const Entgelt& e);
+bool GenDBAN(std::string& out, const Entgelt& e);
+bool GenDBAL(std::string& out, const Entgelt& e);
+bool GenDBAE(std::string& out, const Entgelt& e);
+bool GenDBZA(std::string& out, const Entgelt& e);
+bool GenDBEE(std::string& out, const Entgelt& e);
+bool GenDBAW(std::string& out, const Entgelt& e);
+bool GenDBFR(std::string& out, const Entgelt& e);
+bool GenDBUN(std::string& out, const Entgelt& e);
+bool GenDBMU(std::string& out, const Entgelt& e);
+bool GenDBVO(std::string& out, const Entgelt& e);
+bool GenDBHE(std::string& out, const Entgelt& e);
+bool GenDBBE(std::string& out, const Entgelt& e);
+bool GenDBLT(std::string& out, const Entgelt& e);
+bool GenDBSF(std::string& out, const Entgelt& e);
+bool GenDBTK(std::string& out, const Entgelt& e);
+bool GenDBAP(std::string& out, const Entgelt& e);
+bool GenDBID(std::string& out, const Entgelt& e);
+}  // namespace eel
+
+namespace {
+using Builder = bool (*)(std::string&, const Entgelt&);
+// In the order of their flags at positions 202-219.
+constexpr Builder kBuilders[clsGenEntgelt::kBlocks] = {
+    eel::GenDBNA, eel::GenDBAN, eel::GenDBAL, eel::GenDBAE, eel::GenDBZA, eel::GenDBEE,
+    eel::GenDBAW, eel::GenDBFR, eel::GenDBUN, eel::GenDBMU, eel::GenDBVO, eel::GenDBHE,
+    eel::GenDBBE, eel::GenDBLT, eel::GenDBSF, eel::GenDBTK, eel::GenDBAP, eel::GenDBID,
+};
+}  // namespace
+
+void clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date) {
+    routine("clsGenEntgelt.GenDSLW", [&](int& line) {
+        const Vorgang& v = e.Vorgang;
+        std::string dsid;
+        bool scratch = false;
+        mlGen::AppendAn(dsid, dd.strVersion, 10, scratch);
+        mlGen::AppendN(dsid, mlGen::Decimal(e.DatensatzNr), 10, scratch);
+        Writer w(out, line);
+        w.an("DSLW", 4).an("LEIST", 5).an(dd.strBNRAb, 15).an(e.Empfaenger.Betriebsnummer, 15).n("10", 2);
+        w.stamp(e.ErstellDatum, 1, date, 14).n(dd.strMicroseconds, 6).n("0", 1).n("0", 1);
+        w.an(v.Versicherungsnummer, 12).n(v.Geburtsdatum, 8).an(v.Arbeitgeber.Betriebsnummer, 15).an(dsid, 32);
+        w.an(dd.strProdID, 7).an(dd.strModID, 8).zeros(20).blank(2);
+        w.an(e.BBNRKK.empty() ? e.Empfaenger.Betriebsnummer : e.BBNRKK, 15).an(dd.strBNRSt, 15);
+        w.an(e.RUECKMELDUNGEEL, 1).n(e.ABGABEGRUND, 2).flag(e.KENNZSTORNO);
+        for (std::size_t k = 0; k < kBlocks; ++k) {
+            blocks_[k].clear();
+            w.flag(kBuilders[k](blocks_[k], e));
+        }
+        w.check(219, "DSLW");
+    });
+}
+
+std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Date& datDate) {
+    return call("clsGenEntgelt.GenData", [&](int& line) {
+        line = 1;
+        const Date date = mlGen::GetDate(datDate);
+        std::string out;
+        out.reserve(2048);
+        line = 2;
+        GenDSLW(out, e, dd, date);
+        bool wanted[kBlocks];
+        for (std::size_t k = 0; k < kBlocks; ++k) wanted[k] = is_j(out, 202 + k);
+        line = 3;
+        for (std::size_t k = 0; k < kBlocks; ++k)
+            if (wanted[k]) out += blocks_[k];
+        return out;
+    });
+}
+
+}  // namespace tamrel

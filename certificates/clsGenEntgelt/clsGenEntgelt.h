@@ -1,0 +1,26 @@
+// The earnings certificate generator: DSLW followed by the blocks it
+// announces, in the order of their flags at positions 202-219.
+#pragma once
+#include <array>
+#include <string>
+
+#include "certificates/clsGenEntgelt/Entgelt.h"
+#include "component/frame_specs.h"
+
+namespace tamrel {
+
+class clsGenEntgelt : public FrameGenerator {
+public:
+    explicit clsGenEntgelt(Host host = default_host()) : FrameGenerator(frames::kEntgelt, std::move(host)) {}
+
+    std::string GenData(const Entgelt& objEntgelt, DatensatzData& udtDatensatzData, const Date& datDate = {});
+
+    void GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date);
+
+    static constexpr std::size_t kBlocks = 18;  // DBNA … DBID
+
+private:
+    std::array<std::string, kBlocks> blocks_;  // built during the most recent GenDSLW
+};
+
+}  // namespace tamrel
