@@ -108,3 +108,9 @@ TEST(CallProtocol, FrameCodesOfEveryClass) {
 }
 
 }  // namespace
+
+#include <type_traits>
+
+#include "component/clsGenDef.h"
+
+static_assert(!std::is_default_constructible_v<tamrel::clsGenDef>, "clsGenDef cannot be created");
