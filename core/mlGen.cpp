@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 
 #include "core/error.h"
 #include "core/host.h"
@@ -9,17 +10,20 @@
 #include "core/text.h"
 
 namespace tamrel::mlGen {
-namespace {
-
-constexpr std::string_view kCheckLength = "mlGen.CheckLength";
-
-bool is_control(char c) { return c == '\r' || c == '\n' || c == '\t'; }
-
+namespace detail {
 bool has_non_ascii(std::string_view s) {
     for (unsigned char c : s)
         if (c >= 0x80) return true;
     return false;
 }
+}  // namespace detail
+namespace {
+using detail::has_non_ascii;
+
+constexpr std::string_view kCheckLength = "mlGen.CheckLength";
+
+bool is_control(char c) { return c == '\r' || c == '\n' || c == '\t'; }
+
 
 // Text fields take UTF-8; anything else is refused, never cut mid-character.
 void require_utf8(std::string_view value, const char* routine_name) {
@@ -27,7 +31,6 @@ void require_utf8(std::string_view value, const char* routine_name) {
         raise(kErrText, std::string("mlGen.") + routine_name, "Der Text ist kein g\xC3\xBCltiges UTF-8.");
 }
 
-void append_repeated(std::string& out, char c, std::size_t n) { out.append(n, c); }
 
 bool all_of(std::string_view s, char c) {
     for (char x : s)
@@ -84,39 +87,109 @@ Decimal::Decimal(std::int64_t v) noexcept {
     len = static_cast<std::size_t>(r.ptr - buf);
 }
 
-void AppendAn(std::string& out, std::string_view value, int width, bool& filled) {
-    if (width < 0) width = 0;
+// Short runs are filled and copied inline; most fields are a few characters.
+inline void fill(char* d, char c, std::size_t n) {
+    if (n > 32) {
+        std::memset(d, c, n);
+        return;
+    }
+    for (std::size_t i = 0; i < n; ++i) d[i] = c;
+}
+
+inline void copy(char* d, const char* s, std::size_t n) {
+    if (n > 32) {
+        std::memcpy(d, s, n);
+        return;
+    }
+    for (std::size_t i = 0; i < n; ++i) d[i] = s[i];
+}
+
+char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
+    const std::size_t take = value.size() < w ? value.size() : w;
+    // Common case: the characters kept are plain ASCII (no control character
+    // to remove) and the rest is ASCII too: copy them, then pad.
+    bool plain = true, content = false;
+    for (std::size_t i = 0; i < take; ++i) {
+        const auto c = static_cast<unsigned char>(value[i]);
+        if (c >= 0x80 || c == '\r' || c == '\n' || c == '\t') {
+            plain = false;
+            break;
+        }
+        content |= c != ' ';
+    }
+    if (plain && (take == value.size() || !has_non_ascii(value.substr(take)))) {
+        copy(d, value.data(), take);
+        fill(d + take, ' ', w - take);
+        if (content) filled = true;
+        return d + w;
+    }
     require_utf8(value, "StrToAn");
-    std::size_t room = static_cast<std::size_t>(width);
-    bool content = false;
-    for (std::size_t i = 0; i < value.size() && room > 0;) {
-        char c = value[i];
-        if (is_control(c)) {
-            ++i;
+    // Control characters are dropped; whole characters are kept up to `w`.
+    std::size_t room = w, run = 0, i = 0;
+    content = false;
+    for (; i < value.size(); ++i) {
+        const auto c = static_cast<unsigned char>(value[i]);
+        if (c == '\r' || c == '\n' || c == '\t') {
+            std::memcpy(d, value.data() + run, i - run);
+            d += i - run;
+            run = i + 1;
             continue;
         }
-        std::size_t n = text::seq_len(static_cast<unsigned char>(c));
-        out.append(value.substr(i, n));
-        content |= c != ' ';
-        i += n;
-        --room;
+        if ((c & 0xC0) != 0x80) {
+            if (room == 0) break;
+            --room;
+            content |= c != ' ';
+        }
     }
-    append_repeated(out, ' ', room);
+    std::memcpy(d, value.data() + run, i - run);
+    d += i - run;
+    std::memset(d, ' ', room);
     if (content) filled = true;
+    return d + room;
+}
+
+char* PutN(char* d, std::string_view value, std::size_t w, bool& filled) {
+    std::string_view kept = value;
+    std::size_t pad = 0;
+    if (!has_non_ascii(value)) {
+        if (value.size() >= w)
+            kept = value.substr(value.size() - w);
+        else
+            pad = w - value.size();
+    } else {
+        require_utf8(value, "StrToN");
+        std::size_t chars = text::char_count(value);
+        if (chars >= w)
+            kept = text::right(value, w);
+        else
+            pad = w - chars;
+    }
+    fill(d, '0', pad);
+    copy(d + pad, kept.data(), kept.size());
+    if (!filled && !all_of(kept, '0')) filled = true;
+    return d + pad + kept.size();
+}
+
+namespace {
+// Runs a pointer encoder on a std::string: room for the widest result
+// (four bytes a character), then the string is cut to what was written.
+template <class Put>
+void append_with(std::string& out, std::size_t max_bytes, Put&& put) {
+    const std::size_t start = out.size();
+    out.resize(start + max_bytes);
+    char* end = put(out.data() + start);
+    out.resize(static_cast<std::size_t>(end - out.data()));
+}
+}  // namespace
+
+void AppendAn(std::string& out, std::string_view value, int width, bool& filled) {
+    const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
+    append_with(out, 4 * w, [&](char* d) { return PutAn(d, value, w, filled); });
 }
 
 void AppendN(std::string& out, std::string_view value, int width, bool& filled) {
-    if (width < 0) width = 0;
-    require_utf8(value, "StrToN");
-    std::size_t chars = text::char_count(value);
-    std::size_t w = static_cast<std::size_t>(width);
-    std::string_view kept = value;
-    if (chars >= w)
-        kept = text::right(value, w);
-    else
-        append_repeated(out, '0', w - chars);
-    out += kept;
-    if (!all_of(kept, '0')) filled = true;
+    const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
+    append_with(out, 4 * w, [&](char* d) { return PutN(d, value, w, filled); });
 }
 
 void AppendPB(std::string& out, std::string_view value, int intVor, int intNach, bool& filled) {
@@ -240,6 +313,8 @@ std::string ConvertDateTimeToISO(std::string_view value) {
 
 namespace tamrel::mlGlobal {
 
+using mlGen::detail::has_non_ascii;
+
 void AppendCurrDate(std::string& out, std::string_view dateText, int format, const Date& date) {
     char own[8];
     std::string_view t = dateText;
@@ -249,13 +324,17 @@ void AppendCurrDate(std::string& out, std::string_view dateText, int format, con
         std::copy(tmp.begin(), tmp.end(), own);
         t = std::string_view(own, 8);
     }
-    std::string_view day = text::right(t, 2), month = text::mid(t, 5, 2), year = text::left(t, 4);
+    // Day from the right end, month from characters 5-6, year from 1-4.
+    const bool ascii = !has_non_ascii(t);
+    const std::string_view day = ascii ? t.substr(t.size() - 2) : text::right(t, 2);
+    const std::string_view month = ascii ? t.substr(4, 2) : text::mid(t, 5, 2);
+    const std::string_view year = ascii ? t.substr(0, 4) : text::left(t, 4);
     switch (format) {
         case 0: out.append(year).append(month).append(day); break;
         case 1:
             out.append(year).append(month).append(day);
             if (text::char_count(t) >= 14)
-                out.append(text::mid(t, 9, 6));
+                out.append(ascii ? t.substr(8, 6) : text::mid(t, 9, 6));
             else
                 append_hhnnss(out, date);
             break;

@@ -24,6 +24,11 @@ std::string ReplaceSpecialCharText(std::string_view text);
 std::string ConvertDate(std::string_view text);
 std::string ConvertDateTimeToISO(std::string_view text);
 
+// The text and numeric encoders writing at `d`, which has room for four
+// bytes per character of width; they return the end of what they wrote.
+char* PutAn(char* d, std::string_view value, std::size_t width, bool& filled);
+char* PutN(char* d, std::string_view value, std::size_t width, bool& filled);
+
 void AppendAn(std::string& out, std::string_view value, int width, bool& filled);
 void AppendN(std::string& out, std::string_view value, int width, bool& filled);
 void AppendPB(std::string& out, std::string_view value, int intVor, int intNach, bool& filled);

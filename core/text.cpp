@@ -1,5 +1,9 @@
 #include "core/text.h"
 
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
 namespace tamrel::text {
 
 bool is_valid_utf8(std::string_view s) noexcept {
@@ -27,10 +31,30 @@ bool is_valid_utf8(std::string_view s) noexcept {
     return true;
 }
 
+bool is_ascii(std::string_view s) noexcept {
+    std::size_t i = 0;
+    std::uint64_t any = 0;
+    for (; i + 8 <= s.size(); i += 8) {
+        std::uint64_t x;
+        std::memcpy(&x, s.data() + i, 8);
+        any |= x;
+    }
+    for (; i < s.size(); ++i) any |= static_cast<unsigned char>(s[i]);
+    return (any & 0x8080808080808080ULL) == 0;
+}
+
 std::size_t char_count(std::string_view s) noexcept {
-    std::size_t n = 0;
-    for (unsigned char c : s) n += (c & 0xC0) != 0x80;
-    return n;
+    // Characters are the bytes that are not continuation bytes (10xxxxxx);
+    // eight bytes at a time: bit 7 set and bit 6 clear.
+    std::size_t continuation = 0, i = 0;
+    const char* p = s.data();
+    for (; i + 8 <= s.size(); i += 8) {
+        std::uint64_t x;
+        std::memcpy(&x, p + i, 8);
+        continuation += static_cast<std::size_t>(std::popcount(x & ~(x << 1) & 0x8080808080808080ULL));
+    }
+    for (; i < s.size(); ++i) continuation += (static_cast<unsigned char>(p[i]) & 0xC0) == 0x80;
+    return s.size() - continuation;
 }
 
 std::size_t byte_offset(std::string_view s, std::size_t n) noexcept {

@@ -18,6 +18,9 @@ inline std::size_t seq_len(unsigned char lead) noexcept {
     return 4;
 }
 
+// True when every byte is ASCII (checked eight bytes at a time).
+bool is_ascii(std::string_view s) noexcept;
+
 // Number of characters in valid UTF-8 text.
 std::size_t char_count(std::string_view s) noexcept;
 

@@ -3,7 +3,11 @@
 // statement (the statement number of the log line), one filled flag shared
 // by every encoder of the block, and the length check that closes it.
 #pragma once
+#include <cassert>
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
+#include <exception>
 #include <string>
 #include <string_view>
 
@@ -18,46 +22,130 @@ namespace tamrel {
 inline std::string_view char_at(std::string_view record, std::size_t pos) { return text::mid(record, pos, 1); }
 inline bool is_j(std::string_view record, std::size_t pos) { return char_at(record, pos) == "J"; }
 
+// Reads the "J" flags at ascending 1-based character positions in one pass.
+template <std::size_t N>
+void read_flags(std::string_view record, const std::size_t (&positions)[N], bool (&out)[N]) {
+    const std::size_t last = positions[N - 1];
+    if (record.size() >= last && text::is_ascii(record.substr(0, last))) {
+        for (std::size_t k = 0; k < N; ++k) out[k] = record[positions[k] - 1] == 'J';
+        return;
+    }
+    std::size_t byte = 0, chr = 1;
+    for (std::size_t k = 0; k < N; ++k) {
+        while (chr < positions[k] && byte < record.size()) {
+            byte += text::seq_len(static_cast<unsigned char>(record[byte]));
+            ++chr;
+        }
+        out[k] = byte < record.size() && record[byte] == 'J';
+    }
+}
+
 class Writer {
 public:
-    // Appends to `out`; the record starts at the buffer's current end.
-    Writer(std::string& out, int& line) : out_(out), start_(out.size()), line_(line), filled_(&own_filled_) {}
+    // Writes a record that is appended to `out` when the writer ends
+    // (unless an error is on its way: then nothing is appended). Fields go
+    // into the writer's own buffer, on the stack for ordinary records.
+    Writer(std::string& out, int& line) : Writer(out, line, own_filled_) {}
     // As above, with the filled flag kept by the caller.
     Writer(std::string& out, int& line, bool& filled)
-        : out_(out), start_(out.size()), line_(line), filled_(&filled) {}
+        : out_(out), line_(line), filled_(&filled), errors_(std::uncaught_exceptions()) {}
+    ~Writer() {
+        if (std::uncaught_exceptions() == errors_) out_.append(buf_, used_);
+    }
+    Writer(const Writer&) = delete;
+    Writer& operator=(const Writer&) = delete;
 
-    Writer& lit(std::string_view s) { ++line_; out_ += s; return *this; }
-    Writer& an(std::string_view v, int width) { ++line_; mlGen::AppendAn(out_, v, width, *filled_); return *this; }
-    Writer& n(std::string_view v, int width) { ++line_; mlGen::AppendN(out_, v, width, *filled_); return *this; }
+    Writer& lit(std::string_view s) {
+        ++line_;
+        std::memcpy(room(s.size()), s.data(), s.size());
+        used_ += s.size();
+        for (char c : s) chars_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+        return *this;
+    }
+    Writer& an(std::string_view v, int width) {
+        return put(width, [&](char* d, std::size_t w) { return mlGen::PutAn(d, v, w, *filled_); });
+    }
+    Writer& n(std::string_view v, int width) {
+        return put(width, [&](char* d, std::size_t w) { return mlGen::PutN(d, v, w, *filled_); });
+    }
     Writer& n(std::int64_t v, int width) { return n(mlGen::Decimal(v), width); }
     Writer& blank(int width) { return an({}, width); }
     Writer& zeros(int width) { return n(std::string_view{}, width); }
-    Writer& pb(std::string_view v, int vor, int nach) { ++line_; mlGen::AppendPB(out_, v, vor, nach, *filled_); return *this; }
-    Writer& bg(std::string_view v, int vor, int nach) { ++line_; mlGen::AppendBG(out_, v, vor, nach, *filled_); return *this; }
-    Writer& jn(std::int32_t v) { ++line_; mlGen::AppendJN(out_, v, *filled_); return *this; }
+    Writer& pb(std::string_view v, int vor, int nach) { return amount(v, vor, nach, false); }
+    Writer& bg(std::string_view v, int vor, int nach) { return amount(v, vor, nach, true); }
+    Writer& jn(std::int32_t v) {
+        std::string field;
+        mlGen::AppendJN(field, v, *filled_);
+        return lit(field);
+    }
     Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
     Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
-        std::string t;
+        std::string t;  // at most 14 characters: no allocation
         mlGlobal::AppendCurrDate(t, dateText, format, date);
         return n(t, width);
     }
+    // Replaces the ASCII character at 0-based byte `index` of the record.
+    void patch(std::size_t index, char c) { buf_[index] = c; }
 
     bool filled() const { return *filled_; }
     void reset_filled() { *filled_ = false; }
-    std::string_view record() const { return std::string_view(out_).substr(start_); }
+    std::string_view record() const { return {buf_, used_}; }
     int& line() { return line_; }
 
+    // The length check that closes the record. Every encoder writes exactly
+    // its width, so the writer knows the record's length in characters
+    // without counting them again.
     void check(int length, std::string_view name) {
         ++line_;
-        mlGen::CheckLength(record(), length, name);
+        assert(chars_ == text::char_count(record()));
+        if (chars_ != static_cast<std::size_t>(length)) mlGen::CheckLength(record(), length, name);
     }
 
 private:
+    // Room for `bytes` more bytes at the record's end.
+    char* room(std::size_t bytes) {
+        if (used_ + bytes > cap_) grow(used_ + bytes);
+        return buf_ + used_;
+    }
+    void grow(std::size_t need) {
+        std::string bigger(std::max(need, 2 * cap_), '\0');
+        std::memcpy(bigger.data(), buf_, used_);
+        heap_.swap(bigger);
+        buf_ = heap_.data();
+        cap_ = heap_.size();
+    }
+
+    template <class Put>
+    Writer& put(int width, Put&& encode) {
+        ++line_;
+        const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
+        char* d = room(4 * w);
+        used_ = static_cast<std::size_t>(encode(d, w) - buf_);
+        chars_ += w;
+        return *this;
+    }
+
+    Writer& amount(std::string_view v, int vor, int nach, bool with_sign) {
+        std::string field;  // at most a dozen digits: no allocation
+        if (with_sign)
+            mlGen::AppendBG(field, v, vor, nach, *filled_);
+        else
+            mlGen::AppendPB(field, v, vor, nach, *filled_);
+        return lit(field);  // the field is one statement
+    }
+
+    static constexpr std::size_t kLocal = 4096;
     std::string& out_;
-    std::size_t start_;
     int& line_;
     bool own_filled_ = false;
     bool* filled_;
+    int errors_;
+    std::size_t used_ = 0;
+    std::size_t chars_ = 0;
+    std::size_t cap_ = kLocal;
+    char local_[kLocal];
+    char* buf_ = local_;
+    std::string heap_;
 };
 
 // A block whose fields all come from `fill`: its identifier, the fields, the

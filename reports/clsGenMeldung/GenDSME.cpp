@@ -46,18 +46,16 @@ std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerf
         set(5, 'N');
     }
     bool produced = false;
-    dbuv = clsGenMeldung::GenDBUV(m, produced);
+    dbuv.clear();
+    clsGenMeldung::AppendDBUV(dbuv, m, produced);
     set(6, produced ? 'J' : 'N');
     return f;
 }
 
-// Version prefix (an 10) and running number (n 10): the file reference.
-std::string version_and_number(const DatensatzData& dd, std::int32_t number) {
-    std::string ref;
-    bool filled = false;
-    mlGen::AppendAn(ref, dd.strVersion, 10, filled);
-    mlGen::AppendN(ref, mlGen::Decimal(number), 10, filled);
-    return ref;
+// Version prefix (an 10) and running number (n 10): the file reference,
+// written as one text field of `width`.
+void reference(Writer& w, const DatensatzData& dd, std::int32_t number, int width) {
+    w.an(dd.strVersion, 10).n(number, 10).blank(width - 20);
 }
 
 }  // namespace
@@ -71,7 +69,6 @@ void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzD
         },
         [&](int& line) {
             const Date date = mlGen::GetDate(datDate);
-            const std::string referenceB = version_and_number(dd, m.Laufnummer);
             const bool minijob = m.Beitragsgruppe2.size() > 0 &&
                                  std::string_view("246").find(m.Beitragsgruppe2) != std::string_view::npos;
             Writer w(out, line);
@@ -82,7 +79,7 @@ void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzD
             w.an(m.Vorgang.Arbeitgeber.Betriebsnummer, 15).an(m.Vorgang.Aktenzeichen, 20);
             w.an(m.Empfaenger.Betriebsnummer, 15);
             if (m.Meldungsart != 8)
-                w.an(referenceB, 20);
+                reference(w, dd, m.Laufnummer, 20);
             else
                 w.an(!m.Vorgang.Bezugskennung.empty() ? m.Vorgang.Bezugskennung : m.Ersatzaktenzeichen, 20);
             w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).n(m.Personengruppe, 3).n(m.Meldegrund, 2);
@@ -90,7 +87,8 @@ void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzD
             w.an(flag_text(*this, m, enmVerfahren, dbuv_), 10);
             w.blank(1).lit("5").blank(1).flag(enmVerfahren == vmSofort).an(m.Zusatzmerkmal, 1).blank(3);
             w.flag(m.Meldegrund == "58").blank(1).zeros(20).lit("01").an(dd.strProdID, 7).an(dd.strModID, 8);
-            w.an(referenceB, 32).blank(100).lit("N").blank(199);
+            reference(w, dd, m.Laufnummer, 32);
+            w.blank(100).lit("N").blank(199);
             w.check(559, "DSME");
         });
 }

@@ -29,30 +29,31 @@ void clsGenMeldung::GenDBEU(std::string& out, const Meldung& m) {
     });
 }
 
-std::string clsGenMeldung::GenDBUV(const Meldung& m, bool& produced) {
-    return routine("clsGenMeldung.GenDBUV", [&](int& line) {
+void clsGenMeldung::AppendDBUV(std::string& out, const Meldung& m, bool& produced) {
+    routine("clsGenMeldung.GenDBUV", [&](int& line) {
         produced = false;
         std::int16_t count = 0;
         std::int16_t required = 20;
-        std::string entries;
-        int entry_line = 0;
-        Writer e(entries, entry_line, produced);
+        Writer w(out, line, produced);
+        w.lit("DBUV").lit("0").blank(15);  // the count is written once the entries are known
         for (std::int16_t i = m.UvErster; i <= m.UvLetzter; i = add16(i, 1)) {
-            line = 2;
             if (m.UvEntfaellt(i)) continue;
-            e.an(m.UvAngabe1(i), 3).an(m.UvAngabe2(i), 15).an(m.UvAngabe3(i), 20).an(m.UvAngabe4(i), 15);
-            e.an(m.UvAngabe5(i), 8).n(m.UvAngabe6(i), 6).blank(4);
+            w.an(m.UvAngabe1(i), 3).an(m.UvAngabe2(i), 15).an(m.UvAngabe3(i), 20).an(m.UvAngabe4(i), 15);
+            w.an(m.UvAngabe5(i), 8).n(m.UvAngabe6(i), 6).blank(4);
             count = add16(count, 1);
             required = add16(required, 71);
         }
-        std::string block;
-        block.reserve(20 + entries.size());
-        line = 3;
-        Writer w(block, line, produced);
-        w.lit("DBUV").n(count, 1).blank(15).lit(entries);
+        std::string digit;
+        mlGen::AppendN(digit, mlGen::Decimal(count), 1, produced);
+        w.patch(4, digit[0]);
         w.check(required, "DBUV");
-        return block;
     });
+}
+
+std::string clsGenMeldung::GenDBUV(const Meldung& m, bool& produced) {
+    std::string out;
+    AppendDBUV(out, m, produced);
+    return out;
 }
 
 void clsGenMeldung::GenDBKS(std::string& out, const Meldung& m) {

@@ -68,7 +68,7 @@ std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int
             // block is appended: DBME, DBNA, DBGB, DBAN, DBEU, DBUV, DBKS, DBSO, DBKV.
             static constexpr std::size_t kFlagPositions[] = {171, 172, 173, 174, 175, 176, 177, 184, 189};
             bool wanted[9];
-            for (std::size_t i = 0; i < 9; ++i) wanted[i] = is_j(out, kFlagPositions[i]);
+            read_flags(out, kFlagPositions, wanted);
             line = 2;
             if (wanted[0]) GenDBME(out, m);
             line = 3;
