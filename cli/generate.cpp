@@ -17,6 +17,8 @@
 #include "cli/job.h"
 #include "cli/output_encoding.h"
 #include "component/call_protocol.h"
+#include "component/call_registry.h"
+#include "core/error.h"
 
 namespace tamrel::cli {
 namespace {
@@ -88,24 +90,25 @@ void check_markup(const json& v, const std::string& path, std::size_t index) {
 
 class Generator {
 public:
-    Generator(const Job& job, const GenerateOptions& o, Encoding enc) : job_(job), options_(o), enc_(enc) {}
+    Generator(const Job& job, const GenerateOptions& o, Encoding enc)
+        : job_(job),
+          options_(o),
+          enc_(enc),
+          session_(job.now.is_null() ? nullptr : &job.now, job.tests.is_null() ? nullptr : &job.tests) {}
 
-    std::string call_method(const char* method, json args, const std::string& what) {
-        bool protocol = std::string_view(method).starts_with("CreateProto");
-        json request = {{"class", protocol ? "clsProtoEntry" : job_.info->cls}, {"method", method}, {"args", std::move(args)}};
-        if (!job_.now.is_null()) request["now"] = job_.now;
-        if (!job_.tests.is_null()) request["tests"] = job_.tests;
-        auto response = call(request);
-        if (response.contains("request_error"))
-            throw ReportFailure(what + ": " + response["request_error"].get<std::string>());
-        if (response.contains("error")) {
-            const auto& e = response["error"];
-            std::string msg = what + ": error " + std::to_string(e["number"].get<long long>()) + ", " +
-                              e["source"].get<std::string>() + ": " + e["description"].get<std::string>();
-            throw ReportFailure(msg);
+    // Calls a method of the job's class (or of clsProtoEntry for the
+    // protocol lines) with `args`; a failure becomes a ReportFailure.
+    std::string call_method(const char* method, const json& args, const std::string& what) {
+        const bool protocol = std::string_view(method).starts_with("CreateProto");
+        const Method& m = CallSession::method(protocol ? "clsProtoEntry" : job_.info->cls, method);
+        try {
+            return session_.invoke(m, args);
+        } catch (const json_binding::RequestError& e) {
+            throw ReportFailure(what + ": " + e.what());
+        } catch (const tamrel::Error& e) {
+            throw ReportFailure(what + ": error " + std::to_string(e.number()) + ", " + e.source() + ": " +
+                                e.description());
         }
-        if (method == std::string("GenVOSZ")) datum_ = response["out"]["strDatum"].get<std::string>();
-        return response["result"].get<std::string>();
     }
 
     json vosz_args() const {
@@ -121,9 +124,11 @@ public:
         if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
         return a;
     }
-    json data_args(json report) const {
+    // The arguments of GenData without the report; the report is moved in
+    // and out of the same object for each call.
+    json data_args() const {
         json a = json::object();
-        a[job_.info->objParam] = std::move(report);
+        a[job_.info->objParam] = json::object();
         if (job_.info->frames == ClassInfo::BeitrNachw) {
             for (const char* k : {"strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"})
                 a[k] = job_.datensatz.value(k, "");
@@ -160,7 +165,7 @@ private:
     const Job& job_;
     const GenerateOptions& options_;
     Encoding enc_;
-    std::string datum_;
+    CallSession session_;
 };
 
 }  // namespace
@@ -198,17 +203,31 @@ int generate(const GenerateOptions& o) {
         if (!xml) out.write(gen.encoded_line(gen.call_method("GenDSKO", gen.dsko_args(), "DSKO"), "DSKO"));
 
         json report;
+        json args = gen.data_args();
+        json& slot = args[job.info->objParam];
+        json proto_args = {{job.info->objParam, json::object()}, {"blnError", false}};
         while (true) {
             ++index;
             std::string what = "report " + std::to_string(index);
             try {
                 if (!source.next(report, index)) break;
                 if (xml) check_markup(report, std::string(job.info->objParam), index);
-                std::string line = gen.encoded_line(gen.call_method("GenData", gen.data_args(report), what), what);
+                slot = std::move(report);
+                std::string record;
+                try {
+                    record = gen.call_method("GenData", args, what);
+                } catch (const ReportFailure&) {
+                    report = std::move(slot);
+                    throw;
+                }
+                report = std::move(slot);
+                std::string line = gen.encoded_line(record, what);
                 std::string proto_line;
-                if (proto)
-                    proto_line = gen.call_method(job.info->protoMethod,
-                                                 {{job.info->objParam, report}, {"blnError", false}}, what + " protocol");
+                if (proto) {
+                    proto_args[job.info->objParam] = std::move(report);
+                    proto_line = gen.call_method(job.info->protoMethod, proto_args, what + " protocol");
+                    report = std::move(proto_args[job.info->objParam]);
+                }
                 out.write(line);
                 if (proto) proto->write(gen.encoded_line(proto_line, what + " protocol"));
                 ++written;

@@ -52,11 +52,16 @@ std::size_t encode(std::string& out, std::string_view text, Encoding e) {
     }
     std::size_t position = 0;
     for (std::size_t i = 0; i < text.size();) {
-        ++position;
-        if (static_cast<unsigned char>(text[i]) < 0x80) {
-            out += text[i++];
+        // Runs of ASCII are the same in every encoding: copied in one go.
+        std::size_t run = i;
+        while (run < text.size() && static_cast<unsigned char>(text[run]) < 0x80) ++run;
+        if (run > i) {
+            out.append(text.data() + i, run - i);
+            position += run - i;
+            i = run;
             continue;
         }
+        ++position;
         char32_t cp = decode(text, i);
         int b = e == Encoding::Latin9 ? latin9(cp) : (cp <= 0xFF ? static_cast<int>(cp) : -1);
         if (b < 0) return position;

@@ -45,23 +45,6 @@ ObjectTests parse_tests(const json& j) {
     return t;
 }
 
-const Method& find_method(const json& request) {
-    if (!request.contains("class")) throw RequestError("class: missing");
-    if (!request.contains("method")) throw RequestError("method: missing");
-    const auto& c = request.at("class");
-    const auto& m = request.at("method");
-    if (!c.is_string()) throw RequestError("class: expected a string");
-    if (!m.is_string()) throw RequestError("method: expected a string");
-    const auto& cls = c.get_ref<const std::string&>();
-    const auto& name = m.get_ref<const std::string&>();
-    if (cls == "clsGenDef") throw RequestError("class: clsGenDef cannot be created");
-    auto it = registry().find(cls);
-    if (it == registry().end()) throw RequestError("class: unknown class " + cls);
-    auto mt = it->second.find(name);
-    if (mt == it->second.end()) throw RequestError("method: " + cls + " has no method " + name);
-    return mt->second;
-}
-
 void check_arg_names(const json& args, const Method& method) {
     for (const auto& [k, v] : args.items()) {
         bool known = std::find(method.required.begin(), method.required.end(), k) != method.required.end() ||
@@ -80,39 +63,69 @@ ordered_json with_id(const json& request) {
 
 }  // namespace
 
+CallSession::CallSession(const json* now, const json* tests)
+    : lines_(std::make_shared<std::vector<std::string>>()) {
+    host_.log = [lines = lines_](std::string_view l) { lines->emplace_back(l); };
+    if (now) {
+        Date fixed = parse_now(*now);
+        host_.now = [fixed] { return fixed; };
+    } else {
+        host_.now = [] { return system_now(); };
+    }
+    if (tests) host_.tests = parse_tests(*tests);
+}
+
+const Method& CallSession::method(const json& c, const json& m) {
+    if (!c.is_string()) throw RequestError("class: expected a string");
+    if (!m.is_string()) throw RequestError("method: expected a string");
+    const auto& cls = c.get_ref<const std::string&>();
+    const auto& name = m.get_ref<const std::string&>();
+    if (cls == "clsGenDef") throw RequestError("class: clsGenDef cannot be created");
+    auto it = registry().find(cls);
+    if (it == registry().end()) throw RequestError("class: unknown class " + cls);
+    auto mt = it->second.find(name);
+    if (mt == it->second.end()) throw RequestError("method: " + cls + " has no method " + name);
+    return mt->second;
+}
+
+std::string CallSession::invoke(const Method& method, const json& args) {
+    if (!args.is_object()) throw RequestError("args: expected an object");
+    check_arg_names(args, method);
+    lines_->clear();
+    out_ = ordered_json::object();
+    Invocation inv(args, host_);
+    std::string result = method.run(inv);
+    out_ = std::move(inv.out());
+    return result;
+}
+
 ordered_json call(const json& request) {
     ordered_json response = with_id(request);
     try {
         if (!request.is_object()) throw RequestError("request: expected a JSON object");
         for (const auto& [k, v] : request.items())
             if (!kRequestKeys.contains(k)) throw RequestError(k + ": unknown key");
-        const Method& method = find_method(request);
+        if (!request.contains("class")) throw RequestError("class: missing");
+        if (!request.contains("method")) throw RequestError("method: missing");
+        const Method& method = CallSession::method(request.at("class"), request.at("method"));
+        CallSession session(request.contains("now") ? &request.at("now") : nullptr,
+                            request.contains("tests") ? &request.at("tests") : nullptr);
         static const json kNoArgs = json::object();
         const json& args = request.contains("args") ? request.at("args") : kNoArgs;
-        if (!args.is_object()) throw RequestError("args: expected an object");
-        check_arg_names(args, method);
-
-        auto lines = std::make_shared<std::vector<std::string>>();
-        Host host{[lines](std::string_view l) { lines->emplace_back(l); }, Clock(), ObjectTests()};
-        if (request.contains("now")) {
-            Date fixed = parse_now(request.at("now"));
-            host.now = [fixed] { return fixed; };
-        } else {
-            host.now = [] { return system_now(); };
-        }
-        if (request.contains("tests")) host.tests = parse_tests(request.at("tests"));
-
-        Invocation inv(args, host);
         try {
-            std::string result = method.run(inv);
+            std::string result = session.invoke(method, args);
             response["result"] = std::move(result);
-            response["out"] = std::move(inv.out());
-            response["log"] = *lines;
+            response["out"] = std::move(session.out());
+            response["log"] = session.log();
         } catch (const Error& e) {
             response["error"] = {{"number", e.number()}, {"source", e.source()}, {"description", e.description()}};
-            response["log"] = *lines;
+            response["log"] = session.log();
         }
     } catch (const RequestError& e) {
+        response.erase("result");
+        response.erase("out");
+        response.erase("error");
+        response.erase("log");
         response["request_error"] = text::sanitize(e.what());
     }
     return response;

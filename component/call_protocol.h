@@ -1,12 +1,37 @@
 // The call protocol: one JSON request in, one JSON response out, for every
 // public method of every creatable class.
 #pragma once
+#include <memory>
 #include <string>
+#include <vector>
 #include <string_view>
 
 #include <nlohmann/json.hpp>
 
+#include "core/host.h"
+
 namespace tamrel {
+
+struct Method;
+
+// The state that calls with the same clock and test answers share: the host
+// (collecting log lines), built once; each invocation checks the argument
+// names and runs the method. Failures of the method raise Error; a request
+// that cannot be carried out raises json_binding::RequestError.
+class CallSession {
+public:
+    CallSession(const nlohmann::json* now, const nlohmann::json* tests);
+    static const Method& method(const nlohmann::json& cls, const nlohmann::json& name);
+    std::string invoke(const Method& method, const nlohmann::json& args);
+
+    const std::vector<std::string>& log() const { return *lines_; }
+    nlohmann::ordered_json& out() { return out_; }
+
+private:
+    std::shared_ptr<std::vector<std::string>> lines_;
+    Host host_;
+    nlohmann::ordered_json out_;
+};
 
 // The response to one request object (result/out/log, error/log, or
 // request_error).

@@ -3,10 +3,15 @@
 namespace tamrel {
 
 using json_binding::fail;
+using json_binding::Path;
+
+namespace {
+const Path kArgs{nullptr, "args"};
+}
 
 std::string Invocation::str(const char* name) const {
     std::string v;
-    json_binding::read(args_.at(name), v, std::string("args.") + name);
+    json_binding::read(args_.at(name), v, Path{&kArgs, name});
     return v;
 }
 
@@ -18,7 +23,7 @@ std::string Invocation::opt_str(const char* name) const {
 Date Invocation::date(const char* name) const {
     if (!args_.contains(name) || args_.at(name).is_null()) return {};
     const auto& j = args_.at(name);
-    std::string path = std::string("args.") + name;
+    const Path path{&kArgs, name};
     if (!j.is_string()) fail(path, "expected a date text");
     auto d = parse_iso_date(j.get_ref<const std::string&>());
     if (!d) fail(path, "expected \"YYYY-MM-DD\" or \"YYYY-MM-DDTHH:MM:SS\"");
@@ -32,20 +37,20 @@ std::int32_t Invocation::verf(const char* name) const {
         if (s == "vmNormal") return 0;
         if (s == "vmSofort") return 1;
         if (s == "vmBV") return 2;
-        fail(std::string("args.") + name, "expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\"");
+        fail(Path{&kArgs, name}, "expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\"");
     }
     return enm(name);
 }
 
 std::int32_t Invocation::enm(const char* name) const {
     std::int32_t v = 0;
-    json_binding::read(args_.at(name), v, std::string("args.") + name);
+    json_binding::read(args_.at(name), v, Path{&kArgs, name});
     return v;
 }
 
 bool Invocation::boolean(const char* name) const {
     bool v = false;
-    json_binding::read(args_.at(name), v, std::string("args.") + name);
+    json_binding::read(args_.at(name), v, Path{&kArgs, name});
     return v;
 }
 

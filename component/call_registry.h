@@ -28,7 +28,10 @@ public:
     bool boolean(const char* name) const;
     template <class T>
     T object(const char* name) const {
-        return json_binding::parse<T>(args_.at(name), std::string("args.") + name);
+        static const json_binding::Path args{nullptr, "args"};
+        T v{};
+        json_binding::read(args_.at(name), v, json_binding::Path{&args, name});
+        return v;
     }
     nlohmann::ordered_json& out() { return out_; }
 

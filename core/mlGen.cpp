@@ -192,6 +192,57 @@ void AppendN(std::string& out, std::string_view value, int width, bool& filled) 
     append_with(out, 4 * w, [&](char* d) { return PutN(d, value, w, filled); });
 }
 
+char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled) {
+    // Fast path: digits, separators and (where allowed) signs that fit the
+    // field. Anything else goes the full way, which raises the error.
+    constexpr std::size_t kMax = 40;
+    char vor[kMax], nach[kMax];
+    std::size_t nv = 0, nn = 0;
+    bool separator_seen = false, ok = intVor >= 0 && intNach >= 0;
+    char sign = 0;
+    for (std::size_t i = 0; ok && i < value.size(); ++i) {
+        const char c = value[i];
+        if (c >= '0' && c <= '9') {
+            if (separator_seen ? nn == kMax : nv == kMax) ok = false;
+            else if (separator_seen) nach[nn++] = c;
+            else vor[nv++] = c;
+        } else if (c == '+' || c == '-') {
+            if (with_sign) sign = c;
+            else ok = c == '+';
+        } else if (c == ',' || c == '.') {
+            if (separator_seen) {
+                if (nv + nn > kMax) ok = false;
+                else {
+                    std::memcpy(vor + nv, nach, nn);
+                    nv += nn;
+                }
+            }
+            separator_seen = true;
+            nn = 0;
+        } else {
+            ok = false;
+        }
+    }
+    const auto wv = static_cast<std::size_t>(intVor < 0 ? 0 : intVor);
+    const auto wn = static_cast<std::size_t>(intNach < 0 ? 0 : intNach);
+    if (!ok || nv > wv || nn > wn) {
+        std::string field;
+        append_amount(field, value, intVor, intNach, filled, with_sign);
+        std::memcpy(d, field.data(), field.size());
+        return d + field.size();
+    }
+    if (with_sign) *d++ = sign ? sign : '+';
+    fill(d, '0', wv - nv);
+    copy(d + wv - nv, vor, nv);
+    d += wv;
+    copy(d, nach, nn);
+    fill(d + nn, '0', wn - nn);
+    d += wn;
+    for (std::size_t i = 0; i < nv + nn && !filled; ++i)
+        if ((i < nv ? vor[i] : nach[i - nv]) != '0') filled = true;
+    return d;
+}
+
 void AppendPB(std::string& out, std::string_view value, int intVor, int intNach, bool& filled) {
     append_amount(out, value, intVor, intNach, filled, false);
 }

@@ -29,6 +29,9 @@ std::string ConvertDateTimeToISO(std::string_view text);
 char* PutAn(char* d, std::string_view value, std::size_t width, bool& filled);
 char* PutN(char* d, std::string_view value, std::size_t width, bool& filled);
 
+// The amount encoders (StrToPB, and StrToBG with `with_sign`) writing at `d`.
+char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled);
+
 void AppendAn(std::string& out, std::string_view value, int width, bool& filled);
 void AppendN(std::string& out, std::string_view value, int width, bool& filled);
 void AppendPB(std::string& out, std::string_view value, int intVor, int intNach, bool& filled);

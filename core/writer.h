@@ -126,12 +126,8 @@ private:
     }
 
     Writer& amount(std::string_view v, int vor, int nach, bool with_sign) {
-        std::string field;  // at most a dozen digits: no allocation
-        if (with_sign)
-            mlGen::AppendBG(field, v, vor, nach, *filled_);
-        else
-            mlGen::AppendPB(field, v, vor, nach, *filled_);
-        return lit(field);  // the field is one statement
+        const int width = vor + nach + (with_sign ? 1 : 0);
+        return put(width, [&](char* d, std::size_t) { return mlGen::PutAmount(d, v, vor, nach, with_sign, *filled_); });
     }
 
     static constexpr std::size_t kLocal = 4096;
