@@ -4,7 +4,7 @@
 // replaces its entries.
 #include "component/bindings/common.h"
 #include "component/call_registry.h"
-#include "component/frame_specs.h"
+#include "component/frame_codes.h"
 #include "reports/clsGenBeitrErh/clsGenBeitrErh.h"
 #include "reports/clsGenBeitrNachw/clsGenBeitrNachw.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"

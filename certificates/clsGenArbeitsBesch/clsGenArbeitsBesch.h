@@ -4,7 +4,7 @@
 #include <string>
 
 #include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
-#include "component/frame_specs.h"
+#include "component/frame_codes.h"
 
 namespace tamrel {
 

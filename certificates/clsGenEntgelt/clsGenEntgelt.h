@@ -5,7 +5,7 @@
 #include <string>
 
 #include "certificates/clsGenEntgelt/Entgelt.h"
-#include "component/frame_specs.h"
+#include "component/frame_codes.h"
 
 namespace tamrel {
 

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-#include "component/frame_specs.h"
+#include "component/frame_codes.h"
 #include "queries/clsGenAbfrVers/AbfrVers.h"
 
 namespace tamrel {

@@ -3,7 +3,7 @@
 #pragma once
 #include <string>
 
-#include "component/frame_specs.h"
+#include "component/frame_codes.h"
 #include "reports/clsGenErst/Erst.h"
 
 namespace tamrel {
