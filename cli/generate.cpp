@@ -236,9 +236,14 @@ int generate(const GenerateOptions& o) {
                 ++failed;
                 std::cerr << "tamrel generate: " << f.what() << " (left out)\n";
                 if (proto && report.is_object()) {
+                    // A report that cannot even be read has no protocol line of its own.
                     json args = {{job.info->objParam, report}, {"blnError", true}, {"strErrText", f.what()}};
-                    proto->write(gen.encoded_line(gen.call_method(job.info->protoMethod, args, what + " protocol"),
-                                                  what + " protocol"));
+                    try {
+                        proto->write(gen.encoded_line(
+                            gen.call_method(job.info->protoMethod, args, what + " protocol"), what + " protocol"));
+                    } catch (const ReportFailure& g) {
+                        std::cerr << "tamrel generate: " << g.what() << " (no protocol line)\n";
+                    }
                 }
             }
             if (progress && index % 100000 == 0) std::cerr << "\rtamrel generate: " << index << " reports" << std::flush;

@@ -129,6 +129,15 @@ TEST_F(Cli, FailureLeavesNothingAndKeepGoingLeavesTheReportOut) {
     EXPECT_NE(protocol.find(";1;\"report 2: error -2147213202, clsGenMeldung.GenDSME: Datenbausteine konnten zum Meldegrund 99 nicht ermittelt werden\""),
               std::string::npos);
     for (const auto& e : fs::directory_iterator(dir_)) EXPECT_EQ(e.path().filename().string().find(".tmp-"), std::string::npos);
+
+    // A report that cannot be read at all is left out as well.
+    json unreadable = report("X");
+    unreadable["Vorgang"]["Gebursdatum"] = "1";
+    jobFile = write("job2.json", job({report("A"), unreadable, report("C")}).dump());
+    keep = run("generate " + jobFile.string() + " --keep-going --protocol " + (dir_ / "p2.txt").string() + " -o " +
+               (dir_ / "out2.txt").string());
+    EXPECT_EQ(keep.status, 3);
+    EXPECT_EQ(slurp(dir_ / "out2.txt"), expected);
 }
 
 TEST_F(Cli, ReportsFromNdjson) {
