@@ -11,7 +11,7 @@ const Path kArgs{nullptr, "args"};
 
 std::string Invocation::str(const char* name) const {
     std::string v;
-    json_binding::read(args_.at(name), v, Path{&kArgs, name});
+    json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, Path{&kArgs, name});
     return v;
 }
 
@@ -44,13 +44,13 @@ std::int32_t Invocation::verf(const char* name) const {
 
 std::int32_t Invocation::enm(const char* name) const {
     std::int32_t v = 0;
-    json_binding::read(args_.at(name), v, Path{&kArgs, name});
+    json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, Path{&kArgs, name});
     return v;
 }
 
 bool Invocation::boolean(const char* name) const {
     bool v = false;
-    json_binding::read(args_.at(name), v, Path{&kArgs, name});
+    json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, Path{&kArgs, name});
     return v;
 }
 

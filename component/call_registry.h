@@ -30,7 +30,7 @@ public:
     T object(const char* name) const {
         static const json_binding::Path args{nullptr, "args"};
         T v{};
-        json_binding::read(args_.at(name), v, json_binding::Path{&args, name});
+        json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, json_binding::Path{&args, name});
         return v;
     }
     nlohmann::ordered_json& out() { return out_; }

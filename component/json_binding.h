@@ -88,141 +88,181 @@ struct Path {
 }
 [[noreturn]] inline void fail(const Path& path, std::string_view what) { fail(path.text(), what); }
 
-inline void read(const json& j, std::string& out, const Path& path) {
-    if (!j.is_string()) fail(path, "expected a string");
-    out = j.get_ref<const std::string&>();
+// The reader works on any JSON value through an adapter with: is_string /
+// string, is_bool / boolean, is_integer / integer(lo, hi, out), is_array /
+// each_element(f), is_object / each_member(f(key, value)) / has(key).
+// NlohmannValue adapts nlohmann-json (the call protocol); component/json_simd.h
+// adapts simdjson (the bulk path of tamrel generate).
+struct NlohmannValue {
+    const json& j;
+    bool is_string() const { return j.is_string(); }
+    std::string_view string() const { return j.get_ref<const std::string&>(); }
+    bool is_bool() const { return j.is_boolean(); }
+    bool boolean() const { return j.get<bool>(); }
+    bool is_integer() const { return j.is_number_integer(); }
+    bool integer(std::int64_t lo, std::int64_t hi, std::int64_t& out) const {
+        if (j.is_number_unsigned() && j.get<std::uint64_t>() > static_cast<std::uint64_t>(hi)) return false;
+        out = j.get<std::int64_t>();
+        return out >= lo && out <= hi;
+    }
+    bool is_array() const { return j.is_array(); }
+    std::size_t size() const { return j.size(); }
+    template <class F>
+    void each_element(F&& f) const {
+        for (const auto& e : j) f(NlohmannValue{e});
+    }
+    bool is_object() const { return j.is_object(); }
+    template <class F>
+    void each_member(F&& f) const {
+        for (const auto& [k, v] : j.items()) f(std::string_view(k), NlohmannValue{v});
+    }
+    bool has(std::string_view key) const { return j.contains(key); }
+};
+
+template <class V>
+void read(const V& v, std::string& out, const Path& path) {
+    if (!v.is_string()) fail(path, "expected a string");
+    out.assign(v.string());
 }
 
-inline void read(const json& j, bool& out, const Path& path) {
-    if (!j.is_boolean()) fail(path, "expected true or false");
-    out = j.get<bool>();
+template <class V>
+void read(const V& v, bool& out, const Path& path) {
+    if (!v.is_bool()) fail(path, "expected true or false");
+    out = v.boolean();
 }
 
-template <class I>
+template <class V, class I>
     requires(std::is_integral_v<I> && !std::is_same_v<I, bool>)
-void read(const json& j, I& out, const Path& path) {
-    if (!j.is_number_integer()) fail(path, "expected an integer");
-    bool in_range = j.is_number_unsigned() ? j.get<std::uint64_t>() <= static_cast<std::uint64_t>(std::numeric_limits<I>::max())
-                                           : j.get<std::int64_t>() >= std::numeric_limits<I>::min() &&
-                                                 j.get<std::int64_t>() <= std::numeric_limits<I>::max();
-    if (!in_range) fail(path, sizeof(I) == 2 ? "integer out of the 16-bit range" : "integer out of the 32-bit range");
-    out = static_cast<I>(j.get<std::int64_t>());
+void read(const V& v, I& out, const Path& path) {
+    if (!v.is_integer()) fail(path, "expected an integer");
+    std::int64_t x = 0;
+    if (!v.integer(std::numeric_limits<I>::min(), std::numeric_limits<I>::max(), x))
+        fail(path, sizeof(I) == 2 ? "integer out of the 16-bit range" : "integer out of the 32-bit range");
+    out = static_cast<I>(x);
 }
 
-template <class T>
-void read(const json& j, Indexed<T>& out, const Path& path) {
+template <class V, class T>
+void read(const V& v, Indexed<T>& out, const Path& path) {
     out.clear();
-    if (j.is_array()) {
+    if (v.is_array()) {
         std::int32_t i = 1;
-        for (const auto& e : j) {
-            T v{};
-            read(e, v, Path{&path, {}, static_cast<std::size_t>(i)});
-            out.set(static_cast<std::int16_t>(i), std::move(v));
-            if (++i > 32767) fail(path, "more than 32767 entries");
-        }
+        v.each_element([&](const V& e) {
+            if (i > 32767) fail(path, "more than 32767 entries");
+            T x{};
+            read(e, x, Path{&path, {}, static_cast<std::size_t>(i)});
+            out.set(static_cast<std::int16_t>(i), std::move(x));
+            ++i;
+        });
         return;
     }
-    if (!j.is_object()) fail(path, "expected an object of index to value, or an array");
-    for (const auto& [k, e] : j.items()) {
-        std::int64_t idx = 0;
-        bool ok = !k.empty() && k.size() <= 6;
-        for (char c : k) ok = ok && ((c >= '0' && c <= '9') || (c == '-' && &c == &k[0]));
-        if (ok) idx = std::stoll(k);
+    if (!v.is_object()) fail(path, "expected an object of index to value, or an array");
+    v.each_member([&](std::string_view k, const V& e) {
         const Path here{&path, k};
+        std::int32_t idx = 0;
+        bool ok = !k.empty() && k.size() <= 6;
+        for (std::size_t i = 0; ok && i < k.size(); ++i) ok = (k[i] >= '0' && k[i] <= '9') || (k[i] == '-' && i == 0);
+        ok = ok && k != "-";
+        if (ok) idx = std::stoi(std::string(k));
         if (!ok || idx < -32768 || idx > 32767) fail(here, "expected a 16-bit decimal index");
-        T v{};
-        read(e, v, here);
-        out.set(static_cast<std::int16_t>(idx), std::move(v));
-    }
+        T x{};
+        read(e, x, here);
+        out.set(static_cast<std::int16_t>(idx), std::move(x));
+    });
 }
 
-template <Bound T>
-void read(const json& j, T& out, const Path& path);
+template <class V, Bound T>
+void read(const V& v, T& out, const Path& path);
 
-template <class T>
-void read(const json& j, std::vector<T>& out, const Path& path) {
-    if (!j.is_array()) fail(path, "expected an array");
+template <class V, class T>
+void read(const V& v, std::vector<T>& out, const Path& path) {
+    if (!v.is_array()) fail(path, "expected an array");
     out.clear();
-    out.reserve(j.size());
+    out.reserve(v.size());
     std::size_t i = 1;
-    for (const auto& e : j) {
-        T v{};
-        read(e, v, Path{&path, {}, i++});
-        out.push_back(std::move(v));
-    }
+    v.each_element([&](const V& e) {
+        T x{};
+        read(e, x, Path{&path, {}, i++});
+        out.push_back(std::move(x));
+    });
 }
 
 // The properties of a type, sorted by name, each with its reader: one
 // binary search per key instead of a walk over the table.
-template <class O>
+template <class O, class V>
 struct Entry {
     std::string_view name;
-    void (*read)(const json&, O&, const Path&);
+    void (*read)(const V&, O&, const Path&);
 };
 
-template <class O>
+template <class O, class V>
 struct Dispatch {
-    std::vector<Entry<O>> entries;
-    const Entry<O>* find(std::string_view key) const {
+    std::vector<Entry<O, V>> entries;
+    const Entry<O, V>* find(std::string_view key) const {
         auto it = std::lower_bound(entries.begin(), entries.end(), key,
-                                   [](const Entry<O>& e, std::string_view k) { return e.name < k; });
+                                   [](const Entry<O, V>& e, std::string_view k) { return e.name < k; });
         return it != entries.end() && it->name == key ? &*it : nullptr;
     }
 };
 
-template <class O, std::size_t... I>
-Dispatch<O> make_dispatch(std::index_sequence<I...>) {
-    Dispatch<O> d;
+template <class O, class V, std::size_t... I>
+Dispatch<O, V> make_dispatch(std::index_sequence<I...>) {
+    Dispatch<O, V> d;
     auto add = [&](const auto& f, auto reader) {
         if constexpr (requires { f.name; }) d.entries.push_back({f.name, reader});
     };
     (add(std::get<I>(Binding<O>::fields),
-         +[](const json& j, O& out, const Path& path) {
+         +[](const V& v, O& out, const Path& path) {
              const auto& f = std::get<I>(Binding<O>::fields);
-             if constexpr (requires { f.name; }) read(j, out.*(f.member), path);
+             if constexpr (requires { f.name; }) read(v, out.*(f.member), path);
          }),
      ...);
-    std::sort(d.entries.begin(), d.entries.end(), [](const Entry<O>& a, const Entry<O>& b) { return a.name < b.name; });
+    std::sort(d.entries.begin(), d.entries.end(),
+              [](const Entry<O, V>& a, const Entry<O, V>& b) { return a.name < b.name; });
     return d;
 }
 
-template <class T, class M, class O>
-bool try_prefixed(const Prefixed<T, M>& f, std::string_view key, const json& value, O& out, const Path& path) {
+template <class O, class V>
+const Dispatch<O, V>& dispatch() {
+    static const auto table =
+        make_dispatch<O, V>(std::make_index_sequence<std::tuple_size_v<decltype(Binding<O>::fields)>>());
+    return table;
+}
+
+template <class V, class T, class M, class O>
+bool try_prefixed(const Prefixed<T, M>& f, std::string_view key, const V& value, O& out, const Path& path) {
     if (!key.starts_with(f.prefix)) return false;
-    static const auto table = make_dispatch<M>(std::make_index_sequence<std::tuple_size_v<decltype(Binding<M>::fields)>>());
-    const auto* e = table.find(key.substr(f.prefix.size()));
+    const auto* e = dispatch<M, V>().find(key.substr(f.prefix.size()));
     if (!e) return false;
     e->read(value, out.*(f.member), path);
     return true;
 }
-template <class T, class M, class O>
-bool try_prefixed(const Field<T, M>&, std::string_view, const json&, O&, const Path&) {
+template <class V, class T, class M, class O>
+bool try_prefixed(const Field<T, M>&, std::string_view, const V&, O&, const Path&) {
     return false;
 }
 
-template <Bound T>
-void read(const json& j, T& out, const Path& path) {
-    if (!j.is_object()) fail(path, "expected an object");
-    static const auto table =
-        make_dispatch<T>(std::make_index_sequence<std::tuple_size_v<decltype(Binding<T>::fields)>>());
-    for (const auto& [key, value] : j.items()) {
+template <class V, Bound T>
+void read(const V& v, T& out, const Path& path) {
+    if (!v.is_object()) fail(path, "expected an object");
+    const auto& table = dispatch<T, V>();
+    v.each_member([&](std::string_view key, const V& value) {
         const Path here{&path, key};
         if (const auto* e = table.find(key)) {
             e->read(value, out, here);
-            continue;
+            return;
         }
         bool known = false;
         std::apply([&](const auto&... f) { ((known = known || try_prefixed(f, key, value, out, here)), ...); },
                    Binding<T>::fields);
         if (!known) fail(here, "unknown property");
-    }
-    if constexpr (requires { Binding<T>::finish(out, j); }) Binding<T>::finish(out, j);
+    });
+    if constexpr (requires { Binding<T>::finish(out, v); }) Binding<T>::finish(out, v);
 }
 
 template <class T>
 T parse(const json& j, std::string_view path) {
     T v{};
-    read(j, v, Path{nullptr, path});
+    read(NlohmannValue{j}, v, Path{nullptr, path});
     return v;
 }
 

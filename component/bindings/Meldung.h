@@ -33,7 +33,8 @@ struct Binding<Meldung> {
         field("Vorgang", &M::Vorgang), field("Empfaenger", &M::Empfaenger));
 
     // An absent bound follows the indices given in its lists.
-    static void finish(Meldung& m, const json& j) {
+    template <class V>
+    static void finish(Meldung& m, const V& j) {
         auto lower = [](auto... lists) {
             std::int16_t v = 1;
             bool any = false;
@@ -46,12 +47,12 @@ struct Binding<Meldung> {
             ((lists->empty() ? void() : (v = any ? std::max(v, lists->largest()) : lists->largest(), any = true, void())), ...);
             return v;
         };
-        if (!j.contains("KsErster")) m.KsErster = lower(&m.KsZeileA, &m.KsZeileB, &m.KsZeileC, &m.KsZeileD);
-        if (!j.contains("KsLetzter")) m.KsLetzter = upper(&m.KsZeileA, &m.KsZeileB, &m.KsZeileC, &m.KsZeileD);
-        if (!j.contains("UvErster"))
+        if (!j.has("KsErster")) m.KsErster = lower(&m.KsZeileA, &m.KsZeileB, &m.KsZeileC, &m.KsZeileD);
+        if (!j.has("KsLetzter")) m.KsLetzter = upper(&m.KsZeileA, &m.KsZeileB, &m.KsZeileC, &m.KsZeileD);
+        if (!j.has("UvErster"))
             m.UvErster = lower(&m.UvAngabe1, &m.UvAngabe2, &m.UvAngabe3, &m.UvAngabe4, &m.UvAngabe5, &m.UvAngabe6,
                                &m.UvEntfaellt);
-        if (!j.contains("UvLetzter"))
+        if (!j.has("UvLetzter"))
             m.UvLetzter = upper(&m.UvAngabe1, &m.UvAngabe2, &m.UvAngabe3, &m.UvAngabe4, &m.UvAngabe5, &m.UvAngabe6,
                                 &m.UvEntfaellt);
     }

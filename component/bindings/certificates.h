@@ -37,9 +37,10 @@ struct Binding<ArbeitsBesch> {
         field("DBFZ", &A::DBFZ), field("AnzahlDBFZ", &A::AnzahlDBFZ), field("Vorgang", &A::Vorgang));
 
     // An absent count is the number of items given.
-    static void finish(ArbeitsBesch& a, const json& j) {
+    template <class V>
+    static void finish(ArbeitsBesch& a, const V& j) {
         auto count = [&](const char* name, std::size_t size, std::int16_t& out) {
-            if (j.contains(name)) return;
+            if (j.has(name)) return;
             if (size > 32767) fail(name, "more than 32767 items");
             out = static_cast<std::int16_t>(size);
         };

@@ -63,8 +63,9 @@ struct Binding<Lohnnachweis> {
         field("Arbeitgeber", &L::Arbeitgeber));
 
     // An absent count is the number of positions given.
-    static void finish(Lohnnachweis& l, const json& j) {
-        if (j.contains("AnzahlPositionen")) return;
+    template <class V>
+    static void finish(Lohnnachweis& l, const V& j) {
+        if (j.has("AnzahlPositionen")) return;
         if (l.Positionen.size() > 32767) fail("Position", "more than 32767 positions");
         l.AnzahlPositionen = static_cast<std::int16_t>(l.Positionen.size());
     }
