@@ -18,6 +18,8 @@
 #include "cli/output_encoding.h"
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
+#include "component/report_runner.h"
+#include "component/shared_bindings.h"
 #include "core/error.h"
 
 namespace tamrel::cli {
@@ -30,7 +32,8 @@ struct ReportFailure : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// Iterates the reports: the job's array, or an NDJSON file read line by line.
+// Iterates the reports: the job's array, or an NDJSON file read line by line
+// (each line handed on as text, parsed by the runner).
 class ReportSource {
 public:
     ReportSource(const Job& job, const std::string& override_file) {
@@ -38,29 +41,22 @@ public:
         if (!file.empty()) {
             stream_ = std::make_unique<std::ifstream>(file);
             if (!*stream_) throw std::runtime_error(file + ": cannot be read");
-            name_ = file;
         } else {
             array_ = &job.reports;
         }
     }
-    // Next report into `out`; false at the end. Throws ReportFailure for a
-    // line that is not a JSON object.
-    bool next(json& out, std::size_t index) {
+    // The next report: `element` points into the job's array, or `line`
+    // holds the text. False at the end.
+    bool next(const json*& element, std::string& line) {
         if (array_) {
             if (pos_ >= array_->size()) return false;
-            out = (*array_)[pos_++];
+            element = &(*array_)[pos_++];
             return true;
         }
-        std::string line;
+        element = nullptr;
         while (std::getline(*stream_, line)) {
             if (!line.empty() && line.back() == '\r') line.pop_back();
-            if (line.find_first_not_of(" \t") == std::string::npos) continue;
-            try {
-                out = json::parse(line);
-            } catch (const json::exception& e) {
-                throw ReportFailure("report " + std::to_string(index) + ": " + name_ + ": not valid JSON: " + e.what());
-            }
-            return true;
+            if (line.find_first_not_of(" \t") != std::string::npos) return true;
         }
         return false;
     }
@@ -69,7 +65,6 @@ private:
     const json* array_ = nullptr;
     std::size_t pos_ = 0;
     std::unique_ptr<std::ifstream> stream_;
-    std::string name_;
 };
 
 // Values of the XML report must hold no markup characters: the library
@@ -86,6 +81,12 @@ void check_markup(const json& v, const std::string& path, std::size_t index) {
         std::size_t i = 1;
         for (const auto& e : v) check_markup(e, path + "[" + std::to_string(i++) + "]", index);
     }
+}
+
+void check_markup_text(const std::string& line, const std::string& param, std::size_t index) {
+    if (line.find_first_of("&<>") == std::string::npos) return;
+    json parsed = json::parse(line, nullptr, false);
+    if (!parsed.is_discarded()) check_markup(parsed, param, index);
 }
 
 class Generator {
@@ -124,20 +125,31 @@ public:
         if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
         return a;
     }
-    // The arguments of GenData without the report; the report is moved in
-    // and out of the same object for each call.
-    json data_args() const {
-        json a = json::object();
-        a[job_.info->objParam] = json::object();
-        if (job_.info->frames == ClassInfo::BeitrNachw) {
-            for (const char* k : {"strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"})
-                a[k] = job_.datensatz.value(k, "");
-        } else {
-            a["udtDatensatzData"] = job_.datensatz;
+    // Runs a step of one report; a request error or a library error becomes
+    // the report's failure.
+    template <class F>
+    auto run(const std::string& what, F&& step) -> decltype(step()) {
+        try {
+            return step();
+        } catch (const json_binding::RequestError& e) {
+            throw ReportFailure(what + ": " + e.what());
+        } catch (const tamrel::Error& e) {
+            throw ReportFailure(what + ": error " + std::to_string(e.number()) + ", " + e.source() + ": " +
+                                e.description());
         }
-        if (job_.info->frames == ClassInfo::Meldung) a["enmVerfahren"] = job_.enmVerfahren;
+    }
+
+    // The runner that turns each report into its record: the record
+    // identification, procedure and date of the job, read once.
+    std::unique_ptr<ReportRunner> runner() const {
+        json a = {{"udtDatensatzData", job_.datensatz}, {"enmVerfahren", job_.enmVerfahren}};
         if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
-        return a;
+        Invocation inv(a, session_.host());
+        RunnerSettings settings{&session_.host(), inv.object<DatensatzData>("udtDatensatzData"),
+                                job_.info->frames == ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
+                                                                          : inv.verf("enmVerfahren"),
+                                inv.date("datDate")};
+        return make_runner(job_.info->cls, settings);
     }
     json ncsz_args(std::size_t count) const {
         json a = {{"strBNRAb", job_.frame.value("strBNRAb", json())},
@@ -202,49 +214,35 @@ int generate(const GenerateOptions& o) {
         out.write(gen.encoded_line(gen.call_method("GenVOSZ", gen.vosz_args(), "header VOSZ"), "header VOSZ"));
         if (!xml) out.write(gen.encoded_line(gen.call_method("GenDSKO", gen.dsko_args(), "DSKO"), "DSKO"));
 
-        json report;
-        json args = gen.data_args();
-        json& slot = args[job.info->objParam];
-        json proto_args = {{job.info->objParam, json::object()}, {"blnError", false}};
+        std::unique_ptr<ReportRunner> runner = gen.runner();
+        const std::string param = job.info->objParam;
+        const json* element = nullptr;
+        std::string text;
         while (true) {
             ++index;
-            std::string what = "report " + std::to_string(index);
+            const std::string what = "report " + std::to_string(index);
+            bool read = false;  // whether the report could be read into its object
             try {
-                if (!source.next(report, index)) break;
-                if (xml) check_markup(report, std::string(job.info->objParam), index);
-                slot = std::move(report);
-                std::string record;
-                try {
-                    record = gen.call_method("GenData", args, what);
-                } catch (const ReportFailure&) {
-                    report = std::move(slot);
-                    throw;
-                }
-                report = std::move(slot);
-                std::string line = gen.encoded_line(record, what);
+                if (!source.next(element, text)) break;
+                if (xml) element ? check_markup(*element, param, index) : check_markup_text(text, param, index);
+                gen.run(what, [&] { element ? runner->read(*element) : runner->read_text(text); });
+                read = true;
+                const std::string line = gen.encoded_line(gen.run(what, [&] { return runner->data(); }), what);
                 std::string proto_line;
-                if (proto) {
-                    proto_args[job.info->objParam] = std::move(report);
-                    proto_line = gen.call_method(job.info->protoMethod, proto_args, what + " protocol");
-                    report = std::move(proto_args[job.info->objParam]);
-                }
+                if (proto)
+                    proto_line = gen.encoded_line(gen.run(what + " protocol", [&] { return runner->protocol(false, {}); }),
+                                                  what + " protocol");
                 out.write(line);
-                if (proto) proto->write(gen.encoded_line(proto_line, what + " protocol"));
+                if (proto) proto->write(proto_line);
                 ++written;
             } catch (const ReportFailure& f) {
                 if (!o.keepGoing) throw;
                 ++failed;
                 std::cerr << "tamrel generate: " << f.what() << " (left out)\n";
-                if (proto && report.is_object()) {
-                    // A report that cannot even be read has no protocol line of its own.
-                    json args = {{job.info->objParam, report}, {"blnError", true}, {"strErrText", f.what()}};
-                    try {
-                        proto->write(gen.encoded_line(
-                            gen.call_method(job.info->protoMethod, args, what + " protocol"), what + " protocol"));
-                    } catch (const ReportFailure& g) {
-                        std::cerr << "tamrel generate: " << g.what() << " (no protocol line)\n";
-                    }
-                }
+                // A report that cannot even be read has no protocol line of its own.
+                if (proto && read)
+                    proto->write(gen.encoded_line(
+                        gen.run(what + " protocol", [&] { return runner->protocol(true, f.what()); }), what + " protocol"));
             }
             if (progress && index % 100000 == 0) std::cerr << "\rtamrel generate: " << index << " reports" << std::flush;
         }

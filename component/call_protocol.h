@@ -25,6 +25,7 @@ public:
     std::string invoke(const Method& method, const nlohmann::json& args);
 
     const std::vector<std::string>& log() const { return *lines_; }
+    const Host& host() const { return host_; }
     nlohmann::ordered_json& out() { return out_; }
 
 private:

@@ -1,0 +1,42 @@
+// Generates the reports of one transfer file without the call protocol in
+// between: each report is read from its JSON into the class's data object
+// and handed to the generator directly, and its protocol line (where the
+// procedure has one) is made from the same object.
+#pragma once
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+#include "core/date.h"
+#include "core/host.h"
+#include "core/objects.h"
+
+namespace tamrel {
+
+class ReportRunner {
+public:
+    virtual ~ReportRunner() = default;
+    // Reads one report (a JSON object): from JSON text, or from a parsed
+    // document. Throws json_binding::RequestError naming the property.
+    virtual void read_text(std::string_view json_text) = 0;
+    virtual void read(const nlohmann::json& report) = 0;
+    // The record of the report last read, with its blocks. Throws Error.
+    virtual std::string data() = 0;
+    // Its protocol line. Throws Error.
+    virtual std::string protocol(bool error, std::string_view text) = 0;
+};
+
+struct RunnerSettings {
+    const Host* host;
+    DatensatzData datensatz;  // for the contribution statement: strBNRAb, strBNRSt, strVersion, strMicroseconds
+    std::int32_t verfahren = 0;
+    Date date;
+};
+
+// The runner of a generator class; nullptr for an unknown class.
+std::unique_ptr<ReportRunner> make_runner(std::string_view cls, const RunnerSettings& settings);
+
+}  // namespace tamrel
