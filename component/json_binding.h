@@ -194,13 +194,30 @@ struct Entry {
     void (*read)(const V&, O&, const Path&);
 };
 
+// Names ordered by length first: most comparisons end on the length.
+inline bool name_before(std::string_view a, std::string_view b) {
+    return a.size() != b.size() ? a.size() < b.size() : a < b;
+}
+
 template <class O, class V>
 struct Dispatch {
     std::vector<Entry<O, V>> entries;
     const Entry<O, V>* find(std::string_view key) const {
         auto it = std::lower_bound(entries.begin(), entries.end(), key,
-                                   [](const Entry<O, V>& e, std::string_view k) { return e.name < k; });
+                                   [](const Entry<O, V>& e, std::string_view k) { return name_before(e.name, k); });
         return it != entries.end() && it->name == key ? &*it : nullptr;
+    }
+};
+
+// The properties an object held, for the rules that depend on whether a
+// property was given (a bound that follows the indices given).
+template <class O, class V>
+struct Present {
+    const Dispatch<O, V>& table;
+    std::vector<bool> seen;
+    bool has(std::string_view key) const {
+        const auto* e = table.find(key);
+        return e && seen[static_cast<std::size_t>(e - table.entries.data())];
     }
 };
 
@@ -217,7 +234,7 @@ Dispatch<O, V> make_dispatch(std::index_sequence<I...>) {
          }),
      ...);
     std::sort(d.entries.begin(), d.entries.end(),
-              [](const Entry<O, V>& a, const Entry<O, V>& b) { return a.name < b.name; });
+              [](const Entry<O, V>& a, const Entry<O, V>& b) { return name_before(a.name, b.name); });
     return d;
 }
 
@@ -245,10 +262,14 @@ template <class V, Bound T>
 void read(const V& v, T& out, const Path& path) {
     if (!v.is_object()) fail(path, "expected an object");
     const auto& table = dispatch<T, V>();
+    constexpr bool tracks = requires(T& t, const Present<T, V>& p) { Binding<T>::finish(t, p); };
+    Present<T, V> present{table, {}};
+    if constexpr (tracks) present.seen.assign(table.entries.size(), false);
     v.each_member([&](std::string_view key, const V& value) {
         const Path here{&path, key};
         if (const auto* e = table.find(key)) {
             e->read(value, out, here);
+            if constexpr (tracks) present.seen[static_cast<std::size_t>(e - table.entries.data())] = true;
             return;
         }
         bool known = false;
@@ -256,7 +277,7 @@ void read(const V& v, T& out, const Path& path) {
                    Binding<T>::fields);
         if (!known) fail(here, "unknown property");
     });
-    if constexpr (requires { Binding<T>::finish(out, v); }) Binding<T>::finish(out, v);
+    if constexpr (tracks) Binding<T>::finish(out, present);
 }
 
 template <class T>
