@@ -57,7 +57,7 @@ bool Invocation::boolean(const char* name) const {
 const Registry& registry() {
     static const Registry r = [] {
         Registry reg;
-        register_frames_and_pending(reg);
+        register_frames(reg);
         register_meldung(reg);
         register_beitrag(reg);
         register_queries(reg);

@@ -52,11 +52,8 @@ using Registry = std::map<std::string, ClassTable, std::less<>>;
 
 const Registry& registry();
 
-// GenData of a procedure that this build does not provide.
-Method pending_data(const std::string& cls, const std::string& objName);
-
 // Each procedure's registration (component/register_*.cpp).
-void register_frames_and_pending(Registry& r);
+void register_frames(Registry& r);
 void register_meldung(Registry& r);
 void register_beitrag(Registry& r);
 void register_queries(Registry& r);

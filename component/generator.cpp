@@ -40,8 +40,4 @@ std::string FrameGenerator::GenNCSZ(std::string_view strBNRAb, std::string_view 
                 });
 }
 
-void raise_not_available(std::string_view source) {
-    raise(kErrNotAvailable, std::string(source), "Das Verfahren ist in dieser Version nicht verf\xC3\xBCgbar.");
-}
-
 }  // namespace tamrel

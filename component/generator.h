@@ -62,7 +62,4 @@ private:
     FrameSpec spec_;
 };
 
-// The error of a procedure that this build does not provide.
-[[noreturn]] void raise_not_available(std::string_view source);
-
 }  // namespace tamrel

@@ -1,7 +1,5 @@
-// Every creatable class with its frame methods, and the methods whose
-// procedure a build may not provide yet: those fail with a clear error
-// rather than ever producing a wrong record. Each procedure's registration
-// replaces its entries.
+// The frame methods of every creatable class; each procedure's own
+// registration adds GenData and its protocol line.
 #include "component/bindings/common.h"
 #include "component/call_registry.h"
 #include "component/frame_codes.h"
@@ -17,14 +15,6 @@ class SpecFrames : public FrameGenerator {
 public:
     SpecFrames(const FrameSpec& spec, Host host) : FrameGenerator(spec, std::move(host)) {}
 };
-
-std::string pending(const Host& host, const std::string& context) {
-    HostScope scope(host);
-    return routine(context, [&](int& line) -> std::string {
-        line = 1;
-        raise_not_available(context.substr(0, context.find('(')));
-    });
-}
 
 // The frame methods' common reading: the four frame texts, then the
 // class-specific arguments, then the optional strDatum and datDate.
@@ -86,7 +76,7 @@ Method dsko(bool with_verf, std::function<std::string(const Host&, DSKOData&, st
             }};
 }
 
-void add_group_a(Registry& r, const std::string& cls, const FrameSpec& spec, const std::string& objName) {
+void add_group_a(Registry& r, const std::string& cls, const FrameSpec& spec) {
     ClassTable& t = r[cls];
     t["GenVOSZ"] = vosz(Verf::VerfMerkmal, 4, [spec](const Host& h, FrameArgs& f) {
         return SpecFrames(spec, h).GenVOSZ(f.a, f.e, f.f, f.text, f.verf, f.datum, f.date);
@@ -94,7 +84,6 @@ void add_group_a(Registry& r, const std::string& cls, const FrameSpec& spec, con
     t["GenDSKO"] = dsko(false, [spec](const Host& h, DSKOData& d, std::int32_t, const Date& date) {
         return SpecFrames(spec, h).GenDSKO(d, date);
     });
-    t["GenData"] = pending_data(cls, objName);
     t["GenNCSZ"] = ncsz(Verf::None, [spec](const Host& h, FrameArgs& f) {
         return SpecFrames(spec, h).GenNCSZ(f.a, f.e, f.f, f.text, f.date);
     });
@@ -121,7 +110,6 @@ void add_beitr_erh(Registry& r) {
     t["GenDSKO"] = dsko(false, [](const Host& h, DSKOData& d, std::int32_t, const Date& date) {
         return clsGenBeitrErh(h).GenDSKO(d, date);
     });
-    t["GenData"] = pending_data("clsGenBeitrErh", "objBeitrErh");
     t["GenNCSZ"] = ncsz(Verf::None, [](const Host& h, FrameArgs& f) {
         return clsGenBeitrErh(h).GenNCSZ(f.a, f.e, f.f, f.text, f.date);
     });
@@ -150,62 +138,21 @@ void add_asyl(Registry& r) {
     });
 }
 
-void add_proto_entry(Registry& r) {
-    struct P {
-        const char* method;
-        const char* obj;
-        const char* context;
-    };
-    static constexpr P methods[] = {
-        {"CreateProtoBeitr", "objBeitrNachw", "clsProtocol.CreateProtoBeitr"},
-        {"CreateProtoMeld", "objMeldung", "clsProtocol.CreateProtoMeld"},
-        {"CreateProtoBeitrErh", "objBeitrErh", "clsProtoEntry.CreateProtoBeitrErh("},
-        {"CreateProtoErst", "objErst", "clsProtoEntry.CreateProtoErst("},
-        {"CreateProtoZahl", "objZahl", "clsProtoEntry.CreateProtoZahl("},
-        {"CreateProtoBetrieb", "objBetrieb", "clsProtoEntry.CreateProtoBetrieb("},
-        {"CreateProtoEntgelt", "objEntgelt", "clsProtoEntry.CreateProtoEntgelt("},
-        {"CreateProtoArbeitsBesch", "objArbeitsBesch", "clsProtoEntry.CreateProtoArbeitsBesch("},
-        {"CreateProtoAbfrVers", "objAbfrVers", "clsProtoEntry.CreateProtoAbfrVers("},
-        {"CreateProtoAbfrStammdatenUV", "objAbfrStammdatenUV", "clsProtoEntry.CreateProtoAbfrStammdatenUV("},
-        {"CreateProtoLohnnachweis", "objLohnnachweis", "clsProtoEntry.CreateProtoLohnnachweis("},
-    };
-    ClassTable& t = r["clsProtoEntry"];
-    for (const P& p : methods) {
-        t[p.method] = {{p.obj, "blnError"}, {"strErrText"}, [p](Invocation& inv) {
-                           bool err = inv.boolean("blnError");
-                           auto text = inv.opt_str("strErrText");
-                           std::string ctx = p.context;
-                           if (ctx.back() == '(') ctx = call_text(ctx, ObjArg{p.obj}, err, text);
-                           return pending(inv.host(), ctx);
-                       }};
-    }
-}
-
 }  // namespace
 
-Method pending_data(const std::string& cls, const std::string& objName) {
-    return {{objName, "udtDatensatzData"}, {"datDate"}, [cls, objName](Invocation& inv) {
-                inv.object<DatensatzData>("udtDatensatzData");
-                auto date = inv.date("datDate");
-                return pending(inv.host(), call_text(cls + ".GenData(", ObjArg{objName.c_str()},
-                                                     ObjArg{"udtDatensatzData"}, date));
-            }};
-}
-
-void register_frames_and_pending(Registry& r) {
+void register_frames(Registry& r) {
     add_beitr_nachw(r);
     add_beitr_erh(r);
     add_meldung(r);
-    add_group_a(r, "clsGenErst", frames::kErst, "objErst");
-    add_group_a(r, "clsGenZahl", frames::kZahl, "objZahl");
-    add_group_a(r, "clsGenBetrieb", frames::kBetrieb, "objBetrieb");
-    add_proto_entry(r);
-    add_group_a(r, "clsGenArbeitsBesch", frames::kArbeitsBesch, "objArbeitsBesch");
-    add_group_a(r, "clsGenEntgelt", frames::kEntgelt, "objEntgelt");
-    add_group_a(r, "clsGenAbfrVers", frames::kAbfrVers, "objAbfrVers");
+    add_group_a(r, "clsGenErst", frames::kErst);
+    add_group_a(r, "clsGenZahl", frames::kZahl);
+    add_group_a(r, "clsGenBetrieb", frames::kBetrieb);
+    add_group_a(r, "clsGenArbeitsBesch", frames::kArbeitsBesch);
+    add_group_a(r, "clsGenEntgelt", frames::kEntgelt);
+    add_group_a(r, "clsGenAbfrVers", frames::kAbfrVers);
     add_asyl(r);
-    add_group_a(r, "clsGenAbfrStammdatenUV", frames::kAbfrStammdatenUV, "objAbfrStammdatenUV");
-    add_group_a(r, "clsGenLohnnachweis", frames::kLohnnachweis, "objLohnnachweis");
+    add_group_a(r, "clsGenAbfrStammdatenUV", frames::kAbfrStammdatenUV);
+    add_group_a(r, "clsGenLohnnachweis", frames::kLohnnachweis);
 }
 
 }  // namespace tamrel

@@ -15,7 +15,6 @@ inline constexpr std::int32_t kErrReason = kObjectErrorBase + 8302;     // DEUEV
 inline constexpr std::int32_t kErrDbksKind = kObjectErrorBase + 8303;   // DBKS for a wrong report kind
 inline constexpr std::int32_t kErrAmount = kObjectErrorBase + 8304;     // amounts, DM
 inline constexpr std::int32_t kErrText = kObjectErrorBase + 8305;       // text that is not UTF-8
-inline constexpr std::int32_t kErrNotAvailable = kObjectErrorBase + 8306;  // procedure not built in
 inline constexpr std::int32_t kErrOverflow = 6;                          // runtime overflow
 
 inline constexpr const char* kComponentName = "TamrelFile26";
