@@ -9,6 +9,7 @@
 
 #include "core/date.h"
 #include "core/host.h"
+#include "core/mlGen.h"
 #include "core/objects.h"
 #include "core/routine.h"
 
@@ -61,5 +62,21 @@ protected:
 private:
     FrameSpec spec_;
 };
+
+// The shape of a GenData: the date resolved (statement 1), the record built
+// into a fresh buffer (statement 2), the announced blocks appended to it
+// (statement 3).
+template <class Build, class Blocks>
+std::string record_then_blocks(int& line, const Date& datDate, std::size_t reserve, Build&& build, Blocks&& blocks) {
+    line = 1;
+    const Date date = mlGen::GetDate(datDate);
+    std::string out;
+    out.reserve(reserve);
+    line = 2;
+    build(out, date);
+    line = 3;
+    blocks(out);
+    return out;
+}
 
 }  // namespace tamrel

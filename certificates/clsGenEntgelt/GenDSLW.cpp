@@ -60,18 +60,14 @@ void clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzD
 
 std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Date& datDate) {
     return call("clsGenEntgelt.GenData", [&](int& line) {
-        line = 1;
-        const Date date = mlGen::GetDate(datDate);
-        std::string out;
-        out.reserve(2048);
-        line = 2;
-        GenDSLW(out, e, dd, date);
-        bool wanted[kBlocks];
-        for (std::size_t k = 0; k < kBlocks; ++k) wanted[k] = is_j(out, 202 + k);
-        line = 3;
-        for (std::size_t k = 0; k < kBlocks; ++k)
-            if (wanted[k]) out += blocks_[k];
-        return out;
+        return record_then_blocks(
+            line, datDate, 2048, [&](std::string& out, const Date& date) { GenDSLW(out, e, dd, date); },
+            [&](std::string& out) {
+                bool wanted[kBlocks];
+                for (std::size_t k = 0; k < kBlocks; ++k) wanted[k] = is_j(out, 202 + k);
+                for (std::size_t k = 0; k < kBlocks; ++k)
+                    if (wanted[k]) out += blocks_[k];
+            });
     });
 }
 

@@ -6,15 +6,11 @@ namespace tamrel {
 
 std::string clsGenAbfrStammdatenUV::GenData(const AbfrStammdatenUV& a, DatensatzData& dd, const Date& datDate) {
     return call("clsGenAbfrStammdatenUV.GenData", [&](int& line) {
-        line = 1;
-        const Date date = mlGen::GetDate(datDate);
-        std::string out;
-        out.reserve(784);
-        line = 2;
-        GenDSAS(out, a, dd, date);
-        line = 3;
-        if (is_j(out, 459)) out += dbap_;
-        return out;
+        return record_then_blocks(
+            line, datDate, 784, [&](std::string& out, const Date& date) { GenDSAS(out, a, dd, date); },
+            [&](std::string& out) {
+                if (is_j(out, 459)) out += dbap_;
+            });
     });
 }
 

@@ -7,18 +7,14 @@ namespace tamrel {
 
 std::string clsGenAbfrVers::GenData(const AbfrVers& a, DatensatzData& dd, const Date& datDate) const {
     return call("clsGenAbfrVers.GenData", [&](int& line) {
-        line = 1;
-        const Date date = mlGen::GetDate(datDate);
-        std::string out;
-        out.reserve(575);
-        line = 2;
-        GenDSVV(out, a, dd, date);
-        line = 3;
-        mlGen::AppendDBNA(out, a.Vorgang, false);
-        mlGen::AppendDBGB(out, a.Vorgang);
-        bool filled = false;
-        mlGen::AppendDBAN(out, a.Vorgang, filled);
-        return out;
+        return record_then_blocks(
+            line, datDate, 575, [&](std::string& out, const Date& date) { GenDSVV(out, a, dd, date); },
+            [&](std::string& out) {
+                mlGen::AppendDBNA(out, a.Vorgang, false);
+                mlGen::AppendDBGB(out, a.Vorgang);
+                bool filled = false;  // the three blocks are always sent
+                mlGen::AppendDBAN(out, a.Vorgang, filled);
+            });
     });
 }
 

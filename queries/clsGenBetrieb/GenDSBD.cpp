@@ -8,15 +8,11 @@ std::string clsGenBetrieb::GenData(const Betrieb& b, DatensatzData& dd, const Da
     return call(
         [&] { return call_text("clsGenBetrieb.GenData(", ObjArg{"objBetrieb"}, ObjArg{"udtDatensatzData"}, datDate); },
         [&](int& line) {
-            line = 1;
-            const Date date = mlGen::GetDate(datDate);
-            std::string out;
-            out.reserve(749);
-            line = 2;
-            GenDSBD(out, b, dd, date);
-            line = 3;
-            if (is_j(out, 535)) out += dbka_;
-            return out;
+            return record_then_blocks(
+                line, datDate, 749, [&](std::string& out, const Date& date) { GenDSBD(out, b, dd, date); },
+                [&](std::string& out) {
+                    if (is_j(out, 535)) out += dbka_;
+                });
         });
 }
 

@@ -6,16 +6,14 @@
 namespace tamrel {
 
 std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd, const Date& datDate) {
+    const std::size_t positions = l.AnzahlPositionen > 0 ? static_cast<std::size_t>(l.AnzahlPositionen) : 0;
     return call("clsGenLohnnachweis.GenData", [&](int& line) {
-        line = 1;
-        const Date date = mlGen::GetDate(datDate);
-        std::string out;
-        out.reserve(494 + 321 + 59 * static_cast<std::size_t>(l.AnzahlPositionen > 0 ? l.AnzahlPositionen : 0));
-        line = 2;
-        GenDSLN(out, l, dd, date);
-        line = 3;
-        if (is_j(out, 479)) out += dbap_;
-        return out;
+        return record_then_blocks(
+            line, datDate, 494 + 321 + 59 * positions,
+            [&](std::string& out, const Date& date) { GenDSLN(out, l, dd, date); },
+            [&](std::string& out) {
+                if (is_j(out, 479)) out += dbap_;
+            });
     });
 }
 
