@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/job.h"
+#include "component/call_protocol.h"
+#include "component/call_registry.h"
+#include "component/shared_bindings.h"
+#include "component/json_binding.h"
+#include "component/report_runner.h"
+#include "core/indexed.h"
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using namespace tamrel;
+
+namespace {
+
+// The runner (used by tamrel generate) and the call protocol must give the
+// very same record and protocol line for every report of every example job.
+TEST(ReportRunner, AgreesWithTheCallProtocolOnEveryExample) {
+    int checked = 0;
+    for (const auto& e : fs::directory_iterator(fs::path(TAMREL_SOURCE_DIR) / "examples")) {
+        if (e.path().extension() != ".json") continue;
+        json job = json::parse(std::ifstream(e.path()));
+        const auto* info = cli::find_class(job["class"]);
+        ASSERT_NE(info, nullptr) << e.path();
+        CallSession session(&job["now"], nullptr);
+        json settings_args = {{"udtDatensatzData", job["udtDatensatzData"]},
+                              {"enmVerfahren", job.value("enmVerfahren", json(0))},
+                              {"datDate", job["datDate"]}};
+        Invocation inv(settings_args, session.host());
+        RunnerSettings settings{&session.host(), inv.object<DatensatzData>("udtDatensatzData"),
+                                info->frames == cli::ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
+                                                                         : inv.verf("enmVerfahren"),
+                                inv.date("datDate")};
+        auto runner = make_runner(info->cls, settings);
+        ASSERT_TRUE(runner) << info->cls;
+        for (const json& report : job["reports"]) {
+            json args = {{info->objParam, report}, {"datDate", job["datDate"]}};
+            if (info->frames == cli::ClassInfo::BeitrNachw) {
+                for (const char* k : {"strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"})
+                    args[k] = job["udtDatensatzData"].value(k, "");
+            } else {
+                args["udtDatensatzData"] = job["udtDatensatzData"];
+            }
+            if (info->frames == cli::ClassInfo::Meldung) args["enmVerfahren"] = job["enmVerfahren"];
+            json request = {{"class", info->cls}, {"method", "GenData"}, {"args", args}, {"now", job["now"]}};
+            json response = json::parse(call(request).dump());
+            ASSERT_TRUE(response.contains("result")) << e.path() << response.dump();
+
+            runner->read_text(report.dump());
+            EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path();
+            runner->read(report);
+            EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path();
+            if (info->protoMethod) {
+                json proto = {{"class", "clsProtoEntry"},
+                              {"method", info->protoMethod},
+                              {"args", {{info->objParam, report}, {"blnError", true}, {"strErrText", "x\ny"}}}};
+                EXPECT_EQ(runner->protocol(true, "x\ny"), json::parse(call(proto).dump())["result"].get<std::string>());
+            }
+            ++checked;
+        }
+    }
+    EXPECT_GE(checked, 20);
+}
+
+// Both JSON readers refuse a bad report with the same words.
+TEST(ReportRunner, BothReadersReportTheSameRequestErrors) {
+    CallSession session(nullptr, nullptr);
+    RunnerSettings settings{&session.host(), {}, 0, {}};
+    auto runner = make_runner("clsGenMeldung", settings);
+    const std::pair<const char*, const char*> cases[] = {
+        {R"({"Laufnummer":"1"})", "args.objMeldung.Laufnummer: expected an integer"},
+        {R"({"Laufnummer":1.5})", "args.objMeldung.Laufnummer: expected an integer"},
+        {R"({"Laufnummer":4294967296})", "args.objMeldung.Laufnummer: integer out of the 32-bit range"},
+        {R"({"KsErster":-40000})", "args.objMeldung.KsErster: integer out of the 16-bit range"},
+        {R"({"Storno":1})", "args.objMeldung.Storno: expected true or false"},
+        {R"({"Vorgang":{"Arbeitgeber":{"Nmae1":""}}})", "args.objMeldung.Vorgang.Arbeitgeber.Nmae1: unknown property"},
+        {R"({"KsZeileA":{"x":"A"}})", "args.objMeldung.KsZeileA.x: expected a 16-bit decimal index"},
+        {R"({"KsZeileA":["A",2]})", "args.objMeldung.KsZeileA[2]: expected a string"},
+        {R"({"UvEntfaellt":{"1":"ja"}})", "args.objMeldung.UvEntfaellt.1: expected true or false"},
+        {R"([])", "args.objMeldung: expected an object"},
+    };
+    for (const auto& [text, message] : cases) {
+        for (bool simd : {true, false}) {
+            try {
+                simd ? runner->read_text(text) : runner->read(json::parse(text));
+                ADD_FAILURE() << text << " was accepted";
+            } catch (const json_binding::RequestError& e) {
+                EXPECT_EQ(std::string(e.what()), message) << text << (simd ? " (simdjson)" : " (nlohmann)");
+            }
+        }
+    }
+    EXPECT_THROW(runner->read_text("{\"Meldegrund\":\"\xFF\"}"), json_binding::RequestError);
+}
+
+TEST(Indexed, ReadsGivenIndicesAndEmptyElsewhere) {
+    Indexed<std::string> list;
+    EXPECT_EQ(list.smallest(), 1);
+    EXPECT_EQ(list.largest(), 0);
+    list.set(3, "c");
+    list.set(-2, "m");
+    list.set(5, "e");
+    EXPECT_EQ(list(-2), "m");
+    EXPECT_EQ(list(3), "c");
+    EXPECT_EQ(list(4), "");
+    EXPECT_EQ(list(6), "");
+    EXPECT_EQ(list(-32768), "");
+    EXPECT_EQ(list.smallest(), -2);
+    EXPECT_EQ(list.largest(), 5);
+    Indexed<bool> flags;
+    flags.set(2, true);
+    EXPECT_TRUE(flags(2));
+    EXPECT_FALSE(flags(1));
+}
+
+}  // namespace
