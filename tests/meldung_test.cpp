@@ -219,7 +219,7 @@ TEST(Meldung, ErrorsOfTheProcedure) {
         EXPECT_EQ(e.description(), c.description);
         ASSERT_EQ(host.lines.size(), c.lines);
         EXPECT_EQ(host.lines.back(), "Fehler " + std::to_string(c.number) +
-                                         " in TamrelFile26 1.0.0 (Zeile " + (c.lines == 2 ? "1" : "8") +
+                                         " in TamrelFile26 1.0.0 (Zeile " + (c.lines == 2 ? "1" : "3") +
                                          "): clsGenMeldung.GenData(<objMeldung>, <udtDatensatzData>, 0, "
                                          "2024-03-01 10:11:12) -> " + c.description);
     }
@@ -230,6 +230,26 @@ TEST(Meldung, ErrorsOfTheProcedure) {
     Error e = expect_error([&] { clsGenMeldung::GenDBKS(out, m); });
     EXPECT_EQ(e.number(), -2147213201);
     EXPECT_EQ(e.description(), "Falsches Verfahren bei Erzeugung DBKS");
+}
+
+TEST(Meldung, NegativeAmountIsLoggedByEveryRoutineOnItsWay) {
+    RecordingHost host;
+    clsGenMeldung gen(host.host);
+    Meldung m = registration();
+    m.Meldegrund = "58";
+    m.KvBetrag1 = "-5";
+    DatensatzData dd = datensatz();
+    Error e = expect_error([&] { gen.GenData(m, dd, vmSofort, kDate); });
+    EXPECT_EQ(e.number(), -2147213200);
+    EXPECT_EQ(e.source(), "mlGen.StrToPB");
+    EXPECT_EQ(e.description(), "Der Betrag darf nicht negativ sein.");
+    ASSERT_EQ(host.lines.size(), 3u);
+    EXPECT_EQ(host.lines.front(),
+              "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 7): mlGen.StrToPB -> Der Betrag darf nicht negativ sein.");
+    EXPECT_TRUE(host.lines[1].find("): clsGenMeldung.GenDBKV -> Der Betrag darf nicht negativ sein.") !=
+                std::string::npos);
+    EXPECT_EQ(host.lines.back(), "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 3): clsGenMeldung.GenData(<objMeldung>, "
+                                 "<udtDatensatzData>, 1, 2024-03-01 10:11:12) -> Der Betrag darf nicht negativ sein.");
 }
 
 TEST(Meldung, NameTestErrorReachesTheHostUnchanged) {

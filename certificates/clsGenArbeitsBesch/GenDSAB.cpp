@@ -87,16 +87,12 @@ std::string clsGenArbeitsBesch::GenData(const ArbeitsBesch& a, DatensatzData& dd
         if (j[160]) bea::GenDBAN(out, a);
         if (j[161]) bea::GenDBAG(out, a);
         if (j[162]) out += dbab_;
-        line = 4;
         if (verfahren == 15 || verfahren == 16)
             each(out, a.DBSE, a.AnzahlDBSE, bea::GenDBSE);
         else if (verfahren == 17 && j[163])
             bea::GenDBNE(out, a);
-        line = 5;
         if (verfahren == 17 ? j[166] : j[167]) bea::GenDBSA(out, a);
-        line = 6;
         if (verfahren != 17) each(out, a.DBSB, a.AnzahlDBSB, bea::GenDBSB);
-        line = 7;
         if (verfahren == 15) {
             each(out, a.DBAZ, a.AnzahlDBAZ, bea::GenDBAZ);
             each(out, a.DBEN, a.AnzahlDBEN, bea::GenDBEN);
@@ -104,14 +100,12 @@ std::string clsGenArbeitsBesch::GenData(const ArbeitsBesch& a, DatensatzData& dd
             if (j[176]) out += second_;
             if (j[177]) bea::GenDBKE(out, a);
         }
-        line = 8;
         if (verfahren == 16) {
             each(out, a.DBEZ, a.AnzahlDBEZ, bea::GenDBEZ);
             each(out, a.DBEE, a.AnzahlDBEE, bea::GenDBEE);
             each(out, a.DBFZ, a.AnzahlDBFZ, bea::GenDBFZ);
             if (j[176]) bea::GenDBKU(out, a);
         }
-        line = 9;
         if (verfahren == 17) {
             if (j[167]) bea::GenDBNB(out, a);
             if (j[168]) out += second_;

@@ -31,15 +31,10 @@ std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& da
                     const bool dbau = is_j(out, 349), dbbt = is_j(out, 350), dbzu = is_j(out, 351), dbaa = is_j(out, 354);
                     line = 3;
                     if (dbau) GenDBAU(out, e);
-                    line = 4;
                     if (dbbt) GenDBBT(out, e);
-                    line = 5;
                     if (dbzu) GenDBZU(out, e);
-                    line = 6;
                     GenDBBV(out, e);
-                    line = 7;
                     GenDBNA(out, e);
-                    line = 8;
                     if (dbaa) GenDBAA(out, e);
                     return out;
                 });

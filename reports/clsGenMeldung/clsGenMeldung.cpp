@@ -67,28 +67,21 @@ std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int
             // The flags are read back out of the finished record before any
             // block is appended: DBME, DBNA, DBGB, DBAN, DBEU, DBUV, DBKS, DBSO, DBKV.
             static constexpr std::size_t kFlagPositions[] = {171, 172, 173, 174, 175, 176, 177, 184, 189};
+            line = 2;
             bool wanted[9];
             read_flags(out, kFlagPositions, wanted);
-            line = 2;
-            if (wanted[0]) GenDBME(out, m);
             line = 3;
+            if (wanted[0]) GenDBME(out, m);
             if (wanted[1]) mlGen::AppendDBNA(out, m.Vorgang, m.MitNamensdaten);
-            line = 4;
             if (wanted[2]) mlGen::AppendDBGB(out, m.Vorgang);
-            line = 5;
             if (wanted[3]) {
                 bool filled = false;
                 mlGen::AppendDBAN(out, m.Vorgang, filled);
             }
-            line = 6;
             if (wanted[4]) GenDBEU(out, m);
-            line = 7;
             if (wanted[5]) out += dbuv_;
-            line = 8;
             if (wanted[6]) GenDBKS(out, m);
-            line = 9;
             if (wanted[7]) GenDBSO(out, m);
-            line = 10;
             if (wanted[8]) GenDBKV(out, m);
             return out;
         });

@@ -19,11 +19,8 @@ std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& da
                                dban = is_j(out, 222);
                     line = 3;
                     if (dbzk) GenDBZK(out, z);
-                    line = 4;
                     if (dbna) GenDBNA(out, z);
-                    line = 5;
                     if (dbga) out += dbga_;
-                    line = 6;
                     if (dban) out += dban_;
                     return out;
                 });
