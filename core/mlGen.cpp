@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
 
 #include "core/error.h"
@@ -107,14 +108,22 @@ inline void copy(char* d, const char* s, std::size_t n) {
 char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
     const std::size_t take = value.size() < w ? value.size() : w;
     // Common case: the characters kept are plain ASCII (no control character
-    // to remove) and the rest is ASCII too: copy them, then pad.
+    // to remove) and the rest is ASCII too: copy them, then pad. Checked
+    // eight bytes at a time: a byte of 0x80 or more, or below 0x0E (the
+    // controls CR, LF and TAB are among them), sends the value the long way.
     bool plain = true, content = false;
-    for (std::size_t i = 0; i < take; ++i) {
+    std::size_t i = 0;
+    for (; plain && i + 8 <= take; i += 8) {
+        std::uint64_t x;
+        std::memcpy(&x, value.data() + i, 8);
+        constexpr std::uint64_t kHigh = 0x8080808080808080ULL;
+        const std::uint64_t low = (x - 0x0E0E0E0E0E0E0E0EULL) & ~x & kHigh;
+        plain = ((x & kHigh) | low) == 0;
+        content |= x != 0x2020202020202020ULL;
+    }
+    for (; plain && i < take; ++i) {
         const auto c = static_cast<unsigned char>(value[i]);
-        if (c >= 0x80 || c == '\r' || c == '\n' || c == '\t') {
-            plain = false;
-            break;
-        }
+        plain = c < 0x80 && c != '\r' && c != '\n' && c != '\t';
         content |= c != ' ';
     }
     if (plain && (take == value.size() || !has_non_ascii(value.substr(take)))) {
@@ -125,7 +134,8 @@ char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
     }
     require_utf8(value, "StrToAn");
     // Control characters are dropped; whole characters are kept up to `w`.
-    std::size_t room = w, run = 0, i = 0;
+    std::size_t room = w, run = 0;
+    i = 0;
     content = false;
     for (; i < value.size(); ++i) {
         const auto c = static_cast<unsigned char>(value[i]);
@@ -195,7 +205,7 @@ void AppendN(std::string& out, std::string_view value, int width, bool& filled) 
 char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled) {
     // Fast path: digits, separators and (where allowed) signs that fit the
     // field. Anything else goes the full way, which raises the error.
-    constexpr std::size_t kMax = 40;
+    constexpr std::size_t kMax = 128;
     char vor[kMax], nach[kMax];
     std::size_t nv = 0, nn = 0;
     bool separator_seen = false, ok = intVor >= 0 && intNach >= 0;
