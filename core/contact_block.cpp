@@ -5,12 +5,12 @@
 
 namespace tamrel {
 
-void AppendContactBlock(std::string& out, std::string_view id, const ContactPerson& ap, const Arbeitgeber& ag,
+void AppendContactBlock(std::string& out, std::string_view id, ContactView ap, const Arbeitgeber& ag,
                         bool& hasData, std::string_view context) {
     routine(context, [&](int& line) {
         hasData = false;
         Writer w(out, line, hasData);
-        w.lit(id).an(ap.ApAnrede, 1).an(ap.ApName, 30).an(ap.ApTel, 20).an(ap.ApFax, 20).an(ap.ApEmail, 70);
+        w.lit(id).an(ap.anrede, 1).an(ap.name, 30).an(ap.tel, 20).an(ap.fax, 20).an(ap.email, 70);
         w.an(ag.Name1, 30).an(ag.Name2, 30).an(ag.Name3, 30).an(ag.PLZ, 10).an(ag.Ort, 34).an(ag.Strasse, 33);
         w.an(ag.Hausnummer, 9);
         w.check(321, id);

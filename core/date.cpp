@@ -75,11 +75,4 @@ std::string date_as_argument(const Date& d) {
     return buf;
 }
 
-std::string date_to_iso(const Date& d) {
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%04d-%02d-%02dT%02d:%02d:%02d", d.year, d.month, d.day, d.hour, d.minute,
-                  d.second);
-    return buf;
-}
-
 }  // namespace tamrel

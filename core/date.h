@@ -29,7 +29,4 @@ void append_hhnnss(std::string& out, const Date& d);
 // the empty date (the way the date type renders itself as text).
 std::string date_as_argument(const Date& d);
 
-// "YYYY-MM-DDTHH:MM:SS", the form of the call protocol.
-std::string date_to_iso(const Date& d);
-
 }  // namespace tamrel

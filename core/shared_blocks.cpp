@@ -5,11 +5,11 @@
 
 namespace tamrel::mlGen {
 
-void AppendNameBlock(std::string& out, const Vorgang& v, std::string_view marker, std::string_view context) {
+void AppendNameBlock(std::string& out, NameView n, std::string_view marker, std::string_view context) {
     routine(context, [&](int& line) {
         Writer w(out, line);
-        w.lit("DBNA").an(v.Familienname, 30).an(v.Vorname, 30).an(v.Vorsatzwort, 20).an(v.Namenszusatz, 20);
-        w.an(v.Titel, 20).an(marker, 1);
+        w.lit("DBNA").an(n.familienname, 30).an(n.vorname, 30).an(n.vorsatzwort, 20).an(n.namenszusatz, 20);
+        w.an(n.titel, 20).an(marker, 1);
         w.check(125, "DBNA");
     });
 }
@@ -24,7 +24,7 @@ void AppendAddressBlock(std::string& out, const Vorgang& v, bool blank_d, bool& 
 }
 
 void AppendDBNA(std::string& out, const Vorgang& v, bool marker) {
-    AppendNameBlock(out, v, marker ? "A" : " ", "mlGen.GenDBNA");
+    AppendNameBlock(out, NameView(v), marker ? "A" : " ", "mlGen.GenDBNA");
 }
 
 void AppendDBAN(std::string& out, const Vorgang& v, bool& filled) {

@@ -11,9 +11,17 @@ std::string GenDBNA(const Vorgang& vorgang, bool marker);
 std::string GenDBAN(const Vorgang& vorgang, bool& filled);
 std::string GenDBGB(const Vorgang& vorgang);
 
+// The five name texts of DBNA, as the block reads them.
+struct NameView {
+    std::string_view familienname, vorname, vorsatzwort, namenszusatz, titel;
+    explicit NameView(const Vorgang& v)
+        : familienname(v.Familienname), vorname(v.Vorname), vorsatzwort(v.Vorsatzwort),
+          namenszusatz(v.Namenszusatz), titel(v.Titel) {}
+};
+
 // The layouts behind the shared blocks: the marker character of DBNA and
 // whether DBAN writes the country "D" (the shared DBAN leaves it blank).
-void AppendNameBlock(std::string& out, const Vorgang& vorgang, std::string_view marker, std::string_view context);
+void AppendNameBlock(std::string& out, NameView names, std::string_view marker, std::string_view context);
 void AppendAddressBlock(std::string& out, const Vorgang& vorgang, bool blank_d, bool& filled, std::string_view context);
 
 // The same blocks appended to a caller's buffer.

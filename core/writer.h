@@ -87,10 +87,7 @@ public:
     // Replaces the ASCII character at 0-based byte `index` of the record.
     void patch(std::size_t index, char c) { buf_[index] = c; }
 
-    bool filled() const { return *filled_; }
-    void reset_filled() { *filled_ = false; }
     std::string_view record() const { return {buf_, used_}; }
-    int& line() { return line_; }
 
     // The length check that closes the record. Every encoder writes exactly
     // its width, so the writer knows the record's length in characters

@@ -9,7 +9,7 @@ namespace tamrel::bea {
 // The class's own name and address blocks: the shared layouts, with the
 // change marker of the object and the country code written as given.
 bool GenDBNA(std::string& out, const ArbeitsBesch& a) {
-    mlGen::AppendNameBlock(out, a.Vorgang, a.KENNZAB, "clsGenArbeitsBesch.GenDBNA");
+    mlGen::AppendNameBlock(out, mlGen::NameView(a.Vorgang), a.KENNZAB, "clsGenArbeitsBesch.GenDBNA");
     return true;
 }
 

@@ -8,7 +8,7 @@
 
 namespace tamrel::eel {
 bool GenDBNA(std::string& out, const Entgelt& e) {
-    mlGen::AppendNameBlock(out, e.Vorgang, e.KENNZAB, "clsGenEntgelt.GenDBNA");
+    mlGen::AppendNameBlock(out, mlGen::NameView(e.Vorgang), e.KENNZAB, "clsGenEntgelt.GenDBNA");
     return true;
 }
 

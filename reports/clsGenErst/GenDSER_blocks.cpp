@@ -103,9 +103,9 @@ void clsGenErst::GenDBNA(std::string& out, const Erst& e) {
 }
 
 void clsGenErst::GenDBAA(std::string& out, const Erst& e) {
-    const ContactPerson contact{e.AnGeschl, e.AnName, e.AnTel, e.AnFax, e.AnEMail};
     bool hasData = false;
-    AppendContactBlock(out, "DBAA", contact, e.Vorgang.Arbeitgeber, hasData, "clsGenErst.GenDBAA");
+    AppendContactBlock(out, "DBAA", {e.AnGeschl, e.AnName, e.AnTel, e.AnFax, e.AnEMail}, e.Vorgang.Arbeitgeber,
+                       hasData, "clsGenErst.GenDBAA");
 }
 
 }  // namespace tamrel

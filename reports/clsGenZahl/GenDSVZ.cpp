@@ -75,11 +75,11 @@ void clsGenZahl::GenDBNA(std::string& out, const Zahl& z) {
             return;
         }
         // The block carries the pseudonyms; the caller's object keeps its names.
-        Vorgang pseudonymised = z.Vorgang;
-        pseudonymised.Familienname = "Pseudoname";
-        pseudonymised.Vorname = "Pseudovorname";
+        mlGen::NameView names(z.Vorgang);
+        names.familienname = "Pseudoname";
+        names.vorname = "Pseudovorname";
         line = 2;
-        mlGen::AppendDBNA(out, pseudonymised, false);
+        mlGen::AppendNameBlock(out, names, " ", "mlGen.GenDBNA");
     });
 }
 
