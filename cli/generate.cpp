@@ -89,9 +89,9 @@ void check_markup_text(const std::string& line, const std::string& param, std::s
     if (!parsed.is_discarded()) check_markup(parsed, param, index);
 }
 
-class Generator {
+class TransferRun {
 public:
-    Generator(const Job& job, const GenerateOptions& o, Encoding enc)
+    TransferRun(const Job& job, const GenerateOptions& o, Encoding enc)
         : job_(job),
           options_(o),
           enc_(enc),
@@ -199,7 +199,7 @@ int generate(const GenerateOptions& o) {
     const bool progress = isatty(STDERR_FILENO);
     std::size_t written = 0, failed = 0, index = 0;
     try {
-        Generator gen(job, o, *enc);
+        TransferRun gen(job, o, *enc);
         ReportSource source(job, o.reports);
         AtomicFile out(o.output);
         std::unique_ptr<AtomicFile> proto;

@@ -4,6 +4,25 @@
 #include "xml/clsGenAsyl/clsGenAsyl.h"
 
 namespace tamrel {
+namespace {
+
+// The elements that header and trailer share; `last` is the header's
+// sender name or the trailer's record count.
+std::string frame(std::string_view tag, std::string_view strBNRAb, std::string_view strBNREm, std::string_view date,
+                  std::string_view strFileNr, std::string_view lastName, std::string_view last) {
+    bool scratch = true;
+    std::string out;
+    out.append("<").append(tag).append("><vfmm>KOTKV</vfmm>");
+    mlGen::AppendAnXML(out, "bbnrab", strBNRAb, scratch);
+    mlGen::AppendAnXML(out, "bbnrep", strBNREm, scratch);
+    mlGen::AppendDateXML(out, "ed", date, scratch);
+    mlGen::AppendAnXML(out, "dtnr", strFileNr, scratch);
+    mlGen::AppendAnXML(out, lastName, last, scratch);
+    out.append("<vernr>01</vernr></").append(tag).append(">");
+    return out;
+}
+
+}  // namespace
 
 std::string clsGenAsyl::GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                 std::string_view strFirma, std::int32_t, std::string& strDatum,
@@ -14,15 +33,7 @@ std::string clsGenAsyl::GenVOSZ(std::string_view strBNRAb, std::string_view strB
         line = 2;
         if (strDatum.empty()) strDatum = mlGlobal::GetCurrDate({}, 0, date);
         line = 3;
-        bool scratch = true;
-        std::string out = "<vosz><vfmm>KOTKV</vfmm>";
-        mlGen::AppendAnXML(out, "bbnrab", strBNRAb, scratch);
-        mlGen::AppendAnXML(out, "bbnrep", strBNREm, scratch);
-        mlGen::AppendDateXML(out, "ed", strDatum, scratch);
-        mlGen::AppendAnXML(out, "dtnr", strFileNr, scratch);
-        mlGen::AppendAnXML(out, "naab", strFirma, scratch);
-        out += "<vernr>01</vernr></vosz>";
-        return out;
+        return frame("vosz", strBNRAb, strBNREm, strDatum, strFileNr, "naab", strFirma);
     });
 }
 
@@ -32,15 +43,7 @@ std::string clsGenAsyl::GenNCSZ(std::string_view strBNRAb, std::string_view strB
         line = 1;
         std::string stamp = mlGlobal::GetCurrDate({}, 0, mlGen::GetDate(datDate));
         line = 2;
-        bool scratch = true;
-        std::string out = "<ncsz><vfmm>KOTKV</vfmm>";
-        mlGen::AppendAnXML(out, "bbnrab", strBNRAb, scratch);
-        mlGen::AppendAnXML(out, "bbnrep", strBNREm, scratch);
-        mlGen::AppendDateXML(out, "ed", stamp, scratch);
-        mlGen::AppendAnXML(out, "dtnr", strFileNr, scratch);
-        mlGen::AppendAnXML(out, "zlsz", strCount, scratch);
-        out += "<vernr>01</vernr></ncsz>";
-        return out;
+        return frame("ncsz", strBNRAb, strBNREm, stamp, strFileNr, "zlsz", strCount);
     });
 }
 
