@@ -1,5 +1,7 @@
 // An output file that appears under its name only when complete: written to
-// a temporary file in the same folder, renamed on commit, removed otherwise.
+// a temporary file in the same folder, renamed on commit, removed otherwise:
+// on failure, when the run is interrupted or terminated (SIGINT, SIGTERM,
+// SIGHUP), and when a file-size limit is reached.
 #pragma once
 #include <cstdio>
 #include <memory>
@@ -24,6 +26,7 @@ private:
     std::unique_ptr<char[]> buffer_;  // before file_: released after fclose
     std::FILE* file_ = nullptr;
     bool committed_ = false;
+    int slot_ = -1;  // its entry among the files the signal handler removes
 };
 
 }  // namespace tamrel::cli

@@ -7,7 +7,9 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/generate.h"
+#include "cli/line_reader.h"
 #include "component/call_protocol.h"
+#include "component/json_limits.h"
 #include "core/version.h"
 
 namespace tamrel::cli {
@@ -16,9 +18,10 @@ namespace {
 // NDJSON requests in, one response line each, flushed per line.
 int call_stream(std::istream& in) {
     bool any_request_error = false;
+    LineReader reader(in, kMaxLineBytes);
     std::string line;
-    while (std::getline(in, line)) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
+    std::size_t length = 0;
+    while (reader.next(line, length)) {
         if (line.find_first_not_of(" \t") == std::string::npos) continue;
         bool request_error = false;
         std::cout << call_line(line, request_error) << '\n' << std::flush;

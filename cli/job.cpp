@@ -5,6 +5,9 @@
 #include <set>
 #include <stdexcept>
 
+#include "component/json_binding.h"
+#include "component/json_limits.h"
+
 namespace tamrel::cli {
 
 using nlohmann::json;
@@ -29,15 +32,36 @@ const ClassInfo* find_class(const std::string& cls) {
     return nullptr;
 }
 
-Job read_job(const std::string& path) {
-    std::ifstream in(path);
+// The file's text, refused beyond kMaxJobBytes (also when it is a pipe).
+std::string read_job_text(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
     if (!in) throw std::runtime_error(path + ": cannot be read");
+    std::string text;
+    char chunk[1 << 16];
+    while (const std::streamsize n = in.rdbuf()->sgetn(chunk, sizeof chunk)) {
+        if (n <= 0) break;
+        text.append(chunk, static_cast<std::size_t>(n));
+        if (text.size() > kMaxJobBytes)
+            throw std::runtime_error(path + ": more than the " + std::to_string(kMaxJobBytes) +
+                                     " bytes a job file may hold; give the reports as an NDJSON reports_file");
+    }
+    return text;
+}
+
+Job read_job(const std::string& path) {
+    const std::string text = read_job_text(path);
     json j;
     try {
-        j = json::parse(in);
+        j = parse_bounded(text);
     } catch (const json::exception& e) {
         throw std::runtime_error(path + ": not valid JSON: " + e.what());
+    } catch (const json_binding::RequestError& e) {
+        throw std::runtime_error(path + ": " + e.what() + "; give the reports as an NDJSON reports_file");
     }
+    return parse_job(j, path, std::filesystem::path(path).parent_path().string());
+}
+
+Job parse_job(const json& j, const std::string& path, const std::string& folder) {
     if (!j.is_object()) throw std::runtime_error(path + ": expected a JSON object");
     static const std::set<std::string> keys = {"class",       "strBNRAb",        "strBNREm",    "strFileNr",
                                                "strFirma",    "strDatum",        "enmVerfahren", "datDate",
@@ -69,7 +93,7 @@ Job read_job(const std::string& path) {
     } else {
         if (!j["reports_file"].is_string()) throw std::runtime_error(path + ": reports_file: expected a string");
         std::filesystem::path p = j["reports_file"].get<std::string>();
-        if (p.is_relative()) p = std::filesystem::path(path).parent_path() / p;
+        if (p.is_relative()) p = std::filesystem::path(folder) / p;
         job.reportsFile = p.string();
     }
     return job;

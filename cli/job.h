@@ -1,6 +1,7 @@
 // A generate job: the class, the frame arguments and the reports (inline or
 // from an NDJSON file), as documented in docs/job-format.md.
 #pragma once
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -30,7 +31,14 @@ struct Job {
     std::string reportsFile;    // resolved against the job file's folder
 };
 
+// A job file larger than this is refused: the reports of a large job belong
+// in an NDJSON file (reports_file, or --reports), read one line at a time.
+inline constexpr std::uintmax_t kMaxJobBytes = std::uintmax_t{16} << 20;
+
 // Reads and checks a job file; throws std::runtime_error with a clear message.
 Job read_job(const std::string& path);
+// Checks a parsed job; `name` prefixes the messages, a relative reports_file
+// is resolved against `folder`.
+Job parse_job(const nlohmann::json& j, const std::string& name, const std::string& folder);
 
 }  // namespace tamrel::cli

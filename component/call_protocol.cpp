@@ -4,6 +4,7 @@
 #include <set>
 
 #include "component/call_registry.h"
+#include "component/json_limits.h"
 #include "core/error.h"
 #include "core/text.h"
 
@@ -132,14 +133,20 @@ ordered_json call(const json& request) {
 }
 
 std::string call_line(std::string_view line, bool& request_error) {
-    json request;
-    try {
-        request = json::parse(line);
-    } catch (const json::exception& e) {
+    auto refuse = [&](std::string text) {
         request_error = true;
         ordered_json r = ordered_json::object();
-        r["request_error"] = std::string("not a JSON object: ") + text::sanitize(e.what());
+        r["request_error"] = std::move(text);
         return r.dump();
+    };
+    if (line.size() > kMaxLineBytes) return refuse("request: " + line_too_long_text(line.size()));
+    json request;
+    try {
+        request = parse_bounded(line);
+    } catch (const json::exception& e) {
+        return refuse(std::string("not a JSON object: ") + text::sanitize(e.what()));
+    } catch (const RequestError& e) {
+        return refuse(std::string("request: ") + e.what());
     }
     ordered_json response = call(request);
     request_error = response.contains("request_error");

@@ -176,6 +176,8 @@ void read(const V& v, T& out, const Path& path);
 template <class V, class T>
 void read(const V& v, std::vector<T>& out, const Path& path) {
     if (!v.is_array()) fail(path, "expected an array");
+    // Items are numbered by a 16-bit index.
+    if (v.size() > 32767) fail(path, "more than 32767 items");
     out.clear();
     out.reserve(v.size());
     std::size_t i = 1;

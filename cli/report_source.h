@@ -1,0 +1,32 @@
+// The reports of a transfer: the job's inline array, or an NDJSON stream
+// read one bounded line at a time.
+#pragma once
+#include <cstddef>
+#include <istream>
+#include <optional>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/line_reader.h"
+
+namespace tamrel::cli {
+
+class ReportSource {
+public:
+    explicit ReportSource(const nlohmann::json& reports) : array_(&reports) {}
+    explicit ReportSource(std::istream& ndjson);
+
+    // The next report: `element` points into the job's array, or `line`
+    // holds the text of a non-blank line. False at the end. `length` is the
+    // line's full length, which may exceed what `line` holds (see
+    // LineReader).
+    bool next(const nlohmann::json*& element, std::string& line, std::size_t& length);
+
+private:
+    const nlohmann::json* array_ = nullptr;
+    std::size_t pos_ = 0;
+    std::optional<LineReader> lines_;
+};
+
+}  // namespace tamrel::cli

@@ -1,0 +1,57 @@
+// One transfer file from a job: header, communication record, one line per
+// report, trailer, each converted to the file's encoding and line ending and
+// handed to a sink as it is made. The sinks decide where the bytes go: an
+// atomic file for tamrel generate, memory for tests and fuzzing.
+#pragma once
+#include <cstddef>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "cli/job.h"
+#include "cli/output_encoding.h"
+#include "cli/report_source.h"
+
+namespace tamrel::cli {
+
+class Sink {
+public:
+    virtual ~Sink() = default;
+    virtual void write(std::string_view bytes) = 0;  // throws std::runtime_error
+};
+
+class StringSink : public Sink {
+public:
+    void write(std::string_view bytes) override { text.append(bytes); }
+    std::string text;
+};
+
+// A report, frame record or protocol line that could not be made.
+struct ReportFailure : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+struct TransferSettings {
+    Encoding encoding = Encoding::Latin1;
+    bool crlf = false;
+    bool keepGoing = false;
+    // Called with the failure of each report left out (keepGoing), and
+    // with the number of reports read so far, every 100,000 reports.
+    std::function<void(const ReportFailure&)> leftOut;
+    std::function<void(std::size_t)> progress;
+};
+
+struct TransferCounts {
+    std::size_t written = 0;
+    std::size_t failed = 0;
+};
+
+// Writes the transfer file to `out` and, when `protocol` is given, one
+// protocol line per report to it. Throws ReportFailure when a report fails
+// (unless keepGoing) or a frame record fails, std::runtime_error when a sink
+// cannot be written; what the sinks received is then incomplete.
+TransferCounts write_transfer(const Job& job, ReportSource& reports, const TransferSettings& settings, Sink& out,
+                              Sink* protocol);
+
+}  // namespace tamrel::cli
