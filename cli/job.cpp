@@ -5,7 +5,10 @@
 #include <set>
 #include <stdexcept>
 
+#include "component/call_protocol.h"
+#include "component/call_registry.h"
 #include "component/json_binding.h"
+#include "component/shared_bindings.h"
 #include "component/json_limits.h"
 
 namespace tamrel::cli {
@@ -32,6 +35,8 @@ const ClassInfo* find_class(const std::string& cls) {
     return nullptr;
 }
 
+namespace {
+
 // The file's text, refused beyond kMaxJobBytes (also when it is a pipe).
 std::string read_job_text(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
@@ -47,6 +52,32 @@ std::string read_job_text(const std::string& path) {
     }
     return text;
 }
+
+// Reads the job-level values as the methods will read them, so that a value
+// of the wrong type is reported as a fault of the job, before any output.
+void check_values(const Job& job, const std::string& path) {
+    try {
+        CallSession session(job.now.is_null() ? nullptr : &job.now, job.tests.is_null() ? nullptr : &job.tests);
+        json args = job.frame;
+        args["enmVerfahren"] = job.enmVerfahren;
+        args["udtDSKOData"] = job.dsko;
+        args["udtDatensatzData"] = job.datensatz;
+        if (!job.datDate.is_null()) args["datDate"] = job.datDate;
+        Invocation inv(args, session.host());
+        for (const char* k : {"strBNRAb", "strBNREm", "strFileNr", "strFirma"}) inv.str(k);
+        inv.opt_str("strDatum");
+        job.info->frames == ClassInfo::BeitrNachw ? inv.enm("enmVerfahren") : inv.verf("enmVerfahren");
+        inv.date("datDate");
+        inv.object<DSKOData>("udtDSKOData");
+        inv.object<DatensatzData>("udtDatensatzData");
+    } catch (const json_binding::RequestError& e) {
+        std::string_view what = e.what();
+        if (what.starts_with("args.")) what.remove_prefix(5);
+        throw std::runtime_error(path + ": " + std::string(what));
+    }
+}
+
+}  // namespace
 
 Job read_job(const std::string& path) {
     const std::string text = read_job_text(path);
@@ -96,6 +127,7 @@ Job parse_job(const json& j, const std::string& path, const std::string& folder)
         if (p.is_relative()) p = std::filesystem::path(folder) / p;
         job.reportsFile = p.string();
     }
+    check_values(job, path);
     return job;
 }
 

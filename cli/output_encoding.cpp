@@ -45,16 +45,12 @@ const char* encoding_name(Encoding e) {
     }
 }
 
-std::size_t encode(std::string& out, std::string_view text, Encoding e) {
-    if (e == Encoding::Utf8) {
-        out += text;
-        return 0;
-    }
+EncodeFailure encode(std::string& out, std::string_view text, Encoding e) {
     std::size_t position = 0;
     for (std::size_t i = 0; i < text.size();) {
-        // Runs of ASCII are the same in every encoding: copied in one go.
+        // Runs of printable ASCII are the same in every encoding: copied in one go.
         std::size_t run = i;
-        while (run < text.size() && static_cast<unsigned char>(text[run]) < 0x80) ++run;
+        while (run < text.size() && static_cast<unsigned char>(text[run]) - 0x20u < 0x5Fu) ++run;
         if (run > i) {
             out.append(text.data() + i, run - i);
             position += run - i;
@@ -62,12 +58,18 @@ std::size_t encode(std::string& out, std::string_view text, Encoding e) {
             continue;
         }
         ++position;
-        char32_t cp = decode(text, i);
+        const std::size_t start = i;
+        const char32_t cp = decode(text, i);
+        if (cp < 0x20 || (cp >= 0x7F && cp < 0xA0)) return {position, true};
+        if (e == Encoding::Utf8) {
+            out.append(text.data() + start, i - start);
+            continue;
+        }
         int b = e == Encoding::Latin9 ? latin9(cp) : (cp <= 0xFF ? static_cast<int>(cp) : -1);
-        if (b < 0) return position;
+        if (b < 0) return {position, false};
         out += static_cast<char>(b);
     }
-    return 0;
+    return {};
 }
 
 }  // namespace tamrel::cli

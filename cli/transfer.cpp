@@ -113,9 +113,10 @@ public:
     std::string encoded_line(std::string_view record, const std::string& what) const {
         std::string out;
         out.reserve(record.size() + 2);
-        if (std::size_t pos = encode(out, record, settings_.encoding))
-            throw ReportFailure(what + ": the character at position " + std::to_string(pos) + " cannot be written in " +
-                                encoding_name(settings_.encoding));
+        if (const EncodeFailure f = encode(out, record, settings_.encoding))
+            throw ReportFailure(what + ": the character at position " + std::to_string(f.position) +
+                                (f.control ? " is a control character, which a transfer file cannot carry"
+                                           : std::string(" cannot be written in ") + encoding_name(settings_.encoding)));
         out += settings_.crlf ? "\r\n" : "\n";
         return out;
     }
