@@ -12,6 +12,7 @@
 #include "component/json_binding.h"
 #include "component/report_runner.h"
 #include "core/indexed.h"
+#include "tests/example_jobs.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
@@ -23,43 +24,30 @@ namespace {
 // very same record and protocol line for every report of every example job.
 TEST(ReportRunner, AgreesWithTheCallProtocolOnEveryExample) {
     int checked = 0;
-    for (const auto& e : fs::directory_iterator(fs::path(TAMREL_SOURCE_DIR) / "examples")) {
-        if (e.path().extension() != ".json") continue;
-        json job = json::parse(std::ifstream(e.path()));
-        const auto* info = cli::find_class(job["class"]);
-        ASSERT_NE(info, nullptr) << e.path();
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        const json& job = e.job;
+        ASSERT_NE(e.info, nullptr) << e.path;
         CallSession session(&job["now"], nullptr);
         json settings_args = {{"udtDatensatzData", job["udtDatensatzData"]},
                               {"enmVerfahren", job.value("enmVerfahren", json(0))},
                               {"datDate", job["datDate"]}};
         Invocation inv(settings_args, session.host());
         RunnerSettings settings{&session.host(), inv.object<DatensatzData>("udtDatensatzData"),
-                                info->frames == cli::ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
-                                                                         : inv.verf("enmVerfahren"),
+                                e.info->frames == cli::ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
+                                                                           : inv.verf("enmVerfahren"),
                                 inv.date("datDate")};
-        auto runner = make_runner(info->cls, settings);
-        ASSERT_TRUE(runner) << info->cls;
+        auto runner = make_runner(e.info->cls, settings);
+        ASSERT_TRUE(runner) << e.info->cls;
         for (const json& report : job["reports"]) {
-            json args = {{info->objParam, report}, {"datDate", job["datDate"]}};
-            if (info->frames == cli::ClassInfo::BeitrNachw) {
-                for (const char* k : {"strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"})
-                    args[k] = job["udtDatensatzData"].value(k, "");
-            } else {
-                args["udtDatensatzData"] = job["udtDatensatzData"];
-            }
-            if (info->frames == cli::ClassInfo::Meldung) args["enmVerfahren"] = job["enmVerfahren"];
-            json request = {{"class", info->cls}, {"method", "GenData"}, {"args", args}, {"now", job["now"]}};
-            json response = json::parse(call(request).dump());
-            ASSERT_TRUE(response.contains("result")) << e.path() << response.dump();
+            json response = json::parse(call(tamrel::testing::gen_data_request(e, report)).dump());
+            ASSERT_TRUE(response.contains("result")) << e.path << response.dump();
 
             runner->read_text(report.dump());
-            EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path();
+            EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path;
             runner->read(report);
-            EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path();
-            if (info->protoMethod) {
-                json proto = {{"class", "clsProtoEntry"},
-                              {"method", info->protoMethod},
-                              {"args", {{info->objParam, report}, {"blnError", true}, {"strErrText", "x\ny"}}}};
+            EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path;
+            if (e.info->protoMethod) {
+                json proto = tamrel::testing::protocol_request(e, report, true, "x\ny");
                 EXPECT_EQ(runner->protocol(true, "x\ny"), json::parse(call(proto).dump())["result"].get<std::string>());
             }
             ++checked;

@@ -1,0 +1,59 @@
+// The example jobs of examples/, and the call-protocol requests that turn
+// one of their reports into its record or its protocol line.
+#pragma once
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/job.h"
+
+namespace tamrel::testing {
+
+struct ExampleJob {
+    std::filesystem::path path;
+    nlohmann::json job;
+    const cli::ClassInfo* info;
+};
+
+inline std::vector<ExampleJob> example_jobs() {
+    std::vector<ExampleJob> jobs;
+    for (const auto& e : std::filesystem::directory_iterator(std::filesystem::path(TAMREL_SOURCE_DIR) / "examples")) {
+        if (e.path().extension() != ".json") continue;
+        auto job = nlohmann::json::parse(std::ifstream(e.path()));
+        if (!job.contains("reports")) continue;
+        jobs.push_back({e.path(), job, cli::find_class(job["class"])});
+    }
+    std::sort(jobs.begin(), jobs.end(), [](const auto& a, const auto& b) { return a.path < b.path; });
+    return jobs;
+}
+
+// GenData of the job's class for `report`, with the job's record
+// identification, procedure, date and clock.
+inline nlohmann::json gen_data_request(const ExampleJob& e, const nlohmann::json& report) {
+    const auto& job = e.job;
+    nlohmann::json args = {{e.info->objParam, report}, {"datDate", job["datDate"]}};
+    if (e.info->frames == cli::ClassInfo::BeitrNachw) {
+        for (const char* k : {"strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"})
+            args[k] = job["udtDatensatzData"].value(k, "");
+    } else {
+        args["udtDatensatzData"] = job["udtDatensatzData"];
+    }
+    if (e.info->frames == cli::ClassInfo::Meldung) args["enmVerfahren"] = job["enmVerfahren"];
+    nlohmann::json request = {{"class", e.info->cls}, {"method", "GenData"}, {"args", args}, {"now", job["now"]}};
+    if (job.contains("tests")) request["tests"] = job["tests"];
+    return request;
+}
+
+// The protocol line of `report`, where the class has one.
+inline nlohmann::json protocol_request(const ExampleJob& e, const nlohmann::json& report, bool error,
+                                       const std::string& text) {
+    return {{"class", "clsProtoEntry"},
+            {"method", e.info->protoMethod},
+            {"args", {{e.info->objParam, report}, {"blnError", error}, {"strErrText", text}}},
+            {"now", e.job["now"]}};
+}
+
+}  // namespace tamrel::testing
