@@ -22,7 +22,7 @@ int call_stream(std::istream& in) {
     std::string line;
     std::size_t length = 0;
     while (reader.next(line, length)) {
-        if (line.find_first_not_of(" \t") == std::string::npos) continue;
+        if (length == line.size() && line.find_first_not_of(" \t") == std::string::npos) continue;
         bool request_error = false;
         std::cout << call_line(line, request_error) << '\n' << std::flush;
         any_request_error |= request_error;

@@ -15,7 +15,7 @@ bool ReportSource::next(const nlohmann::json*& element, std::string& line, std::
     }
     element = nullptr;
     while (lines_->next(line, length))
-        if (line.find_first_not_of(" \t") != std::string::npos) return true;
+        if (length > line.size() || line.find_first_not_of(" \t") != std::string::npos) return true;
     return false;
 }
 

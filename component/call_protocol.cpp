@@ -144,7 +144,7 @@ std::string call_line(std::string_view line, bool& request_error) {
     try {
         request = parse_bounded(line);
     } catch (const json::exception& e) {
-        return refuse(std::string("not a JSON object: ") + text::sanitize(e.what()));
+        return refuse(std::string("not valid JSON: ") + text::sanitize(e.what()));
     } catch (const RequestError& e) {
         return refuse(std::string("request: ") + e.what());
     }
