@@ -1,6 +1,5 @@
 #include "component/json_limits.h"
 
-#include <istream>
 #include <string>
 
 #include "component/json_binding.h"
@@ -10,19 +9,37 @@ namespace {
 
 using nlohmann::json;
 
-// The parser's callback, called for every value and every start and end of
-// an object or array.
-struct Bounds {
+// Checks the bounds in one pass over the text before it is parsed (the
+// parser's own callback interface rescans each array after every element,
+// which is quadratic in the array's length).
+void check_bounds(std::string_view text) {
+    int depth = 0;
     std::size_t values = 0;
-    bool operator()(int depth, json::parse_event_t event, json&) {
-        if ((event == json::parse_event_t::object_start || event == json::parse_event_t::array_start) &&
-            depth >= kMaxJsonDepth)
-            throw json_binding::RequestError("nested deeper than " + std::to_string(kMaxJsonDepth) + " levels");
-        if (event == json::parse_event_t::value && ++values > kMaxJsonValues)
-            throw json_binding::RequestError("more than " + std::to_string(kMaxJsonValues) + " values");
-        return true;
+    bool in_string = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (in_string) {
+            if (c == '\\') ++i;
+            else if (c == '"') in_string = false;
+            continue;
+        }
+        switch (c) {
+            case '"': in_string = true; break;
+            case '[':
+            case '{':
+                if (++depth > kMaxJsonDepth)
+                    throw json_binding::RequestError("nested deeper than " + std::to_string(kMaxJsonDepth) + " levels");
+                [[fallthrough]];
+            case ',':
+                if (++values > kMaxJsonValues)
+                    throw json_binding::RequestError("more than " + std::to_string(kMaxJsonValues) + " values");
+                break;
+            case ']':
+            case '}': --depth; break;
+            default: break;
+        }
     }
-};
+}
 
 }  // namespace
 
@@ -31,7 +48,9 @@ std::string line_too_long_text(std::size_t bytes) {
            std::to_string(kMaxLineBytes) + " bytes";
 }
 
-json parse_bounded(std::string_view text) { return json::parse(text, Bounds{}); }
-json parse_bounded(std::istream& in) { return json::parse(in, Bounds{}); }
+json parse_bounded(std::string_view text) {
+    check_bounds(text);
+    return json::parse(text);
+}
 
 }  // namespace tamrel

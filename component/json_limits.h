@@ -14,7 +14,8 @@ namespace tamrel {
 inline constexpr std::size_t kMaxLineBytes = std::size_t{1} << 20;
 // Objects and arrays within one another. A data object needs four levels.
 inline constexpr int kMaxJsonDepth = 32;
-// Values in one document (a job file with its reports inline).
+// Values in one document (a job file with its reports inline), counted as
+// its objects, arrays and separating commas.
 inline constexpr std::size_t kMaxJsonValues = 2'000'000;
 
 // The text of the error for a line above kMaxLineBytes.
@@ -24,6 +25,5 @@ std::string line_too_long_text(std::size_t bytes);
 // kMaxJsonValues values. Throws nlohmann::json::exception for text that is
 // not JSON, and json_binding::RequestError for a document beyond the bounds.
 nlohmann::json parse_bounded(std::string_view text);
-nlohmann::json parse_bounded(std::istream& in);
 
 }  // namespace tamrel
