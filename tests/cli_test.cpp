@@ -154,6 +154,9 @@ TEST_F(Cli, BadJobsAreRefused) {
         R"({"class":"clsGenMeldung","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","reprots":[]})",
         R"({"class":"clsGenMeldung","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F"})",
         "not json",
+        "[]",
+        R"({"class":"clsGenMeldung","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","reports":[)" +
+            std::string(40, '[') + std::string(40, ']') + "]}",
     };
     for (const auto& j : jobs) {
         auto f = write("job.json", j);
@@ -165,15 +168,19 @@ TEST_F(Cli, BadJobsAreRefused) {
 TEST_F(Cli, CallAnswersEveryLineInOrder) {
     auto f = write("req.ndjson",
                    R"({"id":1,"class":"clsGenMeldung","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strCount":"3","enmVerfahren":"vmBV","datDate":"2024-03-01"}})"
-                   "\n\n{broken\n"
+                   "\n\n{broken\n" + std::string(3 << 20, ' ') + "\n" +
                    R"({"id":3,"class":"clsGenAsyl","method":"GenDSKO","args":{}})" "\n");
     Result r = run("call " + f.string());
     EXPECT_EQ(r.status, 2);
     std::istringstream lines(r.out);
-    std::string a, b, c;
+    std::string a, b, too_long, c;
     std::getline(lines, a);
     std::getline(lines, b);
+    std::getline(lines, too_long);
     std::getline(lines, c);
+    // A line without end within reach is answered, not held whole.
+    EXPECT_EQ(json::parse(too_long)["request_error"],
+              "request: line of 1048577 bytes or more, longer than the limit of 1048576 bytes");
     EXPECT_EQ(json::parse(a)["result"], "NCSZAGBVD1              2              202403010000010000000301");
     EXPECT_TRUE(json::parse(b).contains("request_error"));
     EXPECT_EQ(json::parse(c)["id"], 3);
