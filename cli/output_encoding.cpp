@@ -1,5 +1,8 @@
 #include "cli/output_encoding.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace tamrel::cli {
 namespace {
 
@@ -28,6 +31,19 @@ int latin9(char32_t cp) {
     }
 }
 
+// Whether eight bytes are all printable ASCII (0x20 to 0x7E), tested at
+// once: a byte at or above 0x80, below 0x20, or equal to 0x7F sets its high bit
+// in one of the three terms (borrows only ever follow a byte that matched).
+bool printable8(const char* p) {
+    std::uint64_t x;
+    std::memcpy(&x, p, 8);
+    constexpr std::uint64_t k01 = 0x0101010101010101ULL, k80 = 0x8080808080808080ULL;
+    const std::uint64_t below = (x - 0x20 * k01) & ~x;
+    const std::uint64_t y = x ^ (0x7F * k01);
+    const std::uint64_t del = (y - k01) & ~y;
+    return ((x | below | del) & k80) == 0;
+}
+
 }  // namespace
 
 std::optional<Encoding> parse_encoding(std::string_view name) {
@@ -50,6 +66,7 @@ EncodeFailure encode(std::string& out, std::string_view text, Encoding e) {
     for (std::size_t i = 0; i < text.size();) {
         // Runs of printable ASCII are the same in every encoding: copied in one go.
         std::size_t run = i;
+        while (run + 8 <= text.size() && printable8(text.data() + run)) run += 8;
         while (run < text.size() && static_cast<unsigned char>(text[run]) - 0x20u < 0x5Fu) ++run;
         if (run > i) {
             out.append(text.data() + i, run - i);

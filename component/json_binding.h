@@ -188,26 +188,42 @@ void read(const V& v, std::vector<T>& out, const Path& path) {
     });
 }
 
-// The properties of a type, sorted by name, each with its reader: one
-// binary search per key instead of a walk over the table.
+// The properties of a type, each with its reader, found through a small
+// open-addressing hash table: one hash and, as a rule, one comparison per
+// key.
 template <class O, class V>
 struct Entry {
     std::string_view name;
     void (*read)(const V&, O&, const Path&);
 };
 
-// Names ordered by length first: most comparisons end on the length.
-inline bool name_before(std::string_view a, std::string_view b) {
-    return a.size() != b.size() ? a.size() < b.size() : a < b;
+inline std::size_t name_hash(std::string_view s) {
+    std::size_t h = 1469598103934665603ULL;
+    for (char c : s) h = (h ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
+    return h;
 }
 
 template <class O, class V>
 struct Dispatch {
     std::vector<Entry<O, V>> entries;
+    std::vector<int> slots;  // index into entries, -1 for an empty slot; a power of two long
+    void index() {
+        std::size_t n = 8;
+        while (n < 4 * entries.size()) n *= 2;
+        slots.assign(n, -1);
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            std::size_t h = name_hash(entries[i].name) & (n - 1);
+            while (slots[h] >= 0) h = (h + 1) & (n - 1);
+            slots[h] = static_cast<int>(i);
+        }
+    }
     const Entry<O, V>* find(std::string_view key) const {
-        auto it = std::lower_bound(entries.begin(), entries.end(), key,
-                                   [](const Entry<O, V>& e, std::string_view k) { return name_before(e.name, k); });
-        return it != entries.end() && it->name == key ? &*it : nullptr;
+        const std::size_t mask = slots.size() - 1;
+        for (std::size_t h = name_hash(key) & mask;; h = (h + 1) & mask) {
+            const int i = slots[h];
+            if (i < 0) return nullptr;
+            if (entries[static_cast<std::size_t>(i)].name == key) return &entries[static_cast<std::size_t>(i)];
+        }
     }
 };
 
@@ -235,8 +251,7 @@ Dispatch<O, V> make_dispatch(std::index_sequence<I...>) {
              if constexpr (requires { f.name; }) read(v, out.*(f.member), path);
          }),
      ...);
-    std::sort(d.entries.begin(), d.entries.end(),
-              [](const Entry<O, V>& a, const Entry<O, V>& b) { return name_before(a.name, b.name); });
+    d.index();
     return d;
 }
 
