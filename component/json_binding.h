@@ -5,7 +5,6 @@
 #pragma once
 #include <cstdint>
 #include <limits>
-#include <algorithm>
 #include <map>
 #include <utility>
 #include <stdexcept>
@@ -83,6 +82,10 @@ struct Path {
     }
 };
 
+// Items of a list and entries of an indexed property are numbered by a
+// 16-bit index.
+inline constexpr std::size_t kMaxItems = 32767;
+
 [[noreturn]] inline void fail(const std::string& path, std::string_view what) {
     throw RequestError(path + ": " + std::string(what));
 }
@@ -147,7 +150,7 @@ void read(const V& v, Indexed<T>& out, const Path& path) {
     if (v.is_array()) {
         std::int32_t i = 1;
         v.each_element([&](const V& e) {
-            if (i > 32767) fail(path, "more than 32767 entries");
+            if (static_cast<std::size_t>(i) > kMaxItems) fail(path, "more than 32767 entries");
             T x{};
             read(e, x, Path{&path, {}, static_cast<std::size_t>(i)});
             out.set(static_cast<std::int16_t>(i), std::move(x));
@@ -176,8 +179,7 @@ void read(const V& v, T& out, const Path& path);
 template <class V, class T>
 void read(const V& v, std::vector<T>& out, const Path& path) {
     if (!v.is_array()) fail(path, "expected an array");
-    // Items are numbered by a 16-bit index.
-    if (v.size() > 32767) fail(path, "more than 32767 items");
+    if (v.size() > kMaxItems) fail(path, "more than 32767 items");
     out.clear();
     out.reserve(v.size());
     std::size_t i = 1;

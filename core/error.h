@@ -19,6 +19,11 @@ inline constexpr std::int32_t kErrOverflow = 6;                          // runt
 
 inline constexpr const char* kComponentName = "TamrelFile26";
 
+// Whether `number` is one the library itself raises (docs/robustness.md).
+constexpr bool is_library_error(std::int32_t number) {
+    return number == kObjectErrorBase || (number >= kErrLength && number <= kErrText) || number == kErrOverflow;
+}
+
 class Error : public std::exception {
 public:
     Error(std::int32_t number, std::string source, std::string description)

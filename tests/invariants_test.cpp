@@ -20,10 +20,6 @@ namespace {
 
 using nlohmann::json;
 using namespace tamrel::testing;
-using tamrel::kErrLength;
-using tamrel::kErrOverflow;
-using tamrel::kErrText;
-using tamrel::kObjectErrorBase;
 
 // DBUV holds its count in one digit: a longer list is found by where the
 // next block (or the end) stands.
@@ -187,16 +183,12 @@ private:
     std::uniform_real_distribution<double> dist_{0.0, 1.0};
 };
 
-bool documented(std::int32_t n) {
-    return n == kObjectErrorBase || (n >= kErrLength && n <= kErrText) || n == kErrOverflow;
-}
-
 // An error response: a documented number, one log line per routine in the
 // documented form, the innermost first, all with the error's own number and
 // description.
 std::string check_error(const json& r) {
     const auto number = r["error"]["number"].get<std::int32_t>();
-    if (!documented(number)) return "undocumented error number " + std::to_string(number);
+    if (!tamrel::is_library_error(number)) return "undocumented error number " + std::to_string(number);
     if (r["log"].empty()) return "an error without log lines";
     static const std::regex line(R"(Fehler (-?\d+) in TamrelFile26 1\.0\.0 \(Zeile \d+\): .+ -> (.*))");
     for (const auto& l : r["log"]) {

@@ -14,12 +14,3 @@
             std::abort();                                                        \
         }                                                                        \
     } while (0)
-
-namespace tamrel::fuzz {
-
-// The error numbers the library documents (docs/robustness.md).
-inline bool documented_error(std::int32_t n) {
-    return n == kObjectErrorBase || (n >= kErrLength && n <= kErrText) || n == kErrOverflow;
-}
-
-}  // namespace tamrel::fuzz
