@@ -21,14 +21,10 @@ int days_in_month(int y, int m) {
     return m == 2 && leap ? 29 : days[m - 1];
 }
 
-void append2(std::string& out, int v) {
-    out += static_cast<char>('0' + v / 10 % 10);
-    out += static_cast<char>('0' + v % 10);
-}
-
-void append4(std::string& out, int v) {
-    append2(out, v / 100);
-    append2(out, v % 100);
+char* put2(char* d, int v) {
+    d[0] = static_cast<char>('0' + v / 10 % 10);
+    d[1] = static_cast<char>('0' + v % 10);
+    return d + 2;
 }
 
 }  // namespace
@@ -51,16 +47,20 @@ std::optional<Date> parse_iso_date(std::string_view s) {
     return d;
 }
 
+char* put_yyyymmdd(char* out, const Date& d) {
+    return put2(put2(put2(put2(out, d.year / 100), d.year % 100), d.month), d.day);
+}
+
+char* put_hhnnss(char* out, const Date& d) { return put2(put2(put2(out, d.hour), d.minute), d.second); }
+
 void append_yyyymmdd(std::string& out, const Date& d) {
-    append4(out, d.year);
-    append2(out, d.month);
-    append2(out, d.day);
+    char buf[8];
+    out.append(buf, put_yyyymmdd(buf, d));
 }
 
 void append_hhnnss(std::string& out, const Date& d) {
-    append2(out, d.hour);
-    append2(out, d.minute);
-    append2(out, d.second);
+    char buf[6];
+    out.append(buf, put_hhnnss(buf, d));
 }
 
 std::string date_as_argument(const Date& d) {

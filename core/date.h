@@ -20,7 +20,10 @@ struct Date {
 // Anything else (or an impossible date) yields nullopt.
 std::optional<Date> parse_iso_date(std::string_view text);
 
-// "yyyymmdd" and "hhnnss" of a date (the formats of the records).
+// "yyyymmdd" and "hhnnss" of a date (the formats of the records), written
+// at `out` (returning the end) or appended.
+char* put_yyyymmdd(char* out, const Date& d);
+char* put_hhnnss(char* out, const Date& d);
 void append_yyyymmdd(std::string& out, const Date& d);
 void append_hhnnss(std::string& out, const Date& d);
 

@@ -10,7 +10,9 @@ std::string GenVOSZHead(std::string_view code, std::string_view sender, std::str
     return routine([&] { return call_text("mlGen.GenVOSZHead(", code, sender, receiver, fileNr, dateText); },
                    [&](int& line) {
                        std::string out;
-                       Writer(out, line).lit("VOSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6);
+                       Writer w(out, line);
+                       w.lit("VOSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6);
+                       w.end();
                        return out;
                    });
 }
@@ -42,7 +44,9 @@ std::string GenNCSZHead(std::string_view code, std::string_view sender, std::str
         [&] { return call_text("mlGen.GenNCSZHead(", code, sender, receiver, fileNr, count, dateText); },
         [&](int& line) {
             std::string out;
-            Writer(out, line).lit("NCSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6).n(count, 8);
+            Writer w(out, line);
+            w.lit("NCSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6).n(count, 8);
+            w.end();
             return out;
         });
 }

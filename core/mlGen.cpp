@@ -8,6 +8,7 @@
 #include "core/error.h"
 #include "core/host.h"
 #include "core/routine.h"
+#include "core/short_bytes.h"
 #include "core/text.h"
 
 namespace tamrel::mlGen {
@@ -24,14 +25,6 @@ using detail::has_non_ascii;
 constexpr std::string_view kCheckLength = "mlGen.CheckLength";
 
 bool is_control(char c) { return c == '\r' || c == '\n' || c == '\t'; }
-
-
-// Text fields take UTF-8; anything else is refused, never cut mid-character.
-void require_utf8(std::string_view value, const char* routine_name) {
-    if (has_non_ascii(value) && !text::is_valid_utf8(value))
-        raise(kErrText, std::string("mlGen.") + routine_name, "Der Text ist kein g\xC3\xBCltiges UTF-8.");
-}
-
 
 bool all_of(std::string_view s, char c) {
     for (char x : s)
@@ -88,105 +81,14 @@ Decimal::Decimal(std::int64_t v) noexcept {
     len = static_cast<std::size_t>(r.ptr - buf);
 }
 
-// Short runs are filled and copied inline; most fields are a few characters.
-inline void fill(char* d, char c, std::size_t n) {
-    if (n > 32) {
-        std::memset(d, c, n);
-        return;
-    }
-    for (std::size_t i = 0; i < n; ++i) d[i] = c;
-}
-
-inline void copy(char* d, const char* s, std::size_t n) {
-    if (n > 32) {
-        std::memcpy(d, s, n);
-        return;
-    }
-    for (std::size_t i = 0; i < n; ++i) d[i] = s[i];
-}
-
-char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
-    const std::size_t take = value.size() < w ? value.size() : w;
-    // Common case: the characters kept are plain ASCII (no control character
-    // to remove) and the rest is ASCII too: copy them, then pad. Checked
-    // eight bytes at a time: a byte of 0x80 or more, or below 0x0E (the
-    // controls CR, LF and TAB are among them), sends the value the long way.
-    bool plain = true, content = false;
-    std::size_t i = 0;
-    for (; plain && i + 8 <= take; i += 8) {
-        std::uint64_t x;
-        std::memcpy(&x, value.data() + i, 8);
-        constexpr std::uint64_t kHigh = 0x8080808080808080ULL;
-        const std::uint64_t low = (x - 0x0E0E0E0E0E0E0E0EULL) & ~x & kHigh;
-        plain = ((x & kHigh) | low) == 0;
-        content |= x != 0x2020202020202020ULL;
-    }
-    for (; plain && i < take; ++i) {
-        const auto c = static_cast<unsigned char>(value[i]);
-        plain = c < 0x80 && c != '\r' && c != '\n' && c != '\t';
-        content |= c != ' ';
-    }
-    if (plain && (take == value.size() || !has_non_ascii(value.substr(take)))) {
-        copy(d, value.data(), take);
-        fill(d + take, ' ', w - take);
-        if (content) filled = true;
-        return d + w;
-    }
-    require_utf8(value, "StrToAn");
-    // Control characters are dropped; whole characters are kept up to `w`.
-    std::size_t room = w, run = 0;
-    i = 0;
-    content = false;
-    for (; i < value.size(); ++i) {
-        const auto c = static_cast<unsigned char>(value[i]);
-        if (c == '\r' || c == '\n' || c == '\t') {
-            std::memcpy(d, value.data() + run, i - run);
-            d += i - run;
-            run = i + 1;
-            continue;
-        }
-        if ((c & 0xC0) != 0x80) {
-            if (room == 0) break;
-            --room;
-            content |= c != ' ';
-        }
-    }
-    std::memcpy(d, value.data() + run, i - run);
-    d += i - run;
-    std::memset(d, ' ', room);
-    if (content) filled = true;
-    return d + room;
-}
-
-char* PutN(char* d, std::string_view value, std::size_t w, bool& filled) {
-    std::string_view kept = value;
-    std::size_t pad = 0;
-    if (!has_non_ascii(value)) {
-        if (value.size() >= w)
-            kept = value.substr(value.size() - w);
-        else
-            pad = w - value.size();
-    } else {
-        require_utf8(value, "StrToN");
-        std::size_t chars = text::char_count(value);
-        if (chars >= w)
-            kept = text::right(value, w);
-        else
-            pad = w - chars;
-    }
-    fill(d, '0', pad);
-    copy(d + pad, kept.data(), kept.size());
-    if (!filled && !all_of(kept, '0')) filled = true;
-    return d + pad + kept.size();
-}
-
 namespace {
 // Runs a pointer encoder on a std::string: room for the widest result
-// (four bytes a character), then the string is cut to what was written.
+// (four bytes a character) and the encoders' scratch, then the string is cut
+// to what was written.
 template <class Put>
 void append_with(std::string& out, std::size_t max_bytes, Put&& put) {
     const std::size_t start = out.size();
-    out.resize(start + max_bytes);
+    out.resize(start + max_bytes + kPutSlack);
     char* end = put(out.data() + start);
     out.resize(static_cast<std::size_t>(end - out.data()));
 }
@@ -242,11 +144,11 @@ char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool w
         return d + field.size();
     }
     if (with_sign) *d++ = sign ? sign : '+';
-    fill(d, '0', wv - nv);
-    copy(d + wv - nv, vor, nv);
+    bytes::pad_field(d, '0', wv);
+    bytes::copy_short(d + wv - nv, vor, nv);
     d += wv;
-    copy(d, nach, nn);
-    fill(d + nn, '0', wn - nn);
+    bytes::pad_field(d, '0', wn);
+    bytes::copy_short(d, nach, nn);
     d += wn;
     for (std::size_t i = 0; i < nv + nn && !filled; ++i)
         if ((i < nv ? vor[i] : nach[i - nv]) != '0') filled = true;
@@ -261,11 +163,7 @@ void AppendBG(std::string& out, std::string_view value, int intVor, int intNach,
     append_amount(out, value, intVor, intNach, filled, true);
 }
 
-void AppendJN(std::string& out, std::int32_t value, bool& filled) {
-    char c = value == 1 ? 'J' : value == 2 ? 'N' : ' ';
-    out += c;
-    if (c != ' ') filled = true;
-}
+void AppendJN(std::string& out, std::int32_t value, bool& filled) { out += JNChar(value, filled); }
 
 std::string StrToAn(std::string_view value, int width, bool& filled) {
     return routine([&] { return call_text("mlGen.StrToAn(", value, width, filled); }, [&](int& line) {
@@ -376,32 +274,38 @@ namespace tamrel::mlGlobal {
 
 using mlGen::detail::has_non_ascii;
 
-void AppendCurrDate(std::string& out, std::string_view dateText, int format, const Date& date) {
+std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const Date& date) {
     char own[8];
     std::string_view t = dateText;
-    if (text::char_count(dateText) < 8) {
-        std::string tmp;
-        append_yyyymmdd(tmp, date);
-        std::copy(tmp.begin(), tmp.end(), own);
-        t = std::string_view(own, 8);
-    }
+    if (text::char_count(dateText) < 8) t = std::string_view(own, static_cast<std::size_t>(put_yyyymmdd(own, date) - own));
     // Day from the right end, month from characters 5-6, year from 1-4.
     const bool ascii = !has_non_ascii(t);
     const std::string_view day = ascii ? t.substr(t.size() - 2) : text::right(t, 2);
     const std::string_view month = ascii ? t.substr(4, 2) : text::mid(t, 5, 2);
     const std::string_view year = ascii ? t.substr(0, 4) : text::left(t, 4);
+    char* p = out;
+    const auto add = [&p](std::string_view part) {
+        std::memcpy(p, part.data(), part.size());
+        p += part.size();
+    };
     switch (format) {
-        case 0: out.append(year).append(month).append(day); break;
+        case 0: add(year), add(month), add(day); break;
         case 1:
-            out.append(year).append(month).append(day);
+            add(year), add(month), add(day);
             if (text::char_count(t) >= 14)
-                out.append(ascii ? t.substr(8, 6) : text::mid(t, 9, 6));
+                add(ascii ? t.substr(8, 6) : text::mid(t, 9, 6));
             else
-                append_hhnnss(out, date);
+                p = put_hhnnss(p, date);
             break;
-        case 2: out.append(day).append(month).append(year); break;
+        case 2: add(day), add(month), add(year); break;
         default: break;
     }
+    return static_cast<std::size_t>(p - out);
+}
+
+void AppendCurrDate(std::string& out, std::string_view dateText, int format, const Date& date) {
+    char buf[kCurrDateBytes];
+    out.append(buf, PutCurrDate(buf, dateText, format, date));
 }
 
 std::string GetCurrDate(std::string_view dateText, int format, const Date& date) {

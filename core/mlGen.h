@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/date.h"
+#include "core/short_bytes.h"
 
 namespace tamrel::mlGen {
 
@@ -25,9 +26,40 @@ std::string ConvertDate(std::string_view text);
 std::string ConvertDateTimeToISO(std::string_view text);
 
 // The text and numeric encoders writing at `d`, which has room for four
-// bytes per character of width; they return the end of what they wrote.
-char* PutAn(char* d, std::string_view value, std::size_t width, bool& filled);
-char* PutN(char* d, std::string_view value, std::size_t width, bool& filled);
+// bytes per character of width plus kPutSlack; they return the end of the
+// field. Bytes past that end are scratch (short fields are padded with one
+// fixed-size store), overwritten by the next field or cut off.
+inline constexpr std::size_t kPutSlack = bytes::kSlack;
+
+namespace detail {
+// The encoders' general walk, for what the inline fast path leaves: values
+// longer than their field, UTF-8, control characters. The fuzzers hold the
+// fast path to it.
+char* PutAnGeneral(char* d, std::string_view value, std::size_t width, bool& filled);
+char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& filled);
+}  // namespace detail
+
+// Most values are a few plain ASCII characters that fit their field: those
+// are copied onto a padded field here, without a call.
+[[gnu::always_inline]] inline char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
+    bool content = false;
+    if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), ' ', content)) [[unlikely]]
+        return detail::PutAnGeneral(d, value, w, filled);
+    bytes::pad_field(d, ' ', w);
+    bytes::copy_short(d, value.data(), value.size());
+    if (content) filled = true;
+    return d + w;
+}
+
+[[gnu::always_inline]] inline char* PutN(char* d, std::string_view value, std::size_t w, bool& filled) {
+    bool digits = false;
+    if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), '0', digits)) [[unlikely]]
+        return detail::PutNGeneral(d, value, w, filled);
+    bytes::pad_field(d, '0', w);
+    bytes::copy_short(d + w - value.size(), value.data(), value.size());
+    if (digits) filled = true;
+    return d + w;
+}
 
 // The amount encoders (StrToPB, and StrToBG with `with_sign`) writing at `d`.
 char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled);
@@ -37,6 +69,12 @@ void AppendN(std::string& out, std::string_view value, int width, bool& filled);
 void AppendPB(std::string& out, std::string_view value, int intVor, int intNach, bool& filled);
 void AppendBG(std::string& out, std::string_view value, int intVor, int intNach, bool& filled);
 void AppendJN(std::string& out, std::int32_t value, bool& filled);
+// The character of EnmToJN: "J" for 1, "N" for 2, a blank otherwise.
+inline char JNChar(std::int32_t value, bool& filled) {
+    const char c = value == 1 ? 'J' : value == 2 ? 'N' : ' ';
+    if (c != ' ') filled = true;
+    return c;
+}
 void CheckLength(std::string_view record, int length, std::string_view name);
 
 // The decimal text of a number, in a small buffer (no allocation).
@@ -53,5 +91,9 @@ namespace tamrel::mlGlobal {
 
 std::string GetCurrDate(std::string_view dateText, int format, const Date& date);
 void AppendCurrDate(std::string& out, std::string_view dateText, int format, const Date& date);
+// GetCurrDate written at `out`, which has room for kCurrDateBytes; returns
+// the length. (At most 14 characters of up to four bytes.)
+inline constexpr std::size_t kCurrDateBytes = 56;
+std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const Date& date);
 
 }  // namespace tamrel::mlGlobal

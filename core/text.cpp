@@ -10,6 +10,14 @@ bool is_valid_utf8(std::string_view s) noexcept {
     const auto* p = reinterpret_cast<const unsigned char*>(s.data());
     const auto* end = p + s.size();
     while (p < end) {
+        if (end - p >= 8) {  // runs of ASCII eight bytes at a time
+            std::uint64_t x;
+            std::memcpy(&x, p, 8);
+            if ((x & 0x8080808080808080ULL) == 0) {
+                p += 8;
+                continue;
+            }
+        }
         unsigned char c = *p;
         if (c < 0x80) { ++p; continue; }
         std::size_t n;

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <exception>
 #include <string>
 #include <string_view>
 
@@ -42,16 +41,12 @@ void read_flags(std::string_view record, const std::size_t (&positions)[N], bool
 
 class Writer {
 public:
-    // Writes a record that is appended to `out` when the writer ends
-    // (unless an error is on its way: then nothing is appended). Fields go
+    // Writes a record that is appended to `out` by the length check that
+    // closes it (an error before or in the check appends nothing). Fields go
     // into the writer's own buffer, on the stack for ordinary records.
     Writer(std::string& out, int& line) : Writer(out, line, own_filled_) {}
     // As above, with the filled flag kept by the caller.
-    Writer(std::string& out, int& line, bool& filled)
-        : out_(out), line_(line), filled_(&filled), errors_(std::uncaught_exceptions()) {}
-    ~Writer() {
-        if (std::uncaught_exceptions() == errors_) out_.append(buf_, used_);
-    }
+    Writer(std::string& out, int& line, bool& filled) : out_(out), line_(line), filled_(&filled) {}
     Writer(const Writer&) = delete;
     Writer& operator=(const Writer&) = delete;
 
@@ -62,11 +57,13 @@ public:
         for (char c : s) chars_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
         return *this;
     }
-    Writer& an(std::string_view v, int width) {
-        return put(width, [&](char* d, std::size_t w) { return mlGen::PutAn(d, v, w, *filled_); });
+    [[gnu::always_inline]] Writer& an(std::string_view v, int width) {
+        const std::size_t w = open_field(width);
+        return close_field(mlGen::PutAn(buf_ + used_, v, w, *filled_), w);
     }
-    Writer& n(std::string_view v, int width) {
-        return put(width, [&](char* d, std::size_t w) { return mlGen::PutN(d, v, w, *filled_); });
+    [[gnu::always_inline]] Writer& n(std::string_view v, int width) {
+        const std::size_t w = open_field(width);
+        return close_field(mlGen::PutN(buf_ + used_, v, w, *filled_), w);
     }
     Writer& n(std::int64_t v, int width) { return n(mlGen::Decimal(v), width); }
     Writer& blank(int width) { return an({}, width); }
@@ -74,33 +71,34 @@ public:
     Writer& pb(std::string_view v, int vor, int nach) { return amount(v, vor, nach, false); }
     Writer& bg(std::string_view v, int vor, int nach) { return amount(v, vor, nach, true); }
     Writer& jn(std::int32_t v) {
-        std::string field;
-        mlGen::AppendJN(field, v, *filled_);
-        return lit(field);
+        const char c = mlGen::JNChar(v, *filled_);
+        return lit({&c, 1});
     }
     Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
     Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
-        std::string t;  // at most 14 characters: no allocation
-        mlGlobal::AppendCurrDate(t, dateText, format, date);
-        return n(t, width);
+        char t[mlGlobal::kCurrDateBytes];
+        return n(std::string_view(t, mlGlobal::PutCurrDate(t, dateText, format, date)), width);
     }
     // Replaces the ASCII character at 0-based byte `index` of the record.
     void patch(std::size_t index, char c) { buf_[index] = c; }
 
     std::string_view record() const { return {buf_, used_}; }
 
-    // The length check that closes the record. Every encoder writes exactly
-    // its width, so the writer knows the record's length in characters
-    // without counting them again.
+    // The length check that closes the record and appends it. Every encoder
+    // writes exactly its width, so the writer knows the record's length in
+    // characters without counting them again.
     void check(int length, std::string_view name) {
         ++line_;
         assert(chars_ == text::char_count(record()));
         if (chars_ != static_cast<std::size_t>(length)) mlGen::CheckLength(record(), length, name);
+        end();
     }
+    // Appends a record head whose length the caller checks with the rest.
+    void end() { out_.append(buf_, used_); }
 
 private:
     // Room for `bytes` more bytes at the record's end.
-    char* room(std::size_t bytes) {
+    [[gnu::always_inline]] char* room(std::size_t bytes) {
         if (used_ + bytes > cap_) grow(used_ + bytes);
         return buf_ + used_;
     }
@@ -112,19 +110,26 @@ private:
         cap_ = heap_.size();
     }
 
-    template <class Put>
-    Writer& put(int width, Put&& encode) {
+    // A field of `width` characters begins: its statement is counted and the
+    // buffer has room for it (four bytes a character) and the encoders'
+    // scratch. Inlined at every field, like the encoders' fast paths: a call
+    // per field would cost as much as the field itself.
+    [[gnu::always_inline]] std::size_t open_field(int width) {
         ++line_;
         const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
-        char* d = room(4 * w);
-        used_ = static_cast<std::size_t>(encode(d, w) - buf_);
+        room(4 * w + mlGen::kPutSlack);
+        return w;
+    }
+    // The field of `w` characters ends at `end`.
+    [[gnu::always_inline]] Writer& close_field(const char* end, std::size_t w) {
+        used_ = static_cast<std::size_t>(end - buf_);
         chars_ += w;
         return *this;
     }
 
     Writer& amount(std::string_view v, int vor, int nach, bool with_sign) {
-        const int width = vor + nach + (with_sign ? 1 : 0);
-        return put(width, [&](char* d, std::size_t) { return mlGen::PutAmount(d, v, vor, nach, with_sign, *filled_); });
+        const std::size_t w = open_field(vor + nach + (with_sign ? 1 : 0));
+        return close_field(mlGen::PutAmount(buf_ + used_, v, vor, nach, with_sign, *filled_), w);
     }
 
     static constexpr std::size_t kLocal = 4096;
@@ -132,7 +137,6 @@ private:
     int& line_;
     bool own_filled_ = false;
     bool* filled_;
-    int errors_;
     std::size_t used_ = 0;
     std::size_t chars_ = 0;
     std::size_t cap_ = kLocal;

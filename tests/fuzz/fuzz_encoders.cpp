@@ -50,12 +50,21 @@ void fixed_width(FuzzedDataProvider& in) {
         return numeric ? mlGen::StrToN(value, width, filled) : mlGen::StrToAn(value, width, filled);
     });
     const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
+    // The fast path (behind the returning form) against the general walk.
+    bool filled_general = false;
+    const Outcome general = attempt([&] {
+        auto buf = std::make_unique<char[]>(4 * w + mlGen::kPutSlack);
+        char* end = numeric ? mlGen::detail::PutNGeneral(buf.get(), value, w, filled_general)
+                            : mlGen::detail::PutAnGeneral(buf.get(), value, w, filled_general);
+        return std::string(buf.get(), end);
+    });
     const Outcome put = attempt([&] {
-        auto buf = std::make_unique<char[]>(4 * w + 1);
+        auto buf = std::make_unique<char[]>(4 * w + mlGen::kPutSlack);
         char* end = numeric ? mlGen::PutN(buf.get(), value, w, filled_put) : mlGen::PutAn(buf.get(), value, w, filled_put);
         return std::string(buf.get(), end);
     });
     FUZZ_REQUIRE(o.raised == put.raised && o.text == put.text && filled == filled_put);
+    FUZZ_REQUIRE(general.raised == put.raised && general.text == put.text && filled_general == filled_put);
     if (!o.raised) FUZZ_REQUIRE(text::is_valid_utf8(o.text) && text::char_count(o.text) == w);
 }
 
@@ -69,7 +78,7 @@ void amount(FuzzedDataProvider& in) {
         return with_sign ? mlGen::StrToBG(value, vor, nach, filled) : mlGen::StrToPB(value, vor, nach, filled);
     });
     const Outcome put = attempt([&] {
-        std::string buf(static_cast<std::size_t>(vor + nach + 1), '\0');
+        std::string buf(static_cast<std::size_t>(vor + nach + 1) + mlGen::kPutSlack, '\0');
         char* end = mlGen::PutAmount(buf.data(), value, vor, nach, with_sign, filled_put);
         buf.resize(static_cast<std::size_t>(end - buf.data()));
         return buf;

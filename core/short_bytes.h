@@ -1,0 +1,131 @@
+// Word-at-a-time helpers for the encoders' fast paths: most field values are
+// a few plain ASCII characters, and testing or copying them byte by byte
+// costs more than the rest of the field. Loads never leave [s, s + n);
+// stores may use the kSlack bytes of scratch behind a field.
+#pragma once
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+
+namespace tamrel::bytes {
+
+// Scratch a field's writer leaves behind the field (see pad_field).
+inline constexpr std::size_t kSlack = 32;
+
+inline constexpr std::uint64_t kOnes = 0x0101010101010101ULL;
+inline constexpr std::uint64_t kHigh = 0x8080808080808080ULL;
+
+inline std::uint64_t load8(const char* p) noexcept {
+    std::uint64_t x;
+    std::memcpy(&x, p, 8);
+    return x;
+}
+inline std::uint64_t load4(const char* p) noexcept {
+    std::uint32_t x;
+    std::memcpy(&x, p, 4);
+    return x;
+}
+inline void store8(char* p, std::uint64_t x) noexcept { std::memcpy(p, &x, 8); }
+inline void store4(char* p, std::uint64_t x) noexcept {
+    const auto y = static_cast<std::uint32_t>(x);
+    std::memcpy(p, &y, 4);
+}
+
+// The high bit of every byte that is not plain: 0x80 or above, or below
+// 0x0E (CR, LF and TAB are among those). Exact for the word as a whole.
+inline std::uint64_t not_plain(std::uint64_t x) noexcept { return (x | ((x - 0x0E * kOnes) & ~x)) & kHigh; }
+
+// Scans the n bytes at s: true when every one is plain ASCII; `other` tells
+// whether any differs from the padding character `pad`. Short texts are
+// read as two overlapping words (or three bytes), longer ones word by word.
+[[gnu::always_inline]] inline bool scan_plain(const char* s, std::size_t n, char pad, bool& other) noexcept {
+    const std::uint64_t pads = kOnes * static_cast<unsigned char>(pad);
+    std::uint64_t a = pads, b = pads;
+    if (n >= 8) {
+        std::uint64_t bad = 0, diff = 0;
+        for (std::size_t i = 0; i + 8 < n; i += 8) {
+            const std::uint64_t x = load8(s + i);
+            bad |= not_plain(x);
+            diff |= x ^ pads;
+        }
+        a = load8(s + n - 8);
+        other = (diff | (a ^ pads)) != 0;
+        return (bad | not_plain(a)) == 0;
+    }
+    if (n >= 4) {
+        a = (pads & ~0xFFFFFFFFULL) | load4(s);
+        b = (pads & ~0xFFFFFFFFULL) | load4(s + n - 4);
+    } else if (n > 0) {
+        const auto byte = [s](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(s[i])}; };
+        a = (pads & ~0xFFFFFFULL) | byte(0) | byte(n / 2) << 8 | byte(n - 1) << 16;
+    }
+    other = ((a ^ pads) | (b ^ pads)) != 0;
+    return (not_plain(a) | not_plain(b)) == 0;
+}
+
+// What the encoders need to know of a UTF-8 text, taken a word at a time.
+struct Survey {
+    std::size_t chars = 0;  // characters (bytes that are not continuation bytes)
+    bool controls = false;  // a byte below 0x0E (CR, LF and TAB among them)
+    bool content = false;   // a byte other than the blank
+};
+
+inline Survey survey(const char* s, std::size_t n) noexcept {
+    const std::uint64_t blanks = kOnes * ' ';
+    std::uint64_t controls = 0, differs = 0;
+    std::size_t continuation = 0;
+    const auto take = [&](std::uint64_t x) {
+        // Bytes of 0x0E or more have the high bit of (low seven bits + 0x72) or their own.
+        controls |= ~(((x & ~kHigh) + (0x80 - 0x0E) * kOnes) | x) & kHigh;
+        continuation += static_cast<std::size_t>(std::popcount(x & ~(x << 1) & kHigh));
+        differs |= x ^ blanks;
+    };
+    std::size_t i = 0;
+    for (; i + 8 <= n; i += 8) take(load8(s + i));
+    if (const std::size_t rest = n - i; rest > 0) {
+        std::uint64_t x = blanks;  // the missing bytes read as blanks, which count for nothing
+        if (n >= 8) {
+            x = load8(s + n - 8) >> (8 * (8 - rest));
+            x |= blanks << (8 * rest);
+        } else {
+            std::memcpy(&x, s + i, rest);
+        }
+        take(x);
+    }
+    return {n - continuation, controls != 0, differs != 0};
+}
+
+// Copies n bytes; short runs with two overlapping stores.
+[[gnu::always_inline]] inline void copy_short(char* d, const char* s, std::size_t n) noexcept {
+    if (n >= 8) {
+        if (n > 16) {
+            std::memcpy(d, s, n);
+            return;
+        }
+        const std::uint64_t head = load8(s), tail = load8(s + n - 8);
+        store8(d, head);
+        store8(d + n - 8, tail);
+    } else if (n >= 4) {
+        const std::uint64_t head = load4(s), tail = load4(s + n - 4);
+        store4(d, head);
+        store4(d + n - 4, tail);
+    } else if (n > 0) {
+        const char first = s[0], middle = s[n / 2], last = s[n - 1];
+        d[0] = first;
+        d[n / 2] = middle;
+        d[n - 1] = last;
+    }
+}
+
+// Fills a field of width w with c: one fixed-size store when it fits the
+// scratch behind the field.
+[[gnu::always_inline]] inline void pad_field(char* d, char c, std::size_t w) noexcept {
+    if (w <= kSlack)
+        std::memset(d, c, kSlack);
+    else
+        std::memset(d, c, w);
+}
+
+}  // namespace tamrel::bytes
