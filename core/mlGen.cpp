@@ -277,9 +277,13 @@ using mlGen::detail::has_non_ascii;
 std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const Date& date) {
     char own[8];
     std::string_view t = dateText;
-    if (text::char_count(dateText) < 8) t = std::string_view(own, static_cast<std::size_t>(put_yyyymmdd(own, date) - own));
+    std::size_t chars = text::char_count(dateText);
+    if (chars < 8) {
+        t = std::string_view(own, static_cast<std::size_t>(put_yyyymmdd(own, date) - own));
+        chars = 8;
+    }
     // Day from the right end, month from characters 5-6, year from 1-4.
-    const bool ascii = !has_non_ascii(t);
+    const bool ascii = t.size() == chars;
     const std::string_view day = ascii ? t.substr(t.size() - 2) : text::right(t, 2);
     const std::string_view month = ascii ? t.substr(4, 2) : text::mid(t, 5, 2);
     const std::string_view year = ascii ? t.substr(0, 4) : text::left(t, 4);
@@ -292,7 +296,7 @@ std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const 
         case 0: add(year), add(month), add(day); break;
         case 1:
             add(year), add(month), add(day);
-            if (text::char_count(t) >= 14)
+            if (chars >= 14)
                 add(ascii ? t.substr(8, 6) : text::mid(t, 9, 6));
             else
                 p = put_hhnnss(p, date);

@@ -20,10 +20,14 @@ bool is_valid_utf8(std::string_view s) noexcept {
         }
         unsigned char c = *p;
         if (c < 0x80) { ++p; continue; }
+        if (c >= 0xC2 && c <= 0xDF) {  // two bytes: most letters of Latin scripts
+            if (end - p < 2 || (p[1] & 0xC0) != 0x80) return false;
+            p += 2;
+            continue;
+        }
         std::size_t n;
         char32_t cp;
-        if (c >= 0xC2 && c <= 0xDF) { n = 1; cp = c & 0x1F; }
-        else if ((c >> 4) == 0xE) { n = 2; cp = c & 0x0F; }
+        if ((c >> 4) == 0xE) { n = 2; cp = c & 0x0F; }
         else if (c >= 0xF0 && c <= 0xF4) { n = 3; cp = c & 0x07; }
         else return false;
         if (static_cast<std::size_t>(end - p) <= n) return false;

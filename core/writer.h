@@ -22,10 +22,12 @@ inline std::string_view char_at(std::string_view record, std::size_t pos) { retu
 inline bool is_j(std::string_view record, std::size_t pos) { return char_at(record, pos) == "J"; }
 
 // Reads the "J" flags at ascending 1-based character positions in one pass.
+// `chars` is the record's length in characters: when it equals the length
+// in bytes, every character is one byte.
 template <std::size_t N>
-void read_flags(std::string_view record, const std::size_t (&positions)[N], bool (&out)[N]) {
+void read_flags(std::string_view record, std::size_t chars, const std::size_t (&positions)[N], bool (&out)[N]) {
     const std::size_t last = positions[N - 1];
-    if (record.size() >= last && text::is_ascii(record.substr(0, last))) {
+    if (record.size() >= last && record.size() == chars) {
         for (std::size_t k = 0; k < N; ++k) out[k] = record[positions[k] - 1] == 'J';
         return;
     }
@@ -50,20 +52,20 @@ public:
     Writer(const Writer&) = delete;
     Writer& operator=(const Writer&) = delete;
 
-    Writer& lit(std::string_view s) {
+    [[gnu::always_inline]] Writer& lit(std::string_view s) {
         ++line_;
         std::memcpy(room(s.size()), s.data(), s.size());
-        used_ += s.size();
+        cur_ += s.size();
         for (char c : s) chars_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
         return *this;
     }
     [[gnu::always_inline]] Writer& an(std::string_view v, int width) {
         const std::size_t w = open_field(width);
-        return close_field(mlGen::PutAn(buf_ + used_, v, w, *filled_), w);
+        return close_field(mlGen::PutAn(cur_, v, w, *filled_), w);
     }
     [[gnu::always_inline]] Writer& n(std::string_view v, int width) {
         const std::size_t w = open_field(width);
-        return close_field(mlGen::PutN(buf_ + used_, v, w, *filled_), w);
+        return close_field(mlGen::PutN(cur_, v, w, *filled_), w);
     }
     Writer& n(std::int64_t v, int width) { return n(mlGen::Decimal(v), width); }
     Writer& blank(int width) { return an({}, width); }
@@ -80,9 +82,9 @@ public:
         return n(std::string_view(t, mlGlobal::PutCurrDate(t, dateText, format, date)), width);
     }
     // Replaces the ASCII character at 0-based byte `index` of the record.
-    void patch(std::size_t index, char c) { buf_[index] = c; }
+    void patch(std::size_t index, char c) { begin_[index] = c; }
 
-    std::string_view record() const { return {buf_, used_}; }
+    std::string_view record() const { return {begin_, static_cast<std::size_t>(cur_ - begin_)}; }
 
     // The length check that closes the record and appends it. Every encoder
     // writes exactly its width, so the writer knows the record's length in
@@ -94,20 +96,22 @@ public:
         end();
     }
     // Appends a record head whose length the caller checks with the rest.
-    void end() { out_.append(buf_, used_); }
+    void end() { out_.append(begin_, cur_); }
 
 private:
     // Room for `bytes` more bytes at the record's end.
     [[gnu::always_inline]] char* room(std::size_t bytes) {
-        if (used_ + bytes > cap_) grow(used_ + bytes);
-        return buf_ + used_;
+        if (static_cast<std::size_t>(limit_ - cur_) < bytes) grow(bytes);
+        return cur_;
     }
-    void grow(std::size_t need) {
-        std::string bigger(std::max(need, 2 * cap_), '\0');
-        std::memcpy(bigger.data(), buf_, used_);
+    void grow(std::size_t bytes) {
+        const std::size_t used = static_cast<std::size_t>(cur_ - begin_);
+        std::string bigger(std::max(used + bytes, 2 * static_cast<std::size_t>(limit_ - begin_)), '\0');
+        std::memcpy(bigger.data(), begin_, used);
         heap_.swap(bigger);
-        buf_ = heap_.data();
-        cap_ = heap_.size();
+        begin_ = heap_.data();
+        cur_ = begin_ + used;
+        limit_ = begin_ + heap_.size();
     }
 
     // A field of `width` characters begins: its statement is counted and the
@@ -121,15 +125,15 @@ private:
         return w;
     }
     // The field of `w` characters ends at `end`.
-    [[gnu::always_inline]] Writer& close_field(const char* end, std::size_t w) {
-        used_ = static_cast<std::size_t>(end - buf_);
+    [[gnu::always_inline]] Writer& close_field(char* end, std::size_t w) {
+        cur_ = end;
         chars_ += w;
         return *this;
     }
 
     Writer& amount(std::string_view v, int vor, int nach, bool with_sign) {
         const std::size_t w = open_field(vor + nach + (with_sign ? 1 : 0));
-        return close_field(mlGen::PutAmount(buf_ + used_, v, vor, nach, with_sign, *filled_), w);
+        return close_field(mlGen::PutAmount(cur_, v, vor, nach, with_sign, *filled_), w);
     }
 
     static constexpr std::size_t kLocal = 4096;
@@ -137,11 +141,11 @@ private:
     int& line_;
     bool own_filled_ = false;
     bool* filled_;
-    std::size_t used_ = 0;
     std::size_t chars_ = 0;
-    std::size_t cap_ = kLocal;
     char local_[kLocal];
-    char* buf_ = local_;
+    char* begin_ = local_;  // the record's first byte
+    char* cur_ = local_;    // where the next field goes
+    char* limit_ = local_ + kLocal;
     std::string heap_;
 };
 

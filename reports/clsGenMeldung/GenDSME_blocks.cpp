@@ -1,4 +1,5 @@
 // The DEUEV report's own blocks DBME, DBEU, DBUV, DBKS, DBSO and DBKV.
+#include "core/joined.h"
 #include "core/writer.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
@@ -8,14 +9,14 @@ void clsGenMeldung::GenDBME(std::string& out, const Meldung& m) {
     routine("clsGenMeldung.GenDBME", [&](int& line) {
         const bool zero_marker = m.Meldekennzeichen.empty() && !m.Storno &&
                                  std::string_view("10,11,12,13").find(m.Meldegrund) == std::string_view::npos;
-        const std::string groups = m.Beitragsgruppe1 + m.Beitragsgruppe2 + m.Beitragsgruppe3 + m.Beitragsgruppe4;
+        const Joined groups{m.Beitragsgruppe1, m.Beitragsgruppe2, m.Beitragsgruppe3, m.Beitragsgruppe4};
         Writer w(out, line);
         w.lit("DBME").flag(m.Storno).an(zero_marker ? "0" : m.Meldekennzeichen, 1);
         w.n(m.Beginn, 8).n(m.Ende, 8).zeros(2).an(m.Statuskennzeichen, 1).n(m.Entgelt, 6).n(groups, 4);
         if (!m.SchluesselNeu1.empty())
-            w.an(m.SchluesselNeu1 + m.SchluesselNeu3 + m.SchluesselNeu2, 9);
+            w.an(Joined{m.SchluesselNeu1, m.SchluesselNeu3, m.SchluesselNeu2}, 9);
         else
-            w.an(m.SchluesselAlt1, 5).an(m.SchluesselAlt2 + m.SchluesselAlt3 + m.SchluesselAlt4 + m.SchluesselAlt5, 4);
+            w.an(m.SchluesselAlt1, 5).an(Joined{m.SchluesselAlt2, m.SchluesselAlt3, m.SchluesselAlt4, m.SchluesselAlt5}, 4);
         w.an(m.Vorgang.Arbeitgeber.Kennzeichen, 1).flag(m.Sonderkennzeichen).zeros(1).blank(100);
         w.check(147, "DBME");
     });
@@ -43,8 +44,8 @@ void clsGenMeldung::AppendDBUV(std::string& out, const Meldung& m, bool& produce
             count = add16(count, 1);
             required = add16(required, 71);
         }
-        std::string digit;
-        mlGen::AppendN(digit, mlGen::Decimal(count), 1, produced);
+        char digit[4 + mlGen::kPutSlack];
+        mlGen::PutN(digit, mlGen::Decimal(count), 1, produced);
         w.patch(4, digit[0]);
         w.check(required, "DBUV");
     });

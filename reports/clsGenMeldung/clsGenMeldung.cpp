@@ -61,7 +61,7 @@ std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int
         },
         [&](int& line) {
             std::string out;
-            out.reserve(1024);
+            out.reserve(2048);  // the record and every block it may announce
             line = 1;
             GenDSME(out, m, dd, enmVerfahren, datDate);
             // The flags are read back out of the finished record before any
@@ -69,7 +69,7 @@ std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int
             static constexpr std::size_t kFlagPositions[] = {171, 172, 173, 174, 175, 176, 177, 184, 189};
             line = 2;
             bool wanted[9];
-            read_flags(out, kFlagPositions, wanted);
+            read_flags(out, 559, kFlagPositions, wanted);
             line = 3;
             if (wanted[0]) GenDBME(out, m);
             if (wanted[1]) mlGen::AppendDBNA(out, m.Vorgang, m.MitNamensdaten);

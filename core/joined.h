@@ -1,0 +1,40 @@
+// Texts put together for one field (contribution groups, key parts): in a
+// small buffer on the stack, since the parts are a few characters each;
+// only an unusually long result goes to the heap.
+#pragma once
+#include <cstring>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace tamrel {
+
+class Joined {
+public:
+    Joined(std::initializer_list<std::string_view> parts) {
+        std::size_t n = 0;
+        for (std::string_view p : parts) n += p.size();
+        char* start = local_;
+        if (n > sizeof local_) {
+            heap_.resize(n);
+            start = heap_.data();
+        }
+        char* d = start;
+        for (std::string_view p : parts) {
+            std::memcpy(d, p.data(), p.size());
+            d += p.size();
+        }
+        view_ = {start, n};
+    }
+    Joined(const Joined&) = delete;
+    Joined& operator=(const Joined&) = delete;
+
+    operator std::string_view() const { return view_; }
+
+private:
+    char local_[64];
+    std::string heap_;
+    std::string_view view_;
+};
+
+}  // namespace tamrel
