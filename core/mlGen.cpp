@@ -24,7 +24,6 @@ using detail::has_non_ascii;
 
 constexpr std::string_view kCheckLength = "mlGen.CheckLength";
 
-bool is_control(char c) { return c == '\r' || c == '\n' || c == '\t'; }
 
 bool all_of(std::string_view s, char c) {
     for (char x : s)
@@ -246,7 +245,7 @@ std::string ReplaceSpecialCharText(std::string_view value) {
     std::string out;
     out.reserve(value.size());
     for (char c : value)
-        if (!is_control(c)) out += c;
+        if (!is_dropped_control(c)) out += c;
     return out;
 }
 

@@ -31,6 +31,9 @@ std::string ConvertDateTimeToISO(std::string_view text);
 // fixed-size store), overwritten by the next field or cut off.
 inline constexpr std::size_t kPutSlack = bytes::kSlack;
 
+// The control characters the text encoders drop: CR, LF and TAB.
+inline bool is_dropped_control(char c) { return c == '\r' || c == '\n' || c == '\t'; }
+
 namespace detail {
 // The encoders' general walk, for what the inline fast path leaves: values
 // longer than their field, UTF-8, control characters. The fuzzers hold the

@@ -16,7 +16,6 @@ void require_utf8(std::string_view value, const char* routine_name) {
         raise(kErrText, std::string("mlGen.") + routine_name, "Der Text ist kein g\xC3\xBCltiges UTF-8.");
 }
 
-bool is_dropped_control(unsigned char c) { return c == '\r' || c == '\n' || c == '\t'; }
 
 }  // namespace
 
@@ -35,7 +34,7 @@ char* detail::PutAnGeneral(char* d, std::string_view value, std::size_t w, bool&
     bool content = false;
     for (; i < value.size(); ++i) {
         const auto c = static_cast<unsigned char>(value[i]);
-        if (is_dropped_control(c)) {
+        if (is_dropped_control(static_cast<char>(c))) {
             std::memcpy(d, value.data() + run, i - run);
             d += i - run;
             run = i + 1;

@@ -1,5 +1,7 @@
 #include "core/text.h"
 
+#include "core/short_bytes.h"
+
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -63,7 +65,7 @@ std::size_t char_count(std::string_view s) noexcept {
     for (; i + 8 <= s.size(); i += 8) {
         std::uint64_t x;
         std::memcpy(&x, p + i, 8);
-        continuation += static_cast<std::size_t>(std::popcount(x & ~(x << 1) & 0x8080808080808080ULL));
+        continuation += bytes::count_high_bits(x & ~(x << 1) & bytes::kHigh);
     }
     for (; i < s.size(); ++i) continuation += (static_cast<unsigned char>(p[i]) & 0xC0) == 0x80;
     return s.size() - continuation;

@@ -16,30 +16,31 @@
 
 namespace tamrel {
 
-// The character at 1-based character position `pos` of a finished record
-// (how flags are read back out of a record).
-inline std::string_view char_at(std::string_view record, std::size_t pos) { return text::mid(record, pos, 1); }
-inline bool is_j(std::string_view record, std::size_t pos) { return char_at(record, pos) == "J"; }
+// Reads "J" flags back out of a finished record by 1-based character
+// position. In a record of one-byte characters a position is an index;
+// otherwise a cursor walks forward from the last position read (flags are
+// read in ascending order, so the record is walked once).
+class FlagReader {
+public:
+    // `chars` is the record's length in characters, when the caller knows it.
+    FlagReader(std::string_view record, std::size_t chars) : record_(record), ascii_(record.size() == chars) {}
+    explicit FlagReader(std::string_view record) : record_(record), ascii_(text::is_ascii(record)) {}
 
-// Reads the "J" flags at ascending 1-based character positions in one pass.
-// `chars` is the record's length in characters: when it equals the length
-// in bytes, every character is one byte.
-template <std::size_t N>
-void read_flags(std::string_view record, std::size_t chars, const std::size_t (&positions)[N], bool (&out)[N]) {
-    const std::size_t last = positions[N - 1];
-    if (record.size() >= last && record.size() == chars) {
-        for (std::size_t k = 0; k < N; ++k) out[k] = record[positions[k] - 1] == 'J';
-        return;
-    }
-    std::size_t byte = 0, chr = 1;
-    for (std::size_t k = 0; k < N; ++k) {
-        while (chr < positions[k] && byte < record.size()) {
-            byte += text::seq_len(static_cast<unsigned char>(record[byte]));
-            ++chr;
+    bool j(std::size_t pos) {
+        if (ascii_) return pos >= 1 && pos <= record_.size() && record_[pos - 1] == 'J';
+        if (pos < chr_) chr_ = 1, byte_ = 0;
+        while (chr_ < pos && byte_ < record_.size()) {
+            byte_ += text::seq_len(static_cast<unsigned char>(record_[byte_]));
+            ++chr_;
         }
-        out[k] = byte < record.size() && record[byte] == 'J';
+        return byte_ < record_.size() && record_[byte_] == 'J';
     }
-}
+
+private:
+    std::string_view record_;
+    bool ascii_;
+    std::size_t chr_ = 1, byte_ = 0;
+};
 
 class Writer {
 public:

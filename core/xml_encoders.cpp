@@ -5,20 +5,24 @@
 
 namespace tamrel::mlGen {
 
+namespace {
+bool has_control(std::string_view s) {
+    for (char c : s)
+        if (is_dropped_control(c)) return true;
+    return false;
+}
+}  // namespace
+
 void AppendAnXML(std::string& out, std::string_view name, std::string_view value, bool& flag) {
-    std::string cleaned = ReplaceSpecialCharText(value);
-    std::string_view v = text::trim_blanks(cleaned);
-    out += '<';
-    out += name;
+    std::string cleaned;  // only when there are control characters to drop
+    if (has_control(value)) value = cleaned = ReplaceSpecialCharText(value);
+    const std::string_view v = text::trim_blanks(value);
+    out.append("<").append(name);
     if (v.empty()) {
-        out += " xsi:nil=\"true\"/>";
+        out.append(" xsi:nil=\"true\"/>");
         return;
     }
-    out += '>';
-    out += v;
-    out += "</";
-    out += name;
-    out += '>';
+    out.append(">").append(v).append("</").append(name).append(">");
     flag = false;
 }
 

@@ -80,7 +80,8 @@ std::string clsGenArbeitsBesch::GenData(const ArbeitsBesch& a, DatensatzData& dd
         const std::size_t record_end = out.size();
         const std::string_view record(out.data(), record_end);
         bool j[169 + 9] = {};
-        for (std::size_t pos : {159, 160, 161, 162, 163, 166, 167, 168, 176, 177}) j[pos] = is_j(record, pos);
+        FlagReader flags(record);
+        for (std::size_t pos : {159, 160, 161, 162, 163, 166, 167, 168, 176, 177}) j[pos] = flags.j(pos);
         const std::int16_t verfahren = a.Verfahren;
         line = 3;
         if (j[159]) bea::GenDBNA(out, a);

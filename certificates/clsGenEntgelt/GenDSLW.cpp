@@ -64,7 +64,8 @@ std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Da
             line, datDate, 2048, [&](std::string& out, const Date& date) { GenDSLW(out, e, dd, date); },
             [&](std::string& out) {
                 bool wanted[kBlocks];
-                for (std::size_t k = 0; k < kBlocks; ++k) wanted[k] = is_j(out, 202 + k);
+                FlagReader flags(out);
+                for (std::size_t k = 0; k < kBlocks; ++k) wanted[k] = flags.j(202 + k);
                 for (std::size_t k = 0; k < kBlocks; ++k)
                     if (wanted[k]) out += blocks_[k];
             });

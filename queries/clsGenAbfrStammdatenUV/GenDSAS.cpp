@@ -9,7 +9,7 @@ std::string clsGenAbfrStammdatenUV::GenData(const AbfrStammdatenUV& a, Datensatz
         return record_then_blocks(
             line, datDate, 784, [&](std::string& out, const Date& date) { GenDSAS(out, a, dd, date); },
             [&](std::string& out) {
-                if (is_j(out, 459)) out += dbap_;
+                if (FlagReader(out).j(459)) out += dbap_;
             });
     });
 }

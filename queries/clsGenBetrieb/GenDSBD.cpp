@@ -11,7 +11,7 @@ std::string clsGenBetrieb::GenData(const Betrieb& b, DatensatzData& dd, const Da
             return record_then_blocks(
                 line, datDate, 749, [&](std::string& out, const Date& date) { GenDSBD(out, b, dd, date); },
                 [&](std::string& out) {
-                    if (is_j(out, 535)) out += dbka_;
+                    if (FlagReader(out).j(535)) out += dbka_;
                 });
         });
 }

@@ -12,7 +12,7 @@ std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd
             line, datDate, 494 + 321 + 59 * positions,
             [&](std::string& out, const Date& date) { GenDSLN(out, l, dd, date); },
             [&](std::string& out) {
-                if (is_j(out, 479)) out += dbap_;
+                if (FlagReader(out).j(479)) out += dbap_;
             });
     });
 }

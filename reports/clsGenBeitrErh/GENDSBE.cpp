@@ -58,7 +58,8 @@ std::string clsGenBeitrErh::GenData(const BeitrErh& b, DatensatzData& dd, const 
             out.reserve(613);
             line = 1;
             GENDSBE(out, b, dd, mlGen::GetDate(datDate));
-            const bool dbmi = is_j(out, 444), dbhb = is_j(out, 445);
+            FlagReader flags(out);
+            const bool dbmi = flags.j(444), dbhb = flags.j(445);
             line = 2;
             if (dbmi) GenDBMI(out, b);
             line = 3;

@@ -28,7 +28,8 @@ std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& da
                     out.reserve(455 + 202 + 180 + 191 + 174 + 125 + 321);
                     line = 2;
                     GenDSER(out, e, dd, date);
-                    const bool dbau = is_j(out, 349), dbbt = is_j(out, 350), dbzu = is_j(out, 351), dbaa = is_j(out, 354);
+                    FlagReader flags(out);
+                    const bool dbau = flags.j(349), dbbt = flags.j(350), dbzu = flags.j(351), dbaa = flags.j(354);
                     line = 3;
                     if (dbau) GenDBAU(out, e);
                     if (dbbt) GenDBBT(out, e);

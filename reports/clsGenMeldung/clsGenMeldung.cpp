@@ -69,7 +69,8 @@ std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int
             static constexpr std::size_t kFlagPositions[] = {171, 172, 173, 174, 175, 176, 177, 184, 189};
             line = 2;
             bool wanted[9];
-            read_flags(out, 559, kFlagPositions, wanted);
+            FlagReader flags(out, 559);
+            for (std::size_t k = 0; k < 9; ++k) wanted[k] = flags.j(kFlagPositions[k]);
             line = 3;
             if (wanted[0]) GenDBME(out, m);
             if (wanted[1]) mlGen::AppendDBNA(out, m.Vorgang, m.MitNamensdaten);

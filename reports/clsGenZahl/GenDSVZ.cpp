@@ -15,8 +15,8 @@ std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& da
                     out.reserve(237 + 91 + 125 + 13 + 133);
                     line = 2;
                     GenDSVZ(out, z, dd, date);
-                    const bool dbzk = is_j(out, 218), dbna = is_j(out, 219), dbga = is_j(out, 220),
-                               dban = is_j(out, 222);
+                    FlagReader flags(out);
+                    const bool dbzk = flags.j(218), dbna = flags.j(219), dbga = flags.j(220), dban = flags.j(222);
                     line = 3;
                     if (dbzk) GenDBZK(out, z);
                     if (dbna) GenDBNA(out, z);
