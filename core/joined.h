@@ -4,6 +4,7 @@
 #pragma once
 #include <cstring>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -11,7 +12,8 @@ namespace tamrel {
 
 class Joined {
 public:
-    Joined(std::initializer_list<std::string_view> parts) {
+    Joined(std::initializer_list<std::string_view> parts) : Joined(std::span(parts.begin(), parts.size())) {}
+    explicit Joined(std::span<const std::string_view> parts) {
         std::size_t n = 0;
         for (std::string_view p : parts) n += p.size();
         char* start = local_;

@@ -273,12 +273,11 @@ namespace tamrel::mlGlobal {
 
 using mlGen::detail::has_non_ascii;
 
-std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const Date& date) {
-    char own[8];
+CurrDate::CurrDate(std::string_view dateText, int format, const Date& date) {
     std::string_view t = dateText;
     std::size_t chars = text::char_count(dateText);
     if (chars < 8) {
-        t = std::string_view(own, static_cast<std::size_t>(put_yyyymmdd(own, date) - own));
+        t = std::string_view(own_, static_cast<std::size_t>(put_yyyymmdd(own_, date) - own_));
         chars = 8;
     }
     // Day from the right end, month from characters 5-6, year from 1-4.
@@ -286,11 +285,7 @@ std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const 
     const std::string_view day = ascii ? t.substr(t.size() - 2) : text::right(t, 2);
     const std::string_view month = ascii ? t.substr(4, 2) : text::mid(t, 5, 2);
     const std::string_view year = ascii ? t.substr(0, 4) : text::left(t, 4);
-    char* p = out;
-    const auto add = [&p](std::string_view part) {
-        std::memcpy(p, part.data(), part.size());
-        p += part.size();
-    };
+    const auto add = [this](std::string_view piece) { pieces_[count_++] = piece; };
     switch (format) {
         case 0: add(year), add(month), add(day); break;
         case 1:
@@ -298,17 +293,16 @@ std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const 
             if (chars >= 14)
                 add(ascii ? t.substr(8, 6) : text::mid(t, 9, 6));
             else
-                p = put_hhnnss(p, date);
+                add({own_ + 8, static_cast<std::size_t>(put_hhnnss(own_ + 8, date) - (own_ + 8))});
             break;
         case 2: add(day), add(month), add(year); break;
         default: break;
     }
-    return static_cast<std::size_t>(p - out);
 }
 
 void AppendCurrDate(std::string& out, std::string_view dateText, int format, const Date& date) {
-    char buf[kCurrDateBytes];
-    out.append(buf, PutCurrDate(buf, dateText, format, date));
+    const CurrDate text(dateText, format, date);
+    for (std::string_view piece : text.pieces()) out.append(piece);
 }
 
 std::string GetCurrDate(std::string_view dateText, int format, const Date& date) {

@@ -4,6 +4,7 @@
 // path, no allocation). The filled flag is only ever set, never cleared.
 #pragma once
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -94,9 +95,19 @@ namespace tamrel::mlGlobal {
 
 std::string GetCurrDate(std::string_view dateText, int format, const Date& date);
 void AppendCurrDate(std::string& out, std::string_view dateText, int format, const Date& date);
-// GetCurrDate written at `out`, which has room for kCurrDateBytes; returns
-// the length. (At most 14 characters of up to four bytes.)
-inline constexpr std::size_t kCurrDateBytes = 56;
-std::size_t PutCurrDate(char* out, std::string_view dateText, int format, const Date& date);
+// The pieces of GetCurrDate's text, in order: views into the given text or
+// into the date's own digits (no allocation).
+class CurrDate {
+public:
+    CurrDate(std::string_view dateText, int format, const Date& date);
+    CurrDate(const CurrDate&) = delete;
+    CurrDate& operator=(const CurrDate&) = delete;
+    std::span<const std::string_view> pieces() const { return {pieces_, count_}; }
+
+private:
+    char own_[14];  // yyyymmdd, then hhnnss
+    std::string_view pieces_[4];
+    std::size_t count_ = 0;
+};
 
 }  // namespace tamrel::mlGlobal

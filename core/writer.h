@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/joined.h"
 #include "core/mlGen.h"
 #include "core/routine.h"
 #include "core/text.h"
@@ -79,8 +80,8 @@ public:
     }
     Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
     Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
-        char t[mlGlobal::kCurrDateBytes];
-        return n(std::string_view(t, mlGlobal::PutCurrDate(t, dateText, format, date)), width);
+        const mlGlobal::CurrDate text(dateText, format, date);
+        return n(Joined(text.pieces()), width);
     }
     // Replaces the ASCII character at 0-based byte `index` of the record.
     void patch(std::size_t index, char c) { begin_[index] = c; }

@@ -172,6 +172,9 @@ TEST(Dates, GetCurrDateTakesTheDayFromTheRightEnd) {
         {"20240131235959", 0, "20240159"}, {"1234567", 0, "20240229"},   {"20240131", 3, ""},
     };
     for (const auto& c : cases) EXPECT_EQ(mlGlobal::GetCurrDate(c.text, c.format, date), c.expected) << c.text;
+    // Stray continuation bytes make "the last two characters" a long piece; it is kept whole.
+    const std::string stray(40, '\xBE');
+    EXPECT_EQ(mlGlobal::GetCurrDate("20240131" + stray + "xy", 0, date), "202401" + stray + "xy");
 }
 
 TEST(Dates, GetDateReadsTheHostClockForTheEmptyDate) {
