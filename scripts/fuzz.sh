@@ -16,6 +16,7 @@ if ((${#missing[@]})); then
 fi
 CXX=clang++ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAMREL_TESTS=OFF -DTAMREL_FUZZ=ON >/dev/null
 cmake --build build-fuzz -j"$(nproc)" --target fuzz_call_line fuzz_generate_job fuzz_encoders
+rm -rf build-fuzz/findings  # what an earlier run found is not this run's finding
 mkdir -p build-fuzz/findings
 for harness in call_line generate_job encoders; do
   exe=build-fuzz/tests/fuzz/fuzz_$harness
