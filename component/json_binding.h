@@ -3,6 +3,7 @@
 // keys and the error paths ("objMeldung.Vorgang.Geburtsdatum: expected a
 // string") all come from that table.
 #pragma once
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <map>
@@ -16,6 +17,7 @@
 #include <nlohmann/json.hpp>
 
 #include "core/indexed.h"
+#include "core/short_bytes.h"
 
 namespace tamrel::json_binding {
 
@@ -125,7 +127,10 @@ struct NlohmannValue {
 template <class V>
 void read(const V& v, std::string& out, const Path& path) {
     if (!v.is_string()) fail(path, "expected a string");
-    out.assign(v.string());
+    // Appended to the emptied string: cheaper than the general assign, and
+    // the buffer is kept.
+    out.clear();
+    out.append(v.string());
 }
 
 template <class V>
@@ -224,7 +229,7 @@ struct Dispatch {
         for (std::size_t h = name_hash(key) & mask;; h = (h + 1) & mask) {
             const int i = slots[h];
             if (i < 0) return nullptr;
-            if (entries[static_cast<std::size_t>(i)].name == key) return &entries[static_cast<std::size_t>(i)];
+            if (bytes::equal(entries[static_cast<std::size_t>(i)].name, key)) return &entries[static_cast<std::size_t>(i)];
         }
     }
 };
@@ -234,7 +239,7 @@ struct Dispatch {
 template <class O, class V>
 struct Present {
     const Dispatch<O, V>& table;
-    std::vector<bool> seen;
+    std::array<bool, std::tuple_size_v<decltype(Binding<O>::fields)>> seen{};
     bool has(std::string_view key) const {
         const auto* e = table.find(key);
         return e && seen[static_cast<std::size_t>(e - table.entries.data())];
@@ -282,8 +287,7 @@ void read(const V& v, T& out, const Path& path) {
     if (!v.is_object()) fail(path, "expected an object");
     const auto& table = dispatch<T, V>();
     constexpr bool tracks = requires(T& t, const Present<T, V>& p) { Binding<T>::finish(t, p); };
-    Present<T, V> present{table, {}};
-    if constexpr (tracks) present.seen.assign(table.entries.size(), false);
+    Present<T, V> present{table};
     v.each_member([&](std::string_view key, const V& value) {
         const Path here{&path, key};
         if (const auto* e = table.find(key)) {
@@ -297,6 +301,19 @@ void read(const V& v, T& out, const Path& path) {
         if (!known) fail(here, "unknown property");
     });
     if constexpr (tracks) Binding<T>::finish(out, present);
+}
+
+// Puts an object read before back to its empty state, property by
+// property, without giving up its strings' buffers: the next report's
+// values are copied into them instead of into new ones.
+template <class T>
+void reset(T& v, const T& empty) {
+    if constexpr (std::is_same_v<T, std::string>)
+        v.clear();
+    else if constexpr (Bound<T>)
+        std::apply([&](const auto&... f) { (reset(v.*(f.member), empty.*(f.member)), ...); }, Binding<T>::fields);
+    else
+        v = empty;
 }
 
 template <class T>

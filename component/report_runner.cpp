@@ -56,7 +56,8 @@ public:
 private:
     template <class V>
     void read_value(const V& v) {
-        obj_ = Obj{};
+        static const Obj empty{};
+        json_binding::reset(obj_, empty);
         json_binding::read(v, obj_, path_);
     }
 

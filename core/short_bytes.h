@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 
 namespace tamrel::bytes {
@@ -101,6 +102,17 @@ inline Survey survey(const char* s, std::size_t n) noexcept {
         take(x);
     }
     return {n - continuation, controls != 0, differs != 0};
+}
+
+// Whether two texts are equal; short ones (property names) compared as two
+// overlapping words instead of through a call.
+inline bool equal(std::string_view a, std::string_view b) noexcept {
+    const std::size_t n = a.size();
+    if (n != b.size()) return false;
+    const char *p = a.data(), *q = b.data();
+    if (n >= 8 && n <= 16) return load8(p) == load8(q) && load8(p + n - 8) == load8(q + n - 8);
+    if (n >= 4 && n < 8) return load4(p) == load4(q) && load4(p + n - 4) == load4(q + n - 4);
+    return std::memcmp(p, q, n) == 0;
 }
 
 // Copies n bytes; short runs with two overlapping stores.
