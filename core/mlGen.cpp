@@ -103,7 +103,7 @@ void AppendN(std::string& out, std::string_view value, int width, bool& filled) 
     append_with(out, 4 * w, [&](char* d) { return PutN(d, value, w, filled); });
 }
 
-char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled) {
+char* detail::PutAmountGeneral(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled) {
     // Fast path: digits, separators and (where allowed) signs that fit the
     // field. Anything else goes the full way, which raises the error.
     constexpr std::size_t kMax = 128;

@@ -46,6 +46,10 @@ char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& fill
 // Most values are a few plain ASCII characters that fit their field: those
 // are copied onto a padded field here, without a call.
 [[gnu::always_inline]] inline char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
+    if (value.empty()) {  // the most common value of all
+        bytes::pad_field(d, ' ', w);
+        return d + w;
+    }
     bool content = false;
     if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), ' ', content)) [[unlikely]]
         return detail::PutAnGeneral(d, value, w, filled);
@@ -56,6 +60,10 @@ char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& fill
 }
 
 [[gnu::always_inline]] inline char* PutN(char* d, std::string_view value, std::size_t w, bool& filled) {
+    if (value.empty()) {
+        bytes::pad_field(d, '0', w);
+        return d + w;
+    }
     bool digits = false;
     if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), '0', digits)) [[unlikely]]
         return detail::PutNGeneral(d, value, w, filled);
@@ -65,8 +73,21 @@ char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& fill
     return d + w;
 }
 
+namespace detail {
+char* PutAmountGeneral(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled);
+}
+
 // The amount encoders (StrToPB, and StrToBG with `with_sign`) writing at `d`.
-char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled);
+// Most amounts of a record are not given: those are zeros, written inline.
+[[gnu::always_inline]] inline char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign,
+                                              bool& filled) {
+    if (!value.empty() || intVor < 0 || intNach < 0) [[unlikely]]
+        return detail::PutAmountGeneral(d, value, intVor, intNach, with_sign, filled);
+    if (with_sign) *d++ = '+';
+    const auto w = static_cast<std::size_t>(intVor + intNach);
+    bytes::pad_field(d, '0', w);
+    return d + w;
+}
 
 void AppendAn(std::string& out, std::string_view value, int width, bool& filled);
 void AppendN(std::string& out, std::string_view value, int width, bool& filled);
