@@ -47,7 +47,8 @@ std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerf
     }
     bool produced = false;
     dbuv.clear();
-    clsGenMeldung::AppendDBUV(dbuv, m, produced);
+    // Without entries the block holds nothing (its count is "0"): no need to build it.
+    if (m.UvErster <= m.UvLetzter) clsGenMeldung::AppendDBUV(dbuv, m, produced);
     set(6, produced ? 'J' : 'N');
     return f;
 }
