@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/short_bytes.h"
+
 namespace tamrel {
 
 class Joined {
@@ -23,7 +25,7 @@ public:
         }
         char* d = start;
         for (std::string_view p : parts) {
-            std::memcpy(d, p.data(), p.size());
+            bytes::copy_short(d, p.data(), p.size());
             d += p.size();
         }
         view_ = {start, n};
@@ -38,5 +40,18 @@ private:
     std::string heap_;
     std::string_view view_;
 };
+
+// Appends the texts to `out` with one growth of the string.
+inline void append_joined(std::string& out, std::initializer_list<std::string_view> parts) {
+    std::size_t n = 0;
+    for (std::string_view p : parts) n += p.size();
+    const std::size_t at = out.size();
+    out.resize(at + n);
+    char* d = out.data() + at;
+    for (std::string_view p : parts) {
+        bytes::copy_short(d, p.data(), p.size());
+        d += p.size();
+    }
+}
 
 }  // namespace tamrel

@@ -249,21 +249,35 @@ std::string ReplaceSpecialCharText(std::string_view value) {
     return out;
 }
 
+namespace {
+// Characters `start` (1-based) to `start + len - 1` of a text of `chars`
+// characters: a plain substring when every character is one byte.
+std::string_view piece(std::string_view t, std::size_t chars, std::size_t start, std::size_t len) {
+    return t.size() == chars ? t.substr(start - 1, len) : text::mid(t, start, len);
+}
+}  // namespace
+
 std::string ConvertDate(std::string_view value) {
-    std::string_view t = text::trim_blanks(value);
-    if (text::char_count(t) != 8) return std::string(t);
+    const std::string_view t = text::trim_blanks(value);
+    const std::size_t chars = text::char_count(t);
+    if (chars != 8) return std::string(t);
     std::string out;
-    out.append(text::mid(t, 1, 4)).append("-").append(text::mid(t, 5, 2)).append("-").append(text::mid(t, 7, 2));
+    out.reserve(t.size() + 2);
+    out.append(piece(t, chars, 1, 4)).append("-").append(piece(t, chars, 5, 2)).append("-");
+    out.append(piece(t, chars, 7, 2));
     return out;
 }
 
 std::string ConvertDateTimeToISO(std::string_view value) {
-    std::string_view t = text::trim_blanks(value);
-    if (text::char_count(t) != 20) return std::string(t);
+    const std::string_view t = text::trim_blanks(value);
+    const std::size_t chars = text::char_count(t);
+    if (chars != 20) return std::string(t);
     std::string out;
-    out.append(text::mid(t, 1, 4)).append("-").append(text::mid(t, 5, 2)).append("-").append(text::mid(t, 7, 2));
-    out.append("T").append(text::mid(t, 9, 2)).append(":").append(text::mid(t, 11, 2)).append(":");
-    out.append(text::mid(t, 13, 2)).append(".").append(text::right(t, 6));
+    out.reserve(t.size() + 6);
+    out.append(piece(t, chars, 1, 4)).append("-").append(piece(t, chars, 5, 2)).append("-");
+    out.append(piece(t, chars, 7, 2)).append("T").append(piece(t, chars, 9, 2)).append(":");
+    out.append(piece(t, chars, 11, 2)).append(":").append(piece(t, chars, 13, 2)).append(".");
+    out.append(t.size() == chars ? t.substr(14) : text::right(t, 6));
     return out;
 }
 

@@ -1,5 +1,6 @@
 #include "core/xml_encoders.h"
 
+#include "core/joined.h"
 #include "core/mlGen.h"
 #include "core/text.h"
 
@@ -17,12 +18,11 @@ void AppendAnXML(std::string& out, std::string_view name, std::string_view value
     std::string cleaned;  // only when there are control characters to drop
     if (has_control(value)) value = cleaned = ReplaceSpecialCharText(value);
     const std::string_view v = text::trim_blanks(value);
-    out.append("<").append(name);
     if (v.empty()) {
-        out.append(" xsi:nil=\"true\"/>");
+        append_joined(out, {"<", name, " xsi:nil=\"true\"/>"});
         return;
     }
-    out.append(">").append(v).append("</").append(name).append(">");
+    append_joined(out, {"<", name, ">", v, "</", name, ">"});
     flag = false;
 }
 

@@ -60,7 +60,9 @@ std::string clsGenAsyl::GenData(const Asyl& a, DatensatzData& dd, const Date& da
     return call("clsGenAsyl.GenData", [&](int& line) {
         line = 1;
         const Date date = mlGen::GetDate(datDate);
-        std::string out = "<daten>";
+        std::string out;
+        out.reserve(4096);  // all eight blocks with every element given
+        out += "<daten>";
         line = 2;
         GenSKEK(out, a, dd, date);
         line = 3;
