@@ -98,7 +98,7 @@ public:
         end();
     }
     // Appends a record head whose length the caller checks with the rest.
-    void end() { out_.append(begin_, cur_); }
+    void end() { out_.append(begin_, static_cast<std::size_t>(cur_ - begin_)); }
 
 private:
     // Room for `bytes` more bytes at the record's end.

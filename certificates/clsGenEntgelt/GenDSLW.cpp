@@ -1,6 +1,7 @@
 // The DSLW record, left to right as its layout table; each block is built
 // where its flag is written and kept until GenData appends it.
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
+#include "core/version_number.h"
 #include "core/writer.h"
 
 namespace tamrel {
@@ -39,10 +40,7 @@ constexpr Builder kBuilders[clsGenEntgelt::kBlocks] = {
 void clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date) {
     routine("clsGenEntgelt.GenDSLW", [&](int& line) {
         const Vorgang& v = e.Vorgang;
-        std::string dsid;
-        bool scratch = false;
-        mlGen::AppendAn(dsid, dd.strVersion, 10, scratch);
-        mlGen::AppendN(dsid, mlGen::Decimal(e.DatensatzNr), 10, scratch);
+        const VersionNumber dsid(dd.strVersion, e.DatensatzNr);
         Writer w(out, line);
         w.an("DSLW", 4).an("LEIST", 5).an(dd.strBNRAb, 15).an(e.Empfaenger.Betriebsnummer, 15).n("10", 2);
         w.stamp(e.ErstellDatum, 1, date, 14).n(dd.strMicroseconds, 6).n("0", 1).n("0", 1);

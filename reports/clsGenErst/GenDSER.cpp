@@ -1,4 +1,5 @@
 // The DSER record, left to right as its layout table.
+#include "core/version_number.h"
 #include "core/writer.h"
 #include "reports/clsGenErst/clsGenErst.h"
 
@@ -44,10 +45,7 @@ std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& da
 void clsGenErst::GenDSER(std::string& out, const Erst& e, const DatensatzData& dd, const Date& date) {
     routine("clsGenErst.GenDSER", [&](int& line) {
         const Vorgang& v = e.Vorgang;
-        std::string reference;
-        bool scratch = false;
-        mlGen::AppendAn(reference, dd.strVersion, 10, scratch);
-        mlGen::AppendN(reference, mlGen::Decimal(e.ErstattungsId), 10, scratch);
+        const VersionNumber reference(dd.strVersion, e.ErstattungsId);
         Writer w(out, line);
         w.lit("DSER").lit("AAGER").an(dd.strBNRAb, 15).an(e.Empfaenger.Betriebsnummer, 15).lit("05");
         w.stamp(e.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0");

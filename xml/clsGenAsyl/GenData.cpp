@@ -3,6 +3,7 @@
 #include "core/mlGen.h"
 #include "core/routine.h"
 #include "core/text.h"
+#include "core/version_number.h"
 #include "xml/clsGenAsyl/Asyl.h"
 #include "xml/clsGenAsyl/clsGenAsyl.h"
 #include "xml/clsGenAsyl/xml_block.h"
@@ -17,9 +18,7 @@ void GenSKEK(std::string& out, const Asyl& a, const DatensatzData& dd, const Dat
         std::string stamp;
         mlGen::AppendN(stamp, mlGlobal::GetCurrDate(a.ErstellDatum, 1, date), 14, scratch);
         mlGen::AppendN(stamp, dd.strMicroseconds, 6, scratch);
-        std::string id;
-        mlGen::AppendAn(id, dd.strVersion, 10, scratch);
-        mlGen::AppendN(id, mlGen::Decimal(a.DatensatzNr), 10, scratch);
+        const VersionNumber id(dd.strVersion, a.DatensatzNr);
         line = 2;
         XmlBlock b(out, "skek", false);
         b.fixed("<vfmm>DS264</vfmm>").an("bbnrab", dd.strBNRAb).an("bbnrep", a.Empfaenger.Betriebsnummer);
