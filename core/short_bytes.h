@@ -79,13 +79,25 @@ struct Survey {
     bool content = false;   // a byte other than the blank
 };
 
+// The high bit of every byte below 0x0E: bytes of 0x0E or more have the
+// high bit of (their low seven bits + 0x72) or their own. Exact per byte.
+inline std::uint64_t below_0e(std::uint64_t x) noexcept { return ~(((x & ~kHigh) + (0x80 - 0x0E) * kOnes) | x) & kHigh; }
+
+// Whether any of the n bytes at s is below 0x0E (CR, LF and TAB among them).
+inline bool any_below_0e(const char* s, std::size_t n) noexcept {
+    std::uint64_t found = 0;
+    std::size_t i = 0;
+    for (; i + 8 <= n; i += 8) found |= below_0e(load8(s + i));
+    for (; i < n; ++i) found |= static_cast<unsigned char>(s[i]) < 0x0E;
+    return found != 0;
+}
+
 inline Survey survey(const char* s, std::size_t n) noexcept {
     const std::uint64_t blanks = kOnes * ' ';
     std::uint64_t controls = 0, differs = 0;
     std::size_t continuation = 0;
     const auto take = [&](std::uint64_t x) {
-        // Bytes of 0x0E or more have the high bit of (low seven bits + 0x72) or their own.
-        controls |= ~(((x & ~kHigh) + (0x80 - 0x0E) * kOnes) | x) & kHigh;
+        controls |= below_0e(x);
         continuation += count_high_bits(x & ~(x << 1) & kHigh);
         differs |= x ^ blanks;
     };

@@ -97,12 +97,6 @@ std::string_view mid(std::string_view s, std::size_t start, std::size_t len) noe
     return rest.substr(0, byte_offset(rest, len));
 }
 
-std::string_view trim_blanks(std::string_view s) noexcept {
-    while (!s.empty() && s.front() == ' ') s.remove_prefix(1);
-    while (!s.empty() && s.back() == ' ') s.remove_suffix(1);
-    return s;
-}
-
 std::string sanitize(std::string_view s) {
     if (is_valid_utf8(s)) return std::string(s);
     std::string out;

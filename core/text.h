@@ -34,7 +34,11 @@ std::string_view right(std::string_view s, std::size_t n) noexcept;
 std::string_view mid(std::string_view s, std::size_t start, std::size_t len) noexcept;
 
 // Blanks removed on both ends (only the blank " ", like the Trim function).
-std::string_view trim_blanks(std::string_view s) noexcept;
+inline std::string_view trim_blanks(std::string_view s) noexcept {
+    while (!s.empty() && s.front() == ' ') s.remove_prefix(1);
+    while (!s.empty() && s.back() == ' ') s.remove_suffix(1);
+    return s;
+}
 
 // Invalid sequences replaced by U+FFFD, for texts that go into log lines.
 std::string sanitize(std::string_view s);

@@ -8,6 +8,7 @@ namespace tamrel::mlGen {
 
 namespace {
 bool has_control(std::string_view s) {
+    if (!bytes::any_below_0e(s.data(), s.size())) return false;  // mostly: tested a word at a time
     for (char c : s)
         if (is_dropped_control(c)) return true;
     return false;
