@@ -41,6 +41,16 @@ private:
     std::string_view view_;
 };
 
+// Runs an in-place writer on the end of a string: room for `max_bytes`,
+// then the string is cut to what was written.
+template <class Put>
+void append_put(std::string& out, std::size_t max_bytes, Put&& put) {
+    const std::size_t start = out.size();
+    out.resize(start + max_bytes);
+    const char* end = put(out.data() + start);
+    out.resize(static_cast<std::size_t>(end - out.data()));
+}
+
 // Appends the texts to `out` with one growth of the string.
 inline void append_joined(std::string& out, std::initializer_list<std::string_view> parts) {
     std::size_t n = 0;

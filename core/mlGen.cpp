@@ -7,6 +7,7 @@
 
 #include "core/error.h"
 #include "core/host.h"
+#include "core/joined.h"
 #include "core/routine.h"
 #include "core/short_bytes.h"
 #include "core/text.h"
@@ -80,27 +81,15 @@ Decimal::Decimal(std::int64_t v) noexcept {
     len = static_cast<std::size_t>(r.ptr - buf);
 }
 
-namespace {
-// Runs a pointer encoder on a std::string: room for the widest result
-// (four bytes a character) and the encoders' scratch, then the string is cut
-// to what was written.
-template <class Put>
-void append_with(std::string& out, std::size_t max_bytes, Put&& put) {
-    const std::size_t start = out.size();
-    out.resize(start + max_bytes + kPutSlack);
-    char* end = put(out.data() + start);
-    out.resize(static_cast<std::size_t>(end - out.data()));
-}
-}  // namespace
 
 void AppendAn(std::string& out, std::string_view value, int width, bool& filled) {
     const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
-    append_with(out, 4 * w, [&](char* d) { return PutAn(d, value, w, filled); });
+    append_put(out, 4 * w + kPutSlack, [&](char* d) { return PutAn(d, value, w, filled); });
 }
 
 void AppendN(std::string& out, std::string_view value, int width, bool& filled) {
     const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
-    append_with(out, 4 * w, [&](char* d) { return PutN(d, value, w, filled); });
+    append_put(out, 4 * w + kPutSlack, [&](char* d) { return PutN(d, value, w, filled); });
 }
 
 char* detail::PutAmountGeneral(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled) {

@@ -12,6 +12,7 @@
 
 #include "core/joined.h"
 #include "core/mlGen.h"
+#include "core/record_buffer.h"
 #include "core/routine.h"
 #include "core/text.h"
 
@@ -56,18 +57,17 @@ public:
 
     [[gnu::always_inline]] Writer& lit(std::string_view s) {
         ++line_;
-        std::memcpy(room(s.size()), s.data(), s.size());
-        cur_ += s.size();
+        buf_.put(s);
         for (char c : s) chars_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
         return *this;
     }
     [[gnu::always_inline]] Writer& an(std::string_view v, int width) {
         const std::size_t w = open_field(width);
-        return close_field(mlGen::PutAn(cur_, v, w, *filled_), w);
+        return close_field(mlGen::PutAn(buf_.tail(), v, w, *filled_), w);
     }
     [[gnu::always_inline]] Writer& n(std::string_view v, int width) {
         const std::size_t w = open_field(width);
-        return close_field(mlGen::PutN(cur_, v, w, *filled_), w);
+        return close_field(mlGen::PutN(buf_.tail(), v, w, *filled_), w);
     }
     Writer& n(std::int64_t v, int width) { return n(mlGen::Decimal(v), width); }
     Writer& blank(int width) { return an({}, width); }
@@ -84,9 +84,9 @@ public:
         return n(Joined(text.pieces()), width);
     }
     // Replaces the ASCII character at 0-based byte `index` of the record.
-    void patch(std::size_t index, char c) { begin_[index] = c; }
+    void patch(std::size_t index, char c) { buf_.data()[index] = c; }
 
-    std::string_view record() const { return {begin_, static_cast<std::size_t>(cur_ - begin_)}; }
+    std::string_view record() const { return buf_.view(); }
 
     // The length check that closes the record and appends it. Every encoder
     // writes exactly its width, so the writer knows the record's length in
@@ -98,24 +98,9 @@ public:
         end();
     }
     // Appends a record head whose length the caller checks with the rest.
-    void end() { out_.append(begin_, static_cast<std::size_t>(cur_ - begin_)); }
+    void end() { out_.append(buf_.view()); }
 
 private:
-    // Room for `bytes` more bytes at the record's end.
-    [[gnu::always_inline]] char* room(std::size_t bytes) {
-        if (static_cast<std::size_t>(limit_ - cur_) < bytes) grow(bytes);
-        return cur_;
-    }
-    void grow(std::size_t bytes) {
-        const std::size_t used = static_cast<std::size_t>(cur_ - begin_);
-        std::string bigger(std::max(used + bytes, 2 * static_cast<std::size_t>(limit_ - begin_)), '\0');
-        std::memcpy(bigger.data(), begin_, used);
-        heap_.swap(bigger);
-        begin_ = heap_.data();
-        cur_ = begin_ + used;
-        limit_ = begin_ + heap_.size();
-    }
-
     // A field of `width` characters begins: its statement is counted and the
     // buffer has room for it (four bytes a character) and the encoders'
     // scratch. Inlined at every field, like the encoders' fast paths: a call
@@ -123,32 +108,27 @@ private:
     [[gnu::always_inline]] std::size_t open_field(int width) {
         ++line_;
         const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
-        room(4 * w + mlGen::kPutSlack);
+        buf_.room(4 * w + mlGen::kPutSlack);
         return w;
     }
     // The field of `w` characters ends at `end`.
     [[gnu::always_inline]] Writer& close_field(char* end, std::size_t w) {
-        cur_ = end;
+        buf_.advance(end);
         chars_ += w;
         return *this;
     }
 
     Writer& amount(std::string_view v, int vor, int nach, bool with_sign) {
         const std::size_t w = open_field(vor + nach + (with_sign ? 1 : 0));
-        return close_field(mlGen::PutAmount(cur_, v, vor, nach, with_sign, *filled_), w);
+        return close_field(mlGen::PutAmount(buf_.tail(), v, vor, nach, with_sign, *filled_), w);
     }
 
-    static constexpr std::size_t kLocal = 4096;
     std::string& out_;
     int& line_;
     bool own_filled_ = false;
     bool* filled_;
     std::size_t chars_ = 0;
-    char local_[kLocal];
-    char* begin_ = local_;  // the record's first byte
-    char* cur_ = local_;    // where the next field goes
-    char* limit_ = local_ + kLocal;
-    std::string heap_;
+    RecordBuffer buf_;
 };
 
 // A block whose fields all come from `fill`: its identifier, the fields, the

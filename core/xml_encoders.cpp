@@ -13,29 +13,50 @@ bool has_control(std::string_view s) {
         if (is_dropped_control(c)) return true;
     return false;
 }
+
+[[gnu::always_inline]] inline char* copy(char* d, std::string_view s) {
+    bytes::copy_short(d, s.data(), s.size());
+    return d + s.size();
+}
+
+[[gnu::always_inline]] inline char* put_element(char* d, std::string_view name, std::string_view value, bool& flag) {
+    const std::string_view v = text::trim_blanks(value);
+    *d++ = '<';
+    d = copy(d, name);
+    if (v.empty()) return copy(d, " xsi:nil=\"true\"/>");
+    *d++ = '>';
+    d = copy(d, v);
+    d = copy(d, "</");
+    d = copy(d, name);
+    *d++ = '>';
+    flag = false;
+    return d;
+}
+
+// Control characters are dropped first (rare: kept out of the common path).
+[[gnu::noinline]] char* put_cleaned(char* d, std::string_view name, std::string_view value, bool& flag) {
+    return put_element(d, name, ReplaceSpecialCharText(value), flag);
+}
 }  // namespace
 
-void AppendAnXML(std::string& out, std::string_view name, std::string_view value, bool& flag) {
-    std::string cleaned;  // only when there are control characters to drop
-    if (has_control(value)) value = cleaned = ReplaceSpecialCharText(value);
+char* PutAnXML(char* d, std::string_view name, std::string_view value, bool& flag) {
+    return has_control(value) ? put_cleaned(d, name, value, flag) : put_element(d, name, value, flag);
+}
+
+char* PutDateXML(char* d, std::string_view name, std::string_view value, bool& flag) {
     const std::string_view v = text::trim_blanks(value);
-    if (v.empty()) {
-        append_joined(out, {"<", name, " xsi:nil=\"true\"/>"});
-        return;
-    }
-    append_joined(out, {"<", name, ">", v, "</", name, ">"});
-    flag = false;
+    const std::size_t n = text::char_count(v);
+    if (n == 8) return PutAnXML(d, name, ConvertDate(v), flag);
+    if (n == 20) return PutAnXML(d, name, ConvertDateTimeToISO(v), flag);
+    return PutAnXML(d, name, v, flag);
+}
+
+void AppendAnXML(std::string& out, std::string_view name, std::string_view value, bool& flag) {
+    append_put(out, XMLRoom(name, value), [&](char* d) { return PutAnXML(d, name, value, flag); });
 }
 
 void AppendDateXML(std::string& out, std::string_view name, std::string_view value, bool& flag) {
-    std::string_view v = text::trim_blanks(value);
-    std::size_t n = text::char_count(v);
-    if (n == 8)
-        AppendAnXML(out, name, ConvertDate(v), flag);
-    else if (n == 20)
-        AppendAnXML(out, name, ConvertDateTimeToISO(v), flag);
-    else
-        AppendAnXML(out, name, v, flag);
+    append_put(out, XMLRoom(name, value) + 8, [&](char* d) { return PutDateXML(d, name, value, flag); });
 }
 
 std::string StrToAnXML(std::string_view name, std::string_view value, bool& flag) {

@@ -15,4 +15,12 @@ std::string StrToDateXML(std::string_view name, std::string_view value, bool& fl
 void AppendAnXML(std::string& out, std::string_view name, std::string_view value, bool& flag);
 void AppendDateXML(std::string& out, std::string_view name, std::string_view value, bool& flag);
 
+// The same writing at `d`, which has room for XMLRoom bytes (a date element
+// eight more); they return the end of the element.
+inline std::size_t XMLRoom(std::string_view name, std::string_view value) {
+    return 2 * name.size() + value.size() + 24;
+}
+char* PutAnXML(char* d, std::string_view name, std::string_view value, bool& flag);
+char* PutDateXML(char* d, std::string_view name, std::string_view value, bool& flag);
+
 }  // namespace tamrel::mlGen
