@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <string_view>
+
 #include "core/mlGen.h"
 #include "test_support.h"
 
@@ -60,6 +63,32 @@ TEST(TextEncoders, InvalidUtf8IsRefused) {
     Error e = expect_error([&] { mlGen::StrToAn("ab\xFF", 5, filled); });
     EXPECT_EQ(e.number(), kErrText);
     EXPECT_EQ(e.source(), "mlGen.StrToAn");
+}
+
+// The inline fast path (short plain ASCII, empty values) must give what the
+// general walk gives, at every length around its word boundaries and for
+// every kind of value that has to leave it.
+TEST(TextEncoders, FastPathAgreesWithTheGeneralWalk) {
+    const std::string values[] = {
+        "", " ", "  ", "A", "AB", "ABC", "ABCD", "ABCDEFG", "ABCDEFGH", "ABCDEFGHI", "0", "000", "00000000",
+        "0000000000000000", "0000000000000001", std::string(16, 'x'), std::string(17, 'y'), std::string(33, 'z'),
+        "  A ", "M\xC3\xBCller", "\xC3\xBC", "Stra\xC3\x9F" "e 12345678", "a\tb", "a\r\nb", "\x01\x02", "12\x0D",
+        "\x0E\x1F~", "abcdefgh\n", std::string(40, ' '),
+    };
+    for (const std::string& v : values) {
+        for (std::size_t w : {0u, 1u, 2u, 3u, 4u, 7u, 8u, 9u, 16u, 17u, 31u, 32u, 33u, 40u}) {
+            for (bool numeric : {false, true}) {
+                char fast[4 * 40 + mlGen::kPutSlack], general[4 * 40 + mlGen::kPutSlack];
+                bool fast_filled = false, general_filled = false;
+                const char* fast_end = numeric ? mlGen::PutN(fast, v, w, fast_filled) : mlGen::PutAn(fast, v, w, fast_filled);
+                const char* general_end = numeric ? mlGen::detail::PutNGeneral(general, v, w, general_filled)
+                                                  : mlGen::detail::PutAnGeneral(general, v, w, general_filled);
+                EXPECT_EQ(std::string_view(fast, fast_end), std::string_view(general, general_end))
+                    << (numeric ? "N " : "AN ") << v << " width " << w;
+                EXPECT_EQ(fast_filled, general_filled) << (numeric ? "N " : "AN ") << v << " width " << w;
+            }
+        }
+    }
 }
 
 struct AmountCase {
