@@ -13,18 +13,9 @@
 #include "core/text.h"
 
 namespace tamrel::mlGen {
-namespace detail {
-bool has_non_ascii(std::string_view s) {
-    for (unsigned char c : s)
-        if (c >= 0x80) return true;
-    return false;
-}
-}  // namespace detail
 namespace {
-using detail::has_non_ascii;
 
 constexpr std::string_view kCheckLength = "mlGen.CheckLength";
-
 
 bool all_of(std::string_view s, char c) {
     for (char x : s)
@@ -273,8 +264,6 @@ std::string ConvertDateTimeToISO(std::string_view value) {
 }  // namespace tamrel::mlGen
 
 namespace tamrel::mlGlobal {
-
-using mlGen::detail::has_non_ascii;
 
 CurrDate::CurrDate(std::string_view dateText, int format, const Date& date) {
     std::string_view t = dateText;

@@ -3,7 +3,6 @@
 // costs more than the rest of the field. Loads never leave [s, s + n);
 // stores may use the kSlack bytes of scratch behind a field.
 #pragma once
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>

@@ -1,10 +1,9 @@
 #include "core/text.h"
 
-#include "core/short_bytes.h"
-
-#include <bit>
 #include <cstdint>
 #include <cstring>
+
+#include "core/short_bytes.h"
 
 namespace tamrel::text {
 

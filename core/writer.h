@@ -4,9 +4,7 @@
 // by every encoder of the block, and the length check that closes it.
 #pragma once
 #include <cassert>
-#include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 
