@@ -12,22 +12,32 @@
 
 namespace tamrel {
 
+inline std::size_t total_size(std::span<const std::string_view> parts) {
+    std::size_t n = 0;
+    for (std::string_view p : parts) n += p.size();
+    return n;
+}
+
+// Copies the parts one after another to `d`; returns the end.
+inline char* copy_parts(char* d, std::span<const std::string_view> parts) {
+    for (std::string_view p : parts) {
+        bytes::copy_short(d, p.data(), p.size());
+        d += p.size();
+    }
+    return d;
+}
+
 class Joined {
 public:
     Joined(std::initializer_list<std::string_view> parts) : Joined(std::span(parts.begin(), parts.size())) {}
     explicit Joined(std::span<const std::string_view> parts) {
-        std::size_t n = 0;
-        for (std::string_view p : parts) n += p.size();
+        const std::size_t n = total_size(parts);
         char* start = local_;
         if (n > sizeof local_) {
             heap_.resize(n);
             start = heap_.data();
         }
-        char* d = start;
-        for (std::string_view p : parts) {
-            bytes::copy_short(d, p.data(), p.size());
-            d += p.size();
-        }
+        copy_parts(start, parts);
         view_ = {start, n};
     }
     Joined(const Joined&) = delete;
@@ -53,15 +63,8 @@ void append_put(std::string& out, std::size_t max_bytes, Put&& put) {
 
 // Appends the texts to `out` with one growth of the string.
 inline void append_joined(std::string& out, std::initializer_list<std::string_view> parts) {
-    std::size_t n = 0;
-    for (std::string_view p : parts) n += p.size();
-    const std::size_t at = out.size();
-    out.resize(at + n);
-    char* d = out.data() + at;
-    for (std::string_view p : parts) {
-        bytes::copy_short(d, p.data(), p.size());
-        d += p.size();
-    }
+    const std::span<const std::string_view> all(parts.begin(), parts.size());
+    append_put(out, total_size(all), [&](char* d) { return copy_parts(d, all); });
 }
 
 }  // namespace tamrel
