@@ -15,10 +15,28 @@ class Indexed {
     using Read = std::conditional_t<std::is_same_v<T, bool>, bool, const T&>;
 
 public:
-    Read operator()(std::int16_t i) const {
-        const std::int32_t k = std::int32_t{i} - first_;
-        return k >= 0 && k < static_cast<std::int32_t>(values_.size()) ? values_[static_cast<std::size_t>(k)] : empty_;
-    }
+    // The values as plain numbers that a builder keeps in registers across
+    // a loop (reading through the property itself, the compiler reloads
+    // its vector after every byte the builder stores).
+    class View {
+    public:
+        Read operator()(std::int16_t i) const {
+            const auto k = static_cast<std::uint32_t>(std::int32_t{i} - first_);
+            return k < count_ ? values_[k] : *empty_;
+        }
+
+    private:
+        friend class Indexed;
+        View(const Stored* values, std::uint32_t count, std::int32_t first, const Stored* empty)
+            : values_(values), count_(count), first_(first), empty_(empty) {}
+        const Stored* values_;
+        std::uint32_t count_;
+        std::int32_t first_;
+        const Stored* empty_;
+    };
+    View view() const { return {values_.data(), static_cast<std::uint32_t>(values_.size()), first_, &empty_}; }
+
+    Read operator()(std::int16_t i) const { return view()(i); }
     void set(std::int16_t i, T v) {
         if (values_.empty()) {
             first_ = i;

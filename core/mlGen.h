@@ -41,6 +41,17 @@ namespace detail {
 // fast path to it.
 char* PutAnGeneral(char* d, std::string_view value, std::size_t width, bool& filled);
 char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& filled);
+
+// Calls a general walk with a flag of its own and hands the result on: the
+// caller's flag is often a member of the writer, and handing its address out
+// of line would keep the whole writer in memory.
+template <class Walk, class... A>
+[[gnu::always_inline]] inline char* general(bool& filled, Walk walk, char* d, A... args) {
+    bool own = false;
+    char* end = walk(d, args..., own);
+    if (own) filled = true;
+    return end;
+}
 }  // namespace detail
 
 // Most values are a few plain ASCII characters that fit their field: those
@@ -52,7 +63,7 @@ char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& fill
     }
     bool content = false;
     if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), ' ', content)) [[unlikely]]
-        return detail::PutAnGeneral(d, value, w, filled);
+        return detail::general(filled, detail::PutAnGeneral, d, value, w);
     bytes::pad_field(d, ' ', w);
     bytes::copy_short(d, value.data(), value.size());
     if (content) filled = true;
@@ -66,7 +77,7 @@ char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& fill
     }
     bool digits = false;
     if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), '0', digits)) [[unlikely]]
-        return detail::PutNGeneral(d, value, w, filled);
+        return detail::general(filled, detail::PutNGeneral, d, value, w);
     bytes::pad_field(d, '0', w);
     bytes::copy_short(d + w - value.size(), value.data(), value.size());
     if (digits) filled = true;
@@ -82,7 +93,7 @@ char* PutAmountGeneral(char* d, std::string_view value, int intVor, int intNach,
 [[gnu::always_inline]] inline char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign,
                                               bool& filled) {
     if (!value.empty() || intVor < 0 || intNach < 0) [[unlikely]]
-        return detail::PutAmountGeneral(d, value, intVor, intNach, with_sign, filled);
+        return detail::general(filled, detail::PutAmountGeneral, d, value, intVor, intNach, with_sign);
     if (with_sign) *d++ = '+';
     const auto w = static_cast<std::size_t>(intVor + intNach);
     bytes::pad_field(d, '0', w);

@@ -1,8 +1,16 @@
-// The bytes of a record (or an XML block) while it is being written: on the
-// stack for ordinary records, moved to the heap only when one grows beyond
-// that. Writers ask for room, write at the tail and then advance it.
+// The bytes of a record (or an XML block) while it is being written: in a
+// scratch area of the thread, one per nesting level (a block's writer may be
+// running while another builds a block it needs), on the heap only for a
+// record beyond that. Writers ask for room, write at the tail and then
+// advance it; keep() appends the record to the output, and a buffer that is
+// destroyed without it (an error on the way) leaves the output as it was.
+//
+// The buffer's pointers are plain values and nothing out of line ever sees
+// the buffer itself, so the compiler keeps them in registers while the
+// record's bytes are written: a buffer holding its own storage (or a
+// std::string, which points into itself) would be reloaded from memory
+// after every byte stored.
 #pragma once
-#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -10,15 +18,49 @@
 
 namespace tamrel {
 
+namespace detail {
+inline constexpr std::size_t kScratchSize = 4096;
+inline constexpr int kScratchLevels = 8;
+
+struct ScratchAreas {
+    int depth = 0;
+    char area[kScratchLevels][kScratchSize];
+};
+inline thread_local ScratchAreas scratch_areas;
+
+struct Grown {
+    char* begin;
+    char* limit;
+};
+// Moves `used` bytes from `begin` to a heap area with room for `bytes` more,
+// and frees `heap` (the old heap area, if any).
+Grown grow_record(const char* begin, std::size_t used, std::size_t bytes, std::size_t capacity, char* heap);
+}  // namespace detail
+
 class RecordBuffer {
 public:
-    RecordBuffer() = default;
+    [[gnu::always_inline]] RecordBuffer() {
+        detail::ScratchAreas& s = detail::scratch_areas;
+        const int level = s.depth++;
+        if (level < detail::kScratchLevels) {
+            begin_ = tail_ = s.area[level];
+            limit_ = begin_ + detail::kScratchSize;
+        }
+    }
     RecordBuffer(const RecordBuffer&) = delete;
     RecordBuffer& operator=(const RecordBuffer&) = delete;
+    [[gnu::always_inline]] ~RecordBuffer() {
+        --detail::scratch_areas.depth;
+        if (heap_) delete[] begin_;
+    }
 
     // Room for `bytes` more bytes at the tail; returns the tail.
     [[gnu::always_inline]] char* room(std::size_t bytes) {
-        if (static_cast<std::size_t>(limit_ - tail_) < bytes) grow(bytes);
+        if (static_cast<std::size_t>(limit_ - tail_) < bytes) [[unlikely]] {
+            const std::size_t used = size();
+            const detail::Grown g = detail::grow_record(begin_, used, bytes, capacity(), heap_ ? begin_ : nullptr);
+            begin_ = g.begin, tail_ = begin_ + used, limit_ = g.limit, heap_ = true;
+        }
         return tail_;
     }
     char* tail() const { return tail_; }
@@ -29,25 +71,18 @@ public:
         tail_ += s.size();
     }
     char* data() const { return begin_; }
-    std::string_view view() const { return {begin_, static_cast<std::size_t>(tail_ - begin_)}; }
+    std::size_t size() const { return static_cast<std::size_t>(tail_ - begin_); }
+    std::string_view view() const { return {begin_, size()}; }
+    // Forgets what was written.
+    void clear() { tail_ = begin_; }
 
 private:
-    void grow(std::size_t bytes) {
-        const std::size_t used = static_cast<std::size_t>(tail_ - begin_);
-        std::string bigger(std::max(used + bytes, 2 * static_cast<std::size_t>(limit_ - begin_)), '\0');
-        std::memcpy(bigger.data(), begin_, used);
-        heap_.swap(bigger);
-        begin_ = heap_.data();
-        tail_ = begin_ + used;
-        limit_ = begin_ + heap_.size();
-    }
+    std::size_t capacity() const { return static_cast<std::size_t>(limit_ - begin_); }
 
-    static constexpr std::size_t kLocal = 4096;
-    char local_[kLocal];
-    char* begin_ = local_;
-    char* tail_ = local_;
-    char* limit_ = local_ + kLocal;
-    std::string heap_;
+    char* begin_ = nullptr;
+    char* tail_ = nullptr;
+    char* limit_ = nullptr;
+    bool heap_ = false;  // begin_ is a heap area of this buffer's own
 };
 
 }  // namespace tamrel

@@ -45,13 +45,13 @@ private:
 class Writer {
 public:
     // Writes a record that is appended to `out` by the length check that
-    // closes it (an error before or in the check appends nothing). Fields go
-    // into the writer's own buffer, on the stack for ordinary records.
-    Writer(std::string& out, int& line) : Writer(out, line, own_filled_) {}
-    // As above, with the filled flag kept by the caller.
-    Writer(std::string& out, int& line, bool& filled) : out_(out), line_(line), filled_(&filled) {}
+    // closes it (an error before or in the check appends nothing).
+    Writer(std::string& out, int& line) : out_(out), line_(line) {}
+    // As above, and `filled` is set once any field held data.
+    Writer(std::string& out, int& line, bool& filled) : out_(out), line_(line), shared_(&filled) {}
     Writer(const Writer&) = delete;
     Writer& operator=(const Writer&) = delete;
+    [[gnu::always_inline]] ~Writer() { publish(); }
 
     [[gnu::always_inline]] Writer& lit(std::string_view s) {
         ++line_;
@@ -61,42 +61,46 @@ public:
     }
     [[gnu::always_inline]] Writer& an(std::string_view v, int width) {
         const std::size_t w = open_field(width);
-        return close_field(mlGen::PutAn(buf_.tail(), v, w, *filled_), w);
+        return close_field(mlGen::PutAn(buf_.tail(), v, w, filled_), w);
     }
     [[gnu::always_inline]] Writer& n(std::string_view v, int width) {
         const std::size_t w = open_field(width);
-        return close_field(mlGen::PutN(buf_.tail(), v, w, *filled_), w);
+        return close_field(mlGen::PutN(buf_.tail(), v, w, filled_), w);
     }
-    Writer& n(std::int64_t v, int width) { return n(mlGen::Decimal(v), width); }
-    Writer& blank(int width) { return an({}, width); }
-    Writer& zeros(int width) { return n(std::string_view{}, width); }
-    Writer& pb(std::string_view v, int vor, int nach) { return amount(v, vor, nach, false); }
-    Writer& bg(std::string_view v, int vor, int nach) { return amount(v, vor, nach, true); }
-    Writer& jn(std::int32_t v) {
-        const char c = mlGen::JNChar(v, *filled_);
+    [[gnu::always_inline]] Writer& n(std::int64_t v, int width) { return n(mlGen::Decimal(v), width); }
+    [[gnu::always_inline]] Writer& blank(int width) { return an({}, width); }
+    [[gnu::always_inline]] Writer& zeros(int width) { return n(std::string_view{}, width); }
+    [[gnu::always_inline]] Writer& pb(std::string_view v, int vor, int nach) { return amount(v, vor, nach, false); }
+    [[gnu::always_inline]] Writer& bg(std::string_view v, int vor, int nach) { return amount(v, vor, nach, true); }
+    [[gnu::always_inline]] Writer& jn(std::int32_t v) {
+        const char c = mlGen::JNChar(v, filled_);
         return lit({&c, 1});
     }
-    Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
-    Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
+    [[gnu::always_inline]] Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
+    [[gnu::always_inline]] Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
         const mlGlobal::CurrDate text(dateText, format, date);
         return n(Joined(text.pieces()), width);
     }
     // Replaces the ASCII character at 0-based byte `index` of the record.
-    void patch(std::size_t index, char c) { buf_.data()[index] = c; }
+    [[gnu::always_inline]] void patch(std::size_t index, char c) { buf_.data()[index] = c; }
 
     std::string_view record() const { return buf_.view(); }
 
     // The length check that closes the record and appends it. Every encoder
     // writes exactly its width, so the writer knows the record's length in
     // characters without counting them again.
-    void check(int length, std::string_view name) {
+    [[gnu::always_inline]] void check(int length, std::string_view name) {
         ++line_;
+        publish();
         assert(chars_ == text::char_count(record()));
         if (chars_ != static_cast<std::size_t>(length)) mlGen::CheckLength(record(), length, name);
-        end();
+        out_.append(record());
     }
     // Appends a record head whose length the caller checks with the rest.
-    void end() { out_.append(buf_.view()); }
+    [[gnu::always_inline]] void end() {
+        publish();
+        out_.append(record());
+    }
 
 private:
     // A field of `width` characters begins: its statement is counted and the
@@ -116,15 +120,22 @@ private:
         return *this;
     }
 
-    Writer& amount(std::string_view v, int vor, int nach, bool with_sign) {
+    [[gnu::always_inline]] Writer& amount(std::string_view v, int vor, int nach, bool with_sign) {
         const std::size_t w = open_field(vor + nach + (with_sign ? 1 : 0));
-        return close_field(mlGen::PutAmount(buf_.tail(), v, vor, nach, with_sign, *filled_), w);
+        return close_field(mlGen::PutAmount(buf_.tail(), v, vor, nach, with_sign, filled_), w);
+    }
+    // The caller's flag learns what the fields held (also when an error
+    // ends the record early, as if each field had set it).
+    [[gnu::always_inline]] void publish() {
+        if (filled_ && shared_) *shared_ = true;
     }
 
     std::string& out_;
     int& line_;
-    bool own_filled_ = false;
-    bool* filled_;
+    bool* shared_ = nullptr;
+    // Kept here rather than in the caller's flag: a flag the encoders wrote
+    // through a pointer could be any byte of the record to the compiler.
+    bool filled_ = false;
     std::size_t chars_ = 0;
     RecordBuffer buf_;
 };

@@ -55,7 +55,7 @@ std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerf
 
 // Version prefix (an 10) and running number (n 10): the file reference,
 // written as one text field of `width`.
-void reference(Writer& w, const DatensatzData& dd, std::int32_t number, int width) {
+[[gnu::always_inline]] inline void reference(Writer& w, const DatensatzData& dd, std::int32_t number, int width) {
     w.an(dd.strVersion, 10).n(number, 10).blank(width - 20);
 }
 

@@ -61,11 +61,12 @@ void clsGenMeldung::GenDBKS(std::string& out, const Meldung& m) {
     routine("clsGenMeldung.GenDBKS", [&](int& line) {
         Writer w(out, line);
         if (m.Meldungsart == 1) {
+            const auto a = m.KsZeileA.view(), b = m.KsZeileB.view(), c = m.KsZeileC.view(), d = m.KsZeileD.view();
+            const std::int16_t first = m.KsErster, last = m.KsLetzter;
             w.lit("DBKS").lit("K").an(m.KsKennzeichen, 1);
-            for (std::int16_t i = m.KsErster; i <= m.KsLetzter; i = add16(i, 1))
-                w.an(m.KsZeileA(i), 2).an(m.KsZeileB(i), 9).an(m.KsZeileC(i), 1);
+            for (std::int16_t i = first; i <= last; i = add16(i, 1)) w.an(a(i), 2).an(b(i), 9).an(c(i), 1);
             w.an(m.KsDatum, 8).an(m.KsSchluessel, 2);
-            for (std::int16_t i = m.KsErster; i <= m.KsLetzter; i = add16(i, 1)) w.an(m.KsZeileD(i), 2);
+            for (std::int16_t i = first; i <= last; i = add16(i, 1)) w.an(d(i), 2);
             w.blank(36);
         } else if (m.Meldungsart == 2) {
             w.lit("DBKS").lit("S").an(m.KsAngabe1, 2).an(m.KsAngabe2, 2).an(m.KsAngabe3, 2).an(m.KsAngabe4, 2);
