@@ -41,6 +41,9 @@ namespace detail {
 // fast path to it.
 char* PutAnGeneral(char* d, std::string_view value, std::size_t width, bool& filled);
 char* PutNGeneral(char* d, std::string_view value, std::size_t width, bool& filled);
+// What the text encoder's inline path leaves: short names with umlauts are
+// surveyed and copied word-wise here, everything else takes the general walk.
+char* PutAnText(char* d, std::string_view value, std::size_t width, bool& filled);
 
 // Calls a general walk with a flag of its own and hands the result on: the
 // caller's flag is often a member of the writer, and handing its address out
@@ -63,7 +66,7 @@ template <class Walk, class... A>
     }
     bool content = false;
     if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), ' ', content)) [[unlikely]]
-        return detail::general(filled, detail::PutAnGeneral, d, value, w);
+        return detail::general(filled, detail::PutAnText, d, value, w);
     bytes::pad_field(d, ' ', w);
     bytes::copy_short(d, value.data(), value.size());
     if (content) filled = true;

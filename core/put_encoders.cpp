@@ -19,6 +19,20 @@ void require_utf8(std::string_view value, const char* routine_name) {
 
 }  // namespace
 
+char* detail::PutAnText(char* d, std::string_view value, std::size_t w, bool& filled) {
+    if (value.size() <= 16) {
+        const bytes::ShortText text = bytes::survey_short_text(value.data(), value.size());
+        if (text.ok && text.chars <= w) {
+            const std::size_t size = value.size() + (w - text.chars);
+            bytes::pad_field(d, ' ', size);
+            bytes::copy_short(d, value.data(), value.size());
+            if (text.content) filled = true;
+            return d + size;
+        }
+    }
+    return PutAnGeneral(d, value, w, filled);
+}
+
 char* detail::PutAnGeneral(char* d, std::string_view value, std::size_t w, bool& filled) {
     require_utf8(value, "StrToAn");
     // Mostly a name with umlauts: no control character, fits the field.

@@ -115,6 +115,64 @@ inline Survey survey(const char* s, std::size_t n) noexcept {
     return {n - continuation, controls != 0, differs != 0};
 }
 
+// The n <= 16 bytes at s as two little-endian words, the bytes past n read
+// as `pad` (loads never leave [s, s + n)).
+struct Words {
+    std::uint64_t lo, hi;
+};
+inline Words load_padded16(const char* s, std::size_t n, char pad) noexcept {
+    const std::uint64_t pads = kOnes * static_cast<unsigned char>(pad);
+    if (n >= 8) {
+        const std::size_t rest = n - 8;
+        std::uint64_t hi = pads;
+        if (rest == 8)
+            hi = load8(s + 8);
+        else if (rest > 0)
+            hi = (load8(s + n - 8) >> (8 * (8 - rest))) | (pads << (8 * rest));
+        return {load8(s), hi};
+    }
+    std::uint64_t lo = 0;
+    if (n >= 4) {
+        lo = load4(s) | load4(s + n - 4) << (8 * (n - 4));  // the overlap holds the same bytes twice
+    } else if (n > 0) {
+        const auto byte = [s](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(s[i])}; };
+        lo = byte(0) | byte(n / 2) << (8 * (n / 2)) | byte(n - 1) << (8 * (n - 1));
+    }
+    return {lo | (pads << (8 * n)), pads};
+}
+
+// What the text encoder needs of a short value in the form most names with
+// umlauts take: ASCII from 0x0E up and two-byte UTF-8 sequences (U+0080 to
+// U+07FF) only. `ok` is false for anything else (longer sequences, control
+// characters, malformed text), which the general walk then takes.
+struct ShortText {
+    bool ok = false;
+    std::size_t chars = 0;
+    bool content = false;  // a byte other than the blank
+};
+inline ShortText survey_short_text(const char* s, std::size_t n) noexcept {
+    const Words w = load_padded16(s, n, ' ');
+    // Each word's lead bytes (11xxxxxx) must be followed by exactly one
+    // continuation byte (10xxxxxx); the pair straddles the words when the
+    // lead is the low word's last byte.
+    const auto cont = [](std::uint64_t x) { return x & ~(x << 1) & kHigh; };
+    const auto lead = [](std::uint64_t x) { return x & (x << 1) & kHigh; };
+    const std::uint64_t cont_lo = cont(w.lo), cont_hi = cont(w.hi);
+    const std::uint64_t lead_lo = lead(w.lo), lead_hi = lead(w.hi);
+    const bool pairs = (lead_lo << 8) == cont_lo && ((lead_hi << 8) | (lead_lo >> 56)) == cont_hi && (lead_hi >> 56) == 0;
+    // Leads of three or more bytes (111xxxxx) and the overlong C0 and C1.
+    const auto long_lead = [](std::uint64_t x) { return x & (x << 1) & (x << 2) & kHigh; };
+    const auto overlong = [](std::uint64_t x) {
+        const std::uint64_t y = (x ^ (kOnes * 0xC0)) & (kOnes * 0xFE);  // zero for C0 and C1
+        return (y - kOnes) & ~y & kHigh;
+    };
+    const bool bad = (long_lead(w.lo) | long_lead(w.hi) | overlong(w.lo) | overlong(w.hi) |
+                      below_0e(w.lo) | below_0e(w.hi)) != 0;
+    const std::uint64_t blanks = kOnes * ' ';
+    return {pairs && !bad, n - count_high_bits(cont_lo) - count_high_bits(cont_hi),
+            ((w.lo ^ blanks) | (w.hi ^ blanks)) != 0};
+}
+
 // Whether two texts are equal; short ones (property names) compared as two
 // overlapping words instead of through a call.
 inline bool equal(std::string_view a, std::string_view b) noexcept {

@@ -74,6 +74,10 @@ TEST(TextEncoders, FastPathAgreesWithTheGeneralWalk) {
         "0000000000000000", "0000000000000001", std::string(16, 'x'), std::string(17, 'y'), std::string(33, 'z'),
         "  A ", "M\xC3\xBCller", "\xC3\xBC", "Stra\xC3\x9F" "e 12345678", "a\tb", "a\r\nb", "\x01\x02", "12\x0D",
         "\x0E\x1F~", "abcdefgh\n", std::string(40, ' '),
+        // Two-byte sequences around the word boundaries of the short-text path.
+        "abcdefg\xC3\xA4", "abcdefgh\xC3\xA4", "abcdefghijklmn\xC3\xA4", "abcdefghijklmno\xC3\xA4",
+        "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F\xC3\x84\xC3\x96\xC3\x9C\xC2\xA0", "\xC2\x80", "\xDF\xBF",
+        "\xE2\x82\xAC 5", "\xF0\x9F\x98\x80", "K\xC3\xB6ln\t", "\xC3\xA4\x7F",
     };
     for (const std::string& v : values) {
         for (std::size_t w : {0u, 1u, 2u, 3u, 4u, 7u, 8u, 9u, 16u, 17u, 31u, 32u, 33u, 40u}) {
@@ -88,6 +92,21 @@ TEST(TextEncoders, FastPathAgreesWithTheGeneralWalk) {
                 EXPECT_EQ(fast_filled, general_filled) << (numeric ? "N " : "AN ") << v << " width " << w;
             }
         }
+    }
+}
+
+// Malformed text must be refused whichever path a value takes.
+TEST(TextEncoders, EveryPathRefusesMalformedText) {
+    RecordingHost host;
+    const std::string values[] = {
+        "\xC3", "a\x80", "\xC0\x80", "\xC1\xBF", "\xC3\xA4\xC3", "abcdefghijklmno\xC3", "abcdefg\xC3",
+        "abcdefgh\x80" "b", "\xC3\xC3\xA4", "\xE2\x82", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\xFF",
+    };
+    for (const std::string& v : values) {
+        char buf[4 * 40 + mlGen::kPutSlack];
+        bool filled = false;
+        const Error e = expect_error([&] { mlGen::PutAn(buf, v, 20, filled); });
+        EXPECT_EQ(e.number(), kErrText) << v;
     }
 }
 
