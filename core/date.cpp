@@ -1,6 +1,8 @@
 #include "core/date.h"
 
+#include <array>
 #include <cstdio>
+#include <cstring>
 
 namespace tamrel {
 namespace {
@@ -21,7 +23,19 @@ int days_in_month(int y, int m) {
     return m == 2 && leap ? 29 : days[m - 1];
 }
 
+constexpr auto kDigitPairs = [] {
+    std::array<char, 200> pairs{};
+    for (int v = 0; v < 100; ++v) pairs[2 * v] = static_cast<char>('0' + v / 10), pairs[2 * v + 1] = static_cast<char>('0' + v % 10);
+    return pairs;
+}();
+
+// The last two decimal digits of v (a date's fields are 0-99 here, but for
+// anything else the same rule holds digit by digit).
 char* put2(char* d, int v) {
+    if (static_cast<unsigned>(v) < 100) {
+        std::memcpy(d, kDigitPairs.data() + 2 * v, 2);
+        return d + 2;
+    }
     d[0] = static_cast<char>('0' + v / 10 % 10);
     d[1] = static_cast<char>('0' + v % 10);
     return d + 2;

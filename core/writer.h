@@ -77,7 +77,17 @@ public:
         return lit({&c, 1});
     }
     [[gnu::always_inline]] Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
+    // A date stamp: GetCurrDate's text as a numeric field. The usual one, the
+    // full creation time taken from the date itself, is written straight.
     [[gnu::always_inline]] Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
+        if (dateText.empty() && format == 1 && width == 14) {
+            const std::size_t w = open_field(width);
+            char* d = buf_.tail();
+            put_hhnnss(put_yyyymmdd(d, date), date);
+            const std::uint64_t zeros = bytes::kOnes * '0';
+            if (((bytes::load8(d) ^ zeros) | (bytes::load8(d + 6) ^ zeros)) != 0) filled_ = true;
+            return close_field(d + 14, w);
+        }
         const mlGlobal::CurrDate text(dateText, format, date);
         return n(Joined(text.pieces()), width);
     }

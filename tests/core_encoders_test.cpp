@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/mlGen.h"
+#include "core/writer.h"
 #include "test_support.h"
 
 using namespace tamrel;
@@ -223,6 +224,30 @@ TEST(Dates, GetCurrDateTakesTheDayFromTheRightEnd) {
     // Stray continuation bytes make "the last two characters" a long piece; it is kept whole.
     const std::string stray(40, '\xBE');
     EXPECT_EQ(mlGlobal::GetCurrDate("20240131" + stray + "xy", 0, date), "202401" + stray + "xy");
+}
+
+// The writer's date stamp (written straight from the date when no text is
+// given) is GetCurrDate's text as a numeric field, filled flag included.
+TEST(Dates, WriterStampIsGetCurrDateAsANumericField) {
+    const Date dates[] = {{2024, 2, 29, 13, 5, 9}, {1999, 12, 31, 0, 0, 0}, {0, 0, 0, 0, 0, 0},
+                          {12345, 1, 2, 3, 4, 5},  {2000, 1, 1, 23, 59, 59}};
+    for (const Date& date : dates) {
+        for (const std::string_view text : {"", "20240131", "20240131235959"}) {
+            for (int width : {14, 12, 16}) {
+                std::string out;
+                int line = 0;
+                bool filled = false;
+                {
+                    Writer w(out, line, filled);
+                    w.stamp(text, 1, date, width).end();
+                }
+                bool expected_filled = false;
+                const std::string expected = mlGen::StrToN(mlGlobal::GetCurrDate(text, 1, date), width, expected_filled);
+                EXPECT_EQ(out, expected) << text << " width " << width << " year " << date.year;
+                EXPECT_EQ(filled, expected_filled) << text << " width " << width << " year " << date.year;
+            }
+        }
+    }
 }
 
 TEST(Dates, GetDateReadsTheHostClockForTheEmptyDate) {

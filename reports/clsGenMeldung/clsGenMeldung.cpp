@@ -91,7 +91,8 @@ std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int
 bool clsGenMeldung::IsGeringBkn(const Meldung& m) const {
     return routine("clsGenMeldung.IsGeringBkn(<objMeldung>)", [&](int& line) {
         line = 1;
-        return m.Personengruppe == "109" || m.Personengruppe == "110" || m.Personengruppe == "190";
+        const std::string_view group = m.Personengruppe;
+        return group == "109" || group == "110" || group == "190";
     });
 }
 
