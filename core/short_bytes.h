@@ -160,14 +160,12 @@ inline ShortText survey_short_text(const char* s, std::size_t n) noexcept {
     const std::uint64_t cont_lo = cont(w.lo), cont_hi = cont(w.hi);
     const std::uint64_t lead_lo = lead(w.lo), lead_hi = lead(w.hi);
     const bool pairs = (lead_lo << 8) == cont_lo && ((lead_hi << 8) | (lead_lo >> 56)) == cont_hi && (lead_hi >> 56) == 0;
-    // Leads of three or more bytes (111xxxxx) and the overlong C0 and C1.
-    const auto long_lead = [](std::uint64_t x) { return x & (x << 1) & (x << 2) & kHigh; };
-    const auto overlong = [](std::uint64_t x) {
-        const std::uint64_t y = (x ^ (kOnes * 0xC0)) & (kOnes * 0xFE);  // zero for C0 and C1
-        return (y - kOnes) & ~y & kHigh;
+    // Among the leads: those of three or more bytes (111xxxxx) and the
+    // overlong C0 and C1 (bits 1-4 clear, which adding 0x7E leaves below 0x80).
+    const auto bad_lead = [](std::uint64_t x, std::uint64_t leads) {
+        return leads & ((x << 2) | ~((x & (kOnes * 0x1E)) + kOnes * 0x7E));
     };
-    const bool bad = (long_lead(w.lo) | long_lead(w.hi) | overlong(w.lo) | overlong(w.hi) |
-                      below_0e(w.lo) | below_0e(w.hi)) != 0;
+    const bool bad = (bad_lead(w.lo, lead_lo) | bad_lead(w.hi, lead_hi) | below_0e(w.lo) | below_0e(w.hi)) != 0;
     const std::uint64_t blanks = kOnes * ' ';
     return {pairs && !bad, n - count_high_bits(cont_lo) - count_high_bits(cont_hi),
             ((w.lo ^ blanks) | (w.hi ^ blanks)) != 0};
@@ -207,12 +205,16 @@ inline bool equal(std::string_view a, std::string_view b) noexcept {
 }
 
 // Fills a field of width w with c: one fixed-size store when it fits the
-// scratch behind the field.
+// scratch behind the field, two overlapping ones up to twice that.
 [[gnu::always_inline]] inline void pad_field(char* d, char c, std::size_t w) noexcept {
-    if (w <= kSlack)
+    if (w <= kSlack) {
         std::memset(d, c, kSlack);
-    else
+    } else if (w <= 2 * kSlack) {
+        std::memset(d, c, kSlack);
+        std::memset(d + w - kSlack, c, kSlack);
+    } else {
         std::memset(d, c, w);
+    }
 }
 
 }  // namespace tamrel::bytes
