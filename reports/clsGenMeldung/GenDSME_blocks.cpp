@@ -44,9 +44,7 @@ void clsGenMeldung::AppendDBUV(std::string& out, const Meldung& m, bool& produce
             count = add16(count, 1);
             required = add16(required, 71);
         }
-        char digit[4 + mlGen::kPutSlack];
-        mlGen::PutN(digit, mlGen::Decimal(count), 1, produced);
-        w.patch(4, digit[0]);
+        w.patch(4, mlGen::StrToN(mlGen::Decimal(count), 1, produced)[0]);
         w.check(required, "DBUV");
     });
 }
