@@ -1,9 +1,9 @@
 // The bytes of a record (or an XML block) while it is being written: in a
 // scratch area of the thread, one per nesting level (a block's writer may be
 // running while another builds a block it needs), on the heap only for a
-// record beyond that. Writers ask for room, write at the tail and then
-// advance it; keep() appends the record to the output, and a buffer that is
-// destroyed without it (an error on the way) leaves the output as it was.
+// record beyond that. Writers ask for room, write at the tail, advance it,
+// and append the finished record to their output themselves. Buffers are
+// locals, released in the reverse order of their making.
 //
 // The buffer's pointers are plain values and nothing out of line ever sees
 // the buffer itself, so the compiler keeps them in registers while the
@@ -13,7 +13,6 @@
 #pragma once
 #include <cstddef>
 #include <cstring>
-#include <string>
 #include <string_view>
 
 namespace tamrel {

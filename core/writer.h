@@ -42,6 +42,10 @@ private:
     std::size_t chr_ = 1, byte_ = 0;
 };
 
+// Every member is inlined and nothing out of line is handed the writer (or
+// a member of it): so the compiler keeps its pointers and counters in
+// registers across the fields, where a writer that is address-taken would be
+// reloaded from memory after every byte stored.
 class Writer {
 public:
     // Writes a record that is appended to `out` by the length check that
@@ -143,8 +147,8 @@ private:
     std::string& out_;
     int& line_;
     bool* shared_ = nullptr;
-    // Kept here rather than in the caller's flag: a flag the encoders wrote
-    // through a pointer could be any byte of the record to the compiler.
+    // A member of its own, published to the caller's flag: pointing the
+    // encoders at a member would make the writer address-taken (see below).
     bool filled_ = false;
     std::size_t chars_ = 0;
     RecordBuffer buf_;
