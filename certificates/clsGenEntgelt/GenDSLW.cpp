@@ -1,5 +1,6 @@
 // The DSLW record, left to right as its layout table; each block is built
-// where its flag is written and kept until GenData appends it.
+// where its flag is written, and those that hold data (flag "J") are kept
+// until GenData appends them.
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
 #include "core/version_number.h"
 #include "core/writer.h"
@@ -48,9 +49,12 @@ void clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzD
         w.an(dd.strProdID, 7).an(dd.strModID, 8).zeros(20).blank(2);
         w.an(e.BBNRKK.empty() ? e.Empfaenger.Betriebsnummer : e.BBNRKK, 15).an(dd.strBNRSt, 15);
         w.an(e.RUECKMELDUNGEEL, 1).n(e.ABGABEGRUND, 2).flag(e.KENNZSTORNO);
-        for (std::size_t k = 0; k < kBlocks; ++k) {
-            blocks_[k].clear();
-            w.flag(kBuilders[k](blocks_[k], e));
+        blocks_.clear();
+        for (const Builder build : kBuilders) {
+            const std::size_t mark = blocks_.size();
+            const bool held = build(blocks_, e);
+            if (!held) blocks_.resize(mark);
+            w.flag(held);
         }
         w.check(219, "DSLW");
     });
@@ -60,13 +64,7 @@ std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Da
     return call("clsGenEntgelt.GenData", [&](int& line) {
         return record_then_blocks(
             line, datDate, 2048, [&](std::string& out, const Date& date) { GenDSLW(out, e, dd, date); },
-            [&](std::string& out) {
-                bool wanted[kBlocks];
-                FlagReader flags(out);
-                for (std::size_t k = 0; k < kBlocks; ++k) wanted[k] = flags.j(202 + k);
-                for (std::size_t k = 0; k < kBlocks; ++k)
-                    if (wanted[k]) out += blocks_[k];
-            });
+            [&](std::string& out) { out += blocks_; });
     });
 }
 

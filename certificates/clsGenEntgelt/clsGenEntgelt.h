@@ -1,7 +1,6 @@
 // The earnings certificate generator: DSLW followed by the blocks it
 // announces, in the order of their flags at positions 202-219.
 #pragma once
-#include <array>
 #include <string>
 
 #include "certificates/clsGenEntgelt/Entgelt.h"
@@ -20,7 +19,10 @@ public:
     static constexpr std::size_t kBlocks = 18;  // DBNA … DBID
 
 private:
-    std::array<std::string, kBlocks> blocks_;  // built during the most recent GenDSLW
+    // The blocks that hold data, in the order of their flags, as the most
+    // recent GenDSLW built them (one string: a block without data is cut
+    // back off as soon as its builder says so).
+    std::string blocks_;
 };
 
 }  // namespace tamrel
