@@ -17,7 +17,7 @@ void AppendNameBlock(std::string& out, NameView n, std::string_view marker, std:
 void AppendAddressBlock(std::string& out, const Vorgang& v, bool blank_d, bool& filled, std::string_view context) {
     routine(context, [&](int& line) {
         Writer w(out, line, filled);
-        w.lit("DBAN").an(blank_d && v.Land == "D" ? std::string_view{} : std::string_view(v.Land), 3);
+        w.lit("DBAN").an(blank_d && std::string_view(v.Land) == "D" ? std::string_view{} : std::string_view(v.Land), 3);
         w.an(v.PLZ, 10).an(v.Ort, 34).an(v.Strasse, 33).an(v.Hausnummer, 9).an(v.Adresszusatz, 40);
         w.check(133, "DBAN");
     });

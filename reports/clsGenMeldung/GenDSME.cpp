@@ -10,7 +10,8 @@ namespace {
 // the reason, then "NNN", each later rule overriding an earlier one.
 std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerfahren, std::string& dbuv) {
     constexpr std::string_view table = clsGenMeldung::kBlockTable;
-    std::size_t p = table.find(m.Meldegrund);
+    const std::string_view reason = m.Meldegrund;  // compared as a view: no call for a two-character test
+    std::size_t p = table.find(reason);
     if (p == std::string_view::npos)
         raise(kErrReason, "clsGenMeldung.GenDSME",
               "Datenbausteine konnten zum Meldegrund " + m.Meldegrund + " nicht ermittelt werden");
@@ -32,9 +33,9 @@ std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerf
         if (m.Vorgang.Bezugskennung.empty() || named) set(2, 'J');
     }
     if (!m.Vorgang.Geburtsdatum.empty()) set(3, 'J');
-    if (m.Meldegrund == "58" || enmVerfahren == vmSofort) {
+    if (reason == "58" || enmVerfahren == vmSofort) {
         if (m.Vorgang.Versicherungsnummer.empty()) set(4, 'J');
-    } else if (m.Meldegrund != "92") {
+    } else if (reason != "92") {
         if (!m.Vorgang.PLZ.empty() || !m.Vorgang.Ort.empty()) set(4, 'J');
     }
     if (m.Meldungsart != 8) {
@@ -87,7 +88,7 @@ void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzD
             w.an(m.Vorgang.Laenderschluessel, 3);
             w.an(flag_text(*this, m, enmVerfahren, dbuv_), 10);
             w.blank(1).lit("5").blank(1).flag(enmVerfahren == vmSofort).an(m.Zusatzmerkmal, 1).blank(3);
-            w.flag(m.Meldegrund == "58").blank(1).zeros(20).lit("01").an(dd.strProdID, 7).an(dd.strModID, 8);
+            w.flag(std::string_view(m.Meldegrund) == "58").blank(1).zeros(20).lit("01").an(dd.strProdID, 7).an(dd.strModID, 8);
             reference(w, dd, m.Laufnummer, 32);
             w.blank(100).lit("N").blank(199);
             w.check(559, "DSME");
