@@ -57,34 +57,32 @@ template <class Walk, class... A>
 }
 }  // namespace detail
 
+namespace detail {
 // Most values are a few plain ASCII characters that fit their field: those
-// are copied onto a padded field here, without a call.
-[[gnu::always_inline]] inline char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
+// are copied onto a field padded with `pad` (to its left end, or its right
+// end for numbers) here, without a call; the rest go to `walk`.
+template <char pad, bool right, class Walk>
+[[gnu::always_inline]] inline char* put_plain(char* d, std::string_view value, std::size_t w, bool& filled, Walk walk) {
     if (value.empty()) {  // the most common value of all
-        bytes::pad_field(d, ' ', w);
+        bytes::pad_field(d, pad, w);
         return d + w;
     }
     bool content = false;
-    if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), ' ', content)) [[unlikely]]
-        return detail::general(filled, detail::PutAnText, d, value, w);
-    bytes::pad_field(d, ' ', w);
-    bytes::copy_short(d, value.data(), value.size());
+    if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), pad, content)) [[unlikely]]
+        return general(filled, walk, d, value, w);
+    bytes::pad_field(d, pad, w);
+    bytes::copy_short(right ? d + w - value.size() : d, value.data(), value.size());
     if (content) filled = true;
     return d + w;
 }
+}  // namespace detail
+
+[[gnu::always_inline]] inline char* PutAn(char* d, std::string_view value, std::size_t w, bool& filled) {
+    return detail::put_plain<' ', false>(d, value, w, filled, detail::PutAnText);
+}
 
 [[gnu::always_inline]] inline char* PutN(char* d, std::string_view value, std::size_t w, bool& filled) {
-    if (value.empty()) {
-        bytes::pad_field(d, '0', w);
-        return d + w;
-    }
-    bool digits = false;
-    if (value.size() > w || !bytes::scan_plain(value.data(), value.size(), '0', digits)) [[unlikely]]
-        return detail::general(filled, detail::PutNGeneral, d, value, w);
-    bytes::pad_field(d, '0', w);
-    bytes::copy_short(d + w - value.size(), value.data(), value.size());
-    if (digits) filled = true;
-    return d + w;
+    return detail::put_plain<'0', true>(d, value, w, filled, detail::PutNGeneral);
 }
 
 namespace detail {

@@ -72,8 +72,6 @@ public:
     char* data() const { return begin_; }
     std::size_t size() const { return static_cast<std::size_t>(tail_ - begin_); }
     std::string_view view() const { return {begin_, size()}; }
-    // Forgets what was written.
-    void clear() { tail_ = begin_; }
 
 private:
     std::size_t capacity() const { return static_cast<std::size_t>(limit_ - begin_); }
