@@ -95,9 +95,9 @@ inline constexpr std::size_t kMaxItems = 32767;
 
 // The reader works on any JSON value through an adapter with: is_string /
 // string, is_bool / boolean, is_integer / integer(lo, hi, out), is_array /
-// each_element(f), is_object / each_member(f(key, value)) / has(key).
+// each_element(f), is_object / each_member(f(key, value)).
 // NlohmannValue adapts nlohmann-json (the call protocol); component/json_simd.h
-// adapts simdjson (the bulk path of tamrel generate).
+// and component/json_ondemand.h adapt simdjson (tamrel generate).
 struct NlohmannValue {
     const json& j;
     bool is_string() const { return j.is_string(); }
@@ -111,7 +111,6 @@ struct NlohmannValue {
         return out >= lo && out <= hi;
     }
     bool is_array() const { return j.is_array(); }
-    std::size_t size() const { return j.size(); }
     template <class F>
     void each_element(F&& f) const {
         for (const auto& e : j) f(NlohmannValue{e});
@@ -121,7 +120,6 @@ struct NlohmannValue {
     void each_member(F&& f) const {
         for (const auto& [k, v] : j.items()) f(std::string_view(k), NlohmannValue{v});
     }
-    bool has(std::string_view key) const { return j.contains(key); }
 };
 
 template <class V>
@@ -149,6 +147,19 @@ void read(const V& v, I& out, const Path& path) {
     out = static_cast<I>(x);
 }
 
+// An entry is read in its place; flags are stored as bytes, so they are read
+// into a bool first.
+template <class V, class T>
+void read_entry(const V& e, Indexed<T>& out, std::int16_t i, const Path& path) {
+    if constexpr (std::is_same_v<T, bool>) {
+        bool x = false;
+        read(e, x, path);
+        out.set(i, x);
+    } else {
+        read(e, out.slot(i), path);
+    }
+}
+
 template <class V, class T>
 void read(const V& v, Indexed<T>& out, const Path& path) {
     out.clear();
@@ -156,9 +167,7 @@ void read(const V& v, Indexed<T>& out, const Path& path) {
         std::int32_t i = 1;
         v.each_element([&](const V& e) {
             if (static_cast<std::size_t>(i) > kMaxItems) fail(path, "more than 32767 entries");
-            T x{};
-            read(e, x, Path{&path, {}, static_cast<std::size_t>(i)});
-            out.set(static_cast<std::int16_t>(i), std::move(x));
+            read_entry(e, out, static_cast<std::int16_t>(i), Path{&path, {}, static_cast<std::size_t>(i)});
             ++i;
         });
         return;
@@ -172,9 +181,7 @@ void read(const V& v, Indexed<T>& out, const Path& path) {
         ok = ok && k != "-";
         if (ok) idx = std::stoi(std::string(k));
         if (!ok || idx < -32768 || idx > 32767) fail(here, "expected a 16-bit decimal index");
-        T x{};
-        read(e, x, here);
-        out.set(static_cast<std::int16_t>(idx), std::move(x));
+        read_entry(e, out, static_cast<std::int16_t>(idx), here);
     });
 }
 
@@ -184,11 +191,10 @@ void read(const V& v, T& out, const Path& path);
 template <class V, class T>
 void read(const V& v, std::vector<T>& out, const Path& path) {
     if (!v.is_array()) fail(path, "expected an array");
-    if (v.size() > kMaxItems) fail(path, "more than 32767 items");
     out.clear();
-    out.reserve(v.size());
     std::size_t i = 1;
     v.each_element([&](const V& e) {
+        if (i > kMaxItems) fail(path, "more than 32767 items");
         T x{};
         read(e, x, Path{&path, {}, i++});
         out.push_back(std::move(x));
@@ -204,10 +210,24 @@ struct Entry {
     void (*read)(const V&, O&, const Path&);
 };
 
+// The first and last eight bytes (four, or three picked, of shorter names)
+// and the length, mixed by one multiplication; a property name differs from
+// its siblings there.
 inline std::size_t name_hash(std::string_view s) {
-    std::size_t h = 1469598103934665603ULL;
-    for (char c : s) h = (h ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
-    return h;
+    const std::size_t n = s.size();
+    const char* p = s.data();
+    std::uint64_t a = 0, b = 0;
+    if (n >= 8) {
+        a = bytes::load8(p);
+        b = bytes::load8(p + n - 8);
+    } else if (n >= 4) {
+        a = bytes::load4(p);
+        b = bytes::load4(p + n - 4);
+    } else if (n > 0) {
+        a = static_cast<unsigned char>(p[0]) | static_cast<unsigned char>(p[n / 2]) << 8 |
+            static_cast<std::uint64_t>(static_cast<unsigned char>(p[n - 1])) << 16;
+    }
+    return static_cast<std::size_t>(((a ^ ((b << 29) | (b >> 35)) ^ n) * 0x9E3779B97F4A7C15ULL) >> 32);
 }
 
 template <class O, class V>

@@ -29,10 +29,6 @@ struct SimdValue {
         return out >= lo && out <= hi;
     }
     bool is_array() const { return e.type() == type::ARRAY; }
-    std::size_t size() const {
-        simdjson::dom::array a = e.get_array().value_unsafe();
-        return a.size();
-    }
     template <class F>
     void each_element(F&& f) const {
         simdjson::dom::array a = e.get_array().value_unsafe();
@@ -43,10 +39,6 @@ struct SimdValue {
     void each_member(F&& f) const {
         simdjson::dom::object o = e.get_object().value_unsafe();
         for (simdjson::dom::key_value_pair kv : o) f(kv.key, SimdValue{kv.value});
-    }
-    bool has(std::string_view key) const {
-        simdjson::dom::object o = e.get_object().value_unsafe();
-        return o.at_key(key).error() == simdjson::SUCCESS;
     }
 };
 

@@ -11,6 +11,7 @@
 #include "component/bindings/certificates.h"
 #include "component/bindings/payments.h"
 #include "component/bindings/queries.h"
+#include "component/json_scan.h"
 #include "component/json_simd.h"
 #include "protocol/clsProtoEntry.h"
 #include "queries/clsGenAbfrStammdatenUV/clsGenAbfrStammdatenUV.h"
@@ -41,7 +42,19 @@ public:
         : settings_(s), path_{&kArgs, objParam}, gen_(*s.host), proto_entry_(*s.host), data_(std::move(data)),
           proto_(proto) {}
 
+    // The scanner first; a report it cannot vouch for (an error as a rule)
+    // is read again through simdjson's DOM, which gives the result or the
+    // error.
     void read_text(std::string_view text) override {
+        try {
+            read_scanned(text);
+            return;
+        } catch (const json_binding::ScanMiss&) {
+        } catch (const json_binding::RequestError&) {
+        }
+        read_text_reference(text);
+    }
+    void read_text_reference(std::string_view text) override {
         simdjson::dom::element doc;
         if (auto error = parser_.parse(text.data(), text.size()).get(doc))
             throw json_binding::RequestError(std::string("not valid JSON: ") + simdjson::error_message(error));
@@ -54,6 +67,16 @@ public:
     }
 
 private:
+    void read_scanned(std::string_view text) {
+        if (!simdjson::validate_utf8(text.data(), text.size())) throw json_binding::ScanMiss{};
+        padded_.assign(text);
+        padded_.append(json_binding::kScanPadding, '\0');
+        const char* at = padded_.data();
+        const json_binding::ScanValue root{&at};
+        read_value(root);
+        if (root.peek() != '\0' || at != padded_.data() + text.size()) throw json_binding::ScanMiss{};
+    }
+
     template <class V>
     void read_value(const V& v) {
         static const Obj empty{};
@@ -63,6 +86,7 @@ private:
 
     RunnerSettings settings_;
     Path path_;
+    std::string padded_;
     simdjson::dom::parser parser_;
     Gen gen_;
     clsProtoEntry proto_entry_;

@@ -23,6 +23,9 @@ public:
     // document. Throws json_binding::RequestError naming the property.
     virtual void read_text(std::string_view json_text) = 0;
     virtual void read(const nlohmann::json& report) = 0;
+    // Reads JSON text through simdjson's DOM alone: the reference that
+    // read_text's fast scanner is held to (by the tests and the fuzzer).
+    virtual void read_text_reference(std::string_view json_text) = 0;
     // The record of the report last read, with its blocks. Throws Error.
     virtual std::string data() = 0;
     // Its protocol line. Throws Error.

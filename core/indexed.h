@@ -37,19 +37,21 @@ public:
     View view() const { return {values_.data(), static_cast<std::uint32_t>(values_.size()), first_, &empty_}; }
 
     Read operator()(std::int16_t i) const { return view()(i); }
-    void set(std::int16_t i, T v) {
+    void set(std::int16_t i, T v) { slot(i) = Stored(std::move(v)); }
+    // The place of entry i, made (empty) when it is not there yet.
+    Stored& slot(std::int16_t i) {
         if (values_.empty()) {
             first_ = i;
-            values_.emplace_back(Stored(std::move(v)));
-            return;
+            return values_.emplace_back();
         }
         if (i < first_) {
             values_.insert(values_.begin(), static_cast<std::size_t>(first_ - i), Stored{});
             first_ = i;
         }
         const auto k = static_cast<std::size_t>(std::int32_t{i} - first_);
-        if (k >= values_.size()) values_.resize(k + 1);
-        values_[k] = Stored(std::move(v));
+        if (k == values_.size()) return values_.emplace_back();
+        if (k > values_.size()) values_.resize(k + 1);
+        return values_[k];
     }
     void clear() { values_.clear(); }
     bool empty() const { return values_.empty(); }

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Writes the seed corpora of the fuzzers from the example jobs: one request
 per method of every class for the call-protocol fuzzer, the jobs themselves
-for the generate fuzzer. Run from the repository root; the output is
+for the generate fuzzer, and each report as a line for the report-line
+fuzzer. Run from the repository root; the output is
 committed under tests/fuzz/corpus/."""
 import json, pathlib
 
@@ -11,6 +12,12 @@ PROTO = {"clsGenMeldung": "CreateProtoMeld", "clsGenBeitrNachw": "CreateProtoBei
          "clsGenArbeitsBesch": "CreateProtoArbeitsBesch", "clsGenEntgelt": "CreateProtoEntgelt",
          "clsGenAbfrVers": "CreateProtoAbfrVers", "clsGenAbfrStammdatenUV": "CreateProtoAbfrStammdatenUV",
          "clsGenLohnnachweis": "CreateProtoLohnnachweis"}
+
+
+# The report-line fuzzer's classes, chosen by an input's first byte.
+LINE_CLASSES = ["clsGenMeldung", "clsGenBeitrNachw", "clsGenBeitrErh", "clsGenErst", "clsGenZahl",
+                "clsGenBetrieb", "clsGenArbeitsBesch", "clsGenEntgelt", "clsGenAbfrVers",
+                "clsGenAbfrStammdatenUV", "clsGenLohnnachweis", "clsGenAsyl"]
 
 
 def obj_param(cls):
@@ -51,7 +58,8 @@ def requests(job):
 def main():
     out_call = pathlib.Path("tests/fuzz/corpus/call_line")
     out_job = pathlib.Path("tests/fuzz/corpus/generate_job")
-    for d in (out_call, out_job):
+    out_line = pathlib.Path("tests/fuzz/corpus/report_line")
+    for d in (out_call, out_job, out_line):
         d.mkdir(parents=True, exist_ok=True)
     for path in sorted(pathlib.Path("examples").glob("*.json")):
         job = json.loads(path.read_text(encoding="utf-8"))
@@ -62,6 +70,10 @@ def main():
         for i, r in enumerate(requests(job)):
             name = f"{path.stem}-{i:02d}-{r['method']}.json"
             (out_call / name).write_text(json.dumps(r, ensure_ascii=False), encoding="utf-8")
+        choice = chr(ord("0") + LINE_CLASSES.index(job["class"]))  # "0" is 48, 48 % 12 == 0
+        for i, report in enumerate(job["reports"]):
+            text = json.dumps(report, ensure_ascii=False, separators=(",", ":"))
+            (out_line / f"{path.stem}-{i:02d}.json").write_text(choice + text, encoding="utf-8")
 
 
 main()

@@ -1,0 +1,135 @@
+// The scanning adapter of the JSON binding (see json_binding.h): the fast
+// path of tamrel generate. A report line is almost always plain JSON: an
+// object of objects, arrays, strings without escapes, small integers and
+// booleans, without blanks. The scanner reads exactly that, straight from
+// the line into the data object, a word at a time for strings.
+//
+// It is a fast path only: whatever else it meets (an escape, null, a
+// fraction, a syntax error, a property the binding refuses) it gives up on
+// with ScanMiss, and the caller reads the report again through the DOM
+// adapter (json_simd.h), which gives the result or the error. So the
+// scanner never words an error of its own, and a report reads the same,
+// result or error, whichever path took it.
+#pragma once
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "core/short_bytes.h"
+
+namespace tamrel::json_binding {
+
+// The scanner cannot vouch for this report: read it the other way.
+struct ScanMiss {};
+
+// Zero bytes the text must be followed by: no token accepts one, so the
+// scanner stops at them without checking for the end, and a word read from
+// a string's last bytes stays inside the buffer.
+inline constexpr std::size_t kScanPadding = 8;
+
+struct ScanValue {
+    const char** at;  // the scanner's position, shared by the values of one line
+
+    [[noreturn]] static void miss() { throw ScanMiss{}; }
+
+    static bool blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+    char peek() const {
+        while (static_cast<unsigned char>(**at) <= ' ' && blank(**at)) ++*at;
+        return **at;
+    }
+    void expect(char c) const {
+        if (peek() != c) miss();
+        ++*at;
+    }
+
+    // A string's text up to its closing quote; at the opening quote. The
+    // first quote, backslash or control character of each word is found
+    // with the zero-byte test, which is exact for the lowest byte it flags.
+    std::string_view token() const {
+        const char* s = ++*at;
+        const char* p = s;
+        constexpr std::uint64_t quotes = bytes::kOnes * '"', backslashes = bytes::kOnes * '\\';
+        const auto zero = [](std::uint64_t v) { return (v - bytes::kOnes) & ~v & bytes::kHigh; };
+        for (;; p += 8) {
+            const std::uint64_t x = bytes::load8(p);
+            const std::uint64_t stop = zero(x ^ quotes) | zero(x ^ backslashes) | ((x - 0x20 * bytes::kOnes) & ~x & bytes::kHigh);
+            if (stop) {
+                p += std::countr_zero(stop) >> 3;
+                break;
+            }
+        }
+        if (*p != '"') miss();  // an escape or a control character
+        *at = p + 1;
+        return {s, static_cast<std::size_t>(p - s)};
+    }
+
+    bool is_string() const { return peek() == '"'; }
+    std::string_view string() const { return token(); }
+    bool is_bool() const { return peek() == 't' || peek() == 'f'; }
+    bool boolean() const {
+        if (std::memcmp(*at, "true", 4) == 0) {
+            *at += 4;
+            return true;
+        }
+        if (std::memcmp(*at, "false", 5) != 0) miss();
+        *at += 5;
+        return false;
+    }
+    bool is_integer() const {
+        const char c = peek();
+        return c == '-' || (c >= '0' && c <= '9');
+    }
+    // Only "-?(0|[1-9][0-9]*)" of up to 18 digits; a fraction or exponent
+    // after it is refused by the container, which expects a comma.
+    bool integer(std::int64_t lo, std::int64_t hi, std::int64_t& out) const {
+        const char* p = *at;
+        const bool negative = *p == '-';
+        p += negative;
+        const char* digits = p;
+        std::int64_t x = 0;
+        while (*p >= '0' && *p <= '9') x = x * 10 + (*p++ - '0');
+        const std::size_t n = static_cast<std::size_t>(p - digits);
+        if (n == 0 || n > 18 || (*digits == '0' && (n > 1 || negative))) miss();
+        *at = p;
+        out = negative ? -x : x;
+        return out >= lo && out <= hi;
+    }
+    bool is_array() const { return peek() == '['; }
+    template <class F>
+    void each_element(F&& f) const {
+        ++*at;
+        if (peek() == ']') {
+            ++*at;
+            return;
+        }
+        for (;;) {
+            f(ScanValue{at});
+            const char c = peek();
+            ++*at;
+            if (c == ']') return;
+            if (c != ',') miss();
+        }
+    }
+    bool is_object() const { return peek() == '{'; }
+    template <class F>
+    void each_member(F&& f) const {
+        ++*at;
+        if (peek() == '}') {
+            ++*at;
+            return;
+        }
+        for (;;) {
+            if (peek() != '"') miss();
+            const std::string_view key = token();
+            expect(':');
+            f(key, ScanValue{at});
+            const char c = peek();
+            ++*at;
+            if (c == '}') return;
+            if (c != ',') miss();
+        }
+    }
+};
+
+}  // namespace tamrel::json_binding

@@ -1,0 +1,65 @@
+// One report line of tamrel generate, arbitrary bytes: the fast scanner of
+// the report runner must make of it exactly what simdjson's DOM makes of
+// it, the same record and protocol line or the same error, whatever the
+// runner read before.
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+#include "component/call_protocol.h"
+#include "component/json_binding.h"
+#include "component/report_runner.h"
+#include "tests/fuzz/fuzz_invariants.h"
+
+namespace {
+
+using namespace tamrel;
+
+// The first byte of an input chooses the class, in this order.
+constexpr const char* kClasses[] = {"clsGenMeldung",   "clsGenBeitrNachw",       "clsGenBeitrErh",
+                                    "clsGenErst",      "clsGenZahl",             "clsGenBetrieb",
+                                    "clsGenArbeitsBesch", "clsGenEntgelt",       "clsGenAbfrVers",
+                                    "clsGenAbfrStammdatenUV", "clsGenLohnnachweis", "clsGenAsyl"};
+constexpr std::size_t kClassCount = std::size(kClasses);
+
+std::string outcome(ReportRunner& runner, const std::function<void()>& read) {
+    try {
+        read();
+        return runner.data() + "|" + runner.protocol(false, {});
+    } catch (const json_binding::RequestError& e) {
+        return std::string("request error: ") + e.what();
+    } catch (const Error& e) {
+        FUZZ_REQUIRE(is_library_error(e.number()));
+        return "error " + std::to_string(e.number()) + ": " + e.description();
+    }
+}
+
+struct Runners {
+    nlohmann::json now = "2024-03-01T10:11:12";
+    CallSession session{&now, nullptr};
+    std::unique_ptr<ReportRunner> runners[kClassCount];
+    Runners() {
+        const RunnerSettings settings{&session.host(), {}, 0, {}};
+        for (std::size_t i = 0; i < kClassCount; ++i) runners[i] = make_runner(kClasses[i], settings);
+    }
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static Runners all;
+    if (size == 0) return 0;
+    ReportRunner& runner = *all.runners[data[0] % kClassCount];
+    const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
+    const std::string reference = outcome(runner, [&] { runner.read_text_reference(text); });
+    const std::string scanned = outcome(runner, [&] { runner.read_text(text); });
+    if (scanned != reference) {
+        std::fprintf(stderr, "scanned:   %s\nreference: %s\n", scanned.c_str(), reference.c_str());
+        FUZZ_REQUIRE(scanned == reference);
+    }
+    return 0;
+}
