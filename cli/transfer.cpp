@@ -39,16 +39,30 @@ void check_markup_text(const std::string& line, const std::string& param, std::s
     check_markup(parsed, param, index);
 }
 
+// Where a step runs ("report 12", "report 12 protocol", "DSKO"), put into
+// words only when the step fails.
+struct Where {
+    std::string_view name;
+    std::size_t report = 0;  // the report's number, 0 for the frame
+    bool protocol = false;
+    std::string text() const {
+        std::string t(name);
+        if (report) t += " " + std::to_string(report);
+        if (protocol) t += " protocol";
+        return t;
+    }
+};
+
 // Runs a step; a request error or a library error becomes a ReportFailure
-// that names `what`.
+// that names where it happened.
 template <class F>
-auto run(const std::string& what, F&& step) -> decltype(step()) {
+auto run(const Where& where, F&& step) -> decltype(step()) {
     try {
         return step();
     } catch (const json_binding::RequestError& e) {
-        throw ReportFailure(what + ": " + e.what());
+        throw ReportFailure(where.text() + ": " + e.what());
     } catch (const tamrel::Error& e) {
-        throw ReportFailure(what + ": error " + std::to_string(e.number()) + ", " + e.source() + ": " +
+        throw ReportFailure(where.text() + ": error " + std::to_string(e.number()) + ", " + e.source() + ": " +
                             e.description());
     }
 }
@@ -62,8 +76,8 @@ public:
 
     // Calls a method of the job's class (or of clsProtoEntry for the
     // protocol lines) with `args`.
-    std::string call_method(const char* method, const json& args, const std::string& what) {
-        return run(what, [&] {
+    std::string call_method(const char* method, const json& args, const Where& where) {
+        return run(where, [&] {
             const bool protocol = std::string_view(method).starts_with("CreateProto");
             const Method& m = CallSession::method(protocol ? "clsProtoEntry" : job_.info->cls, method);
             return session_.invoke(m, args);
@@ -97,7 +111,7 @@ public:
     // The runner that turns each report into its record: the record
     // identification, procedure and date of the job, read once.
     std::unique_ptr<ReportRunner> runner() const {
-        return run("udtDatensatzData", [&] {
+        return run({"udtDatensatzData"}, [&] {
             json a = {{"udtDatensatzData", job_.datensatz}, {"enmVerfahren", job_.enmVerfahren}};
             if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
             Invocation inv(a, session_.host());
@@ -109,15 +123,19 @@ public:
         });
     }
 
-    // The record text in the file's encoding, with its line ending.
-    std::string encoded_line(std::string_view record, const std::string& what) const {
-        std::string out;
-        out.reserve(record.size() + 2);
+    // The record text in the file's encoding, with its line ending, into
+    // `out` (a buffer kept from line to line).
+    void encode_line(std::string& out, std::string_view record, const Where& where) const {
+        out.clear();
         if (const EncodeFailure f = encode(out, record, settings_.encoding))
-            throw ReportFailure(what + ": the character at position " + std::to_string(f.position) +
+            throw ReportFailure(where.text() + ": the character at position " + std::to_string(f.position) +
                                 (f.control ? " is a control character, which a transfer file cannot carry"
                                            : std::string(" cannot be written in ") + encoding_name(settings_.encoding)));
         out += settings_.crlf ? "\r\n" : "\n";
+    }
+    std::string encoded_line(std::string_view record, const Where& where) const {
+        std::string out;
+        encode_line(out, record, where);
         return out;
     }
 
@@ -137,31 +155,31 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     if (xml) {
         check_markup(job.frame, "frame", 0);
         out.write(gen.encoded_line(
-            std::string("<?xml version=\"1.0\" encoding=\"") + encoding_name(settings.encoding) + "\"?>", "header"));
-        out.write(gen.encoded_line("<kotkv xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">", "header"));
+            std::string("<?xml version=\"1.0\" encoding=\"") + encoding_name(settings.encoding) + "\"?>", {"header"}));
+        out.write(gen.encoded_line("<kotkv xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">", {"header"}));
     }
-    out.write(gen.encoded_line(gen.call_method("GenVOSZ", gen.vosz_args(), "header VOSZ"), "header VOSZ"));
-    if (!xml) out.write(gen.encoded_line(gen.call_method("GenDSKO", gen.dsko_args(), "DSKO"), "DSKO"));
+    const Where vosz{"header VOSZ"}, dsko{"DSKO"}, ncsz{"trailer NCSZ"};
+    out.write(gen.encoded_line(gen.call_method("GenVOSZ", gen.vosz_args(), vosz), vosz));
+    if (!xml) out.write(gen.encoded_line(gen.call_method("GenDSKO", gen.dsko_args(), dsko), dsko));
 
     std::unique_ptr<ReportRunner> runner = gen.runner();
     const std::string param = job.info->objParam;
     const json* element = nullptr;
-    std::string text;
+    std::string text, line, proto_line;
     std::size_t length = 0;
     for (std::size_t index = 1;; ++index) {
-        const std::string what = "report " + std::to_string(index);
+        const Where report{"report", index}, report_protocol{"report", index, true};
         bool read = false;  // whether the report could be read into its object
         try {
             if (!source.next(element, text, length)) break;
-            if (length > kMaxLineBytes) throw ReportFailure(what + ": " + line_too_long_text(length));
+            if (length > kMaxLineBytes) throw ReportFailure(report.text() + ": " + line_too_long_text(length));
             if (xml) element ? check_markup(*element, param, index) : check_markup_text(text, param, index);
-            run(what, [&] { element ? runner->read(*element) : runner->read_text(text); });
+            run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
-            const std::string line = gen.encoded_line(run(what, [&] { return runner->data(); }), what);
-            std::string proto_line;
+            gen.encode_line(line, run(report, [&] { return runner->data(); }), report);
             if (proto)
-                proto_line = gen.encoded_line(run(what + " protocol", [&] { return runner->protocol(false, {}); }),
-                                              what + " protocol");
+                gen.encode_line(proto_line, run(report_protocol, [&] { return runner->protocol(false, {}); }),
+                                report_protocol);
             out.write(line);
             if (proto) proto->write(proto_line);
             ++counts.written;
@@ -171,14 +189,14 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             if (settings.leftOut) settings.leftOut(f);
             // A report that cannot even be read has no protocol line of its own.
             if (proto && read)
-                proto->write(gen.encoded_line(run(what + " protocol", [&] { return runner->protocol(true, f.what()); }),
-                                              what + " protocol"));
+                proto->write(gen.encoded_line(
+                    run(report_protocol, [&] { return runner->protocol(true, f.what()); }), report_protocol));
         }
         if (settings.progress && index % 100000 == 0) settings.progress(index);
     }
     const std::size_t count = counts.written + (xml ? 0 : 1);
-    out.write(gen.encoded_line(gen.call_method("GenNCSZ", gen.ncsz_args(count), "trailer NCSZ"), "trailer NCSZ"));
-    if (xml) out.write(gen.encoded_line("</kotkv>", "trailer"));
+    out.write(gen.encoded_line(gen.call_method("GenNCSZ", gen.ncsz_args(count), ncsz), ncsz));
+    if (xml) out.write(gen.encoded_line("</kotkv>", {"trailer"}));
     return counts;
 }
 

@@ -44,13 +44,17 @@ public:
 
     // The scanner first; a report it cannot vouch for (an error as a rule)
     // is read again through simdjson's DOM, which gives the result or the
-    // error.
+    // error. Text with escapes (JSON written with every non-ASCII character
+    // escaped, say) goes to the DOM straight away, without the cost of a
+    // scan given up.
     void read_text(std::string_view text) override {
-        try {
-            read_scanned(text);
-            return;
-        } catch (const json_binding::ScanMiss&) {
-        } catch (const json_binding::RequestError&) {
+        if (text.find('\\') == std::string_view::npos && simdjson::validate_utf8(text.data(), text.size())) {
+            try {
+                read_scanned(text);
+                return;
+            } catch (const json_binding::ScanMiss&) {
+            } catch (const json_binding::RequestError&) {
+            }
         }
         read_text_reference(text);
     }
@@ -67,8 +71,8 @@ public:
     }
 
 private:
+    // Text of valid UTF-8 without escapes.
     void read_scanned(std::string_view text) {
-        if (!simdjson::validate_utf8(text.data(), text.size())) throw json_binding::ScanMiss{};
         padded_.assign(text);
         padded_.append(json_binding::kScanPadding, '\0');
         const char* at = padded_.data();
