@@ -88,9 +88,12 @@ struct ScanValue {
         p += negative;
         const char* digits = p;
         std::int64_t x = 0;
-        while (*p >= '0' && *p <= '9') x = x * 10 + (*p++ - '0');
+        for (; *p >= '0' && *p <= '9'; ++p) {
+            if (p - digits == 18) miss();  // before x could overflow
+            x = x * 10 + (*p - '0');
+        }
         const std::size_t n = static_cast<std::size_t>(p - digits);
-        if (n == 0 || n > 18 || (*digits == '0' && (n > 1 || negative))) miss();
+        if (n == 0 || (*digits == '0' && (n > 1 || negative))) miss();
         *at = p;
         out = negative ? -x : x;
         return out >= lo && out <= hi;
