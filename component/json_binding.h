@@ -96,8 +96,9 @@ inline constexpr std::size_t kMaxItems = 32767;
 // The reader works on any JSON value through an adapter with: is_string /
 // string, is_bool / boolean, is_integer / integer(lo, hi, out), is_array /
 // each_element(f), is_object / each_member(f(key, value)).
-// NlohmannValue adapts nlohmann-json (the call protocol); component/json_simd.h
-// and component/json_ondemand.h adapt simdjson (tamrel generate).
+// NlohmannValue adapts nlohmann-json (the call protocol); component/json_scan.h
+// (plain JSON) and component/json_simd.h (simdjson's DOM, for everything
+// else) serve tamrel generate.
 struct NlohmannValue {
     const json& j;
     bool is_string() const { return j.is_string(); }
@@ -147,8 +148,9 @@ void read(const V& v, I& out, const Path& path) {
     out = static_cast<I>(x);
 }
 
-// An entry is read in its place; flags are stored as bytes, so they are read
-// into a bool first.
+// An entry is read in its place (an index given twice is read again: texts
+// are emptied first, numbers overwritten); flags are stored as bytes, so
+// they are read into a bool first.
 template <class V, class T>
 void read_entry(const V& e, Indexed<T>& out, std::int16_t i, const Path& path) {
     if constexpr (std::is_same_v<T, bool>) {

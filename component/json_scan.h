@@ -53,7 +53,8 @@ struct ScanValue {
         const auto zero = [](std::uint64_t v) { return (v - bytes::kOnes) & ~v & bytes::kHigh; };
         for (;; p += 8) {
             const std::uint64_t x = bytes::load8(p);
-            const std::uint64_t stop = zero(x ^ quotes) | zero(x ^ backslashes) | ((x - 0x20 * bytes::kOnes) & ~x & bytes::kHigh);
+            const std::uint64_t controls = (x - 0x20 * bytes::kOnes) & ~x & bytes::kHigh;
+            const std::uint64_t stop = zero(x ^ quotes) | zero(x ^ backslashes) | controls;
             if (stop) {
                 p += std::countr_zero(stop) >> 3;
                 break;

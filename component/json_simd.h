@@ -1,6 +1,8 @@
-// The simdjson adapter of the JSON binding (see json_binding.h): the bulk
-// path reads each report with simdjson's DOM parser, which validates the
-// text (UTF-8 included) and leaves the values readable in any order.
+// The simdjson adapter of the JSON binding (see json_binding.h): tamrel
+// generate reads a report with simdjson's DOM parser, which validates the
+// text (UTF-8 included) and leaves the values readable in any order,
+// whenever the scanner of json_scan.h gives up on it; it is the reference
+// the scanner is held to.
 #pragma once
 #include <cstdint>
 #include <string_view>

@@ -122,8 +122,8 @@ TEST(ReportRunner, ScannerAgreesWithTheReferenceReaderOnEveryValueForm) {
     auto runner = make_runner("clsGenMeldung", settings);
     const std::string base = R"({"Meldegrund":"10","Vorgang":{"Familienname":"Müller","PLZ":"12345"},"Laufnummer":)";
     const char* laufnummer[] = {"7}", "-7}", "0}", "-0}", "07}", "1.0}", "1e2}", "2147483647}", "2147483648}",
-                                "-2147483648}", "123456789012345678}", "1234567890123456789}", "99999999999999999999999}", "null}", "\"7\"}",
-                                "7 }", "7,}", "}", "7", "7}}", "7} ", "true}", "- 7}", "+7}"};
+                                "-2147483648}", "123456789012345678}", "1234567890123456789}",
+                                "99999999999999999999999}", "null}", "\"7\"}", "7 }", "7,}", "}", "7", "7}}", "7} ", "true}", "- 7}", "+7}"};
     const char* whole[] = {
         R"({})", R"([])", R"("x")", "", " ", R"({"Storno":true,"Storno":false})", R"({"Storno":tru})",
         R"({"Storno":truex})", R"({"Storno":false})", R"({"KsZeileA":["A","B",""]})", R"({"KsZeileA":[]})",
