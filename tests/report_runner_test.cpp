@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
 #include <fstream>
 #include <vector>
 
@@ -16,12 +15,30 @@
 #include "core/error.h"
 #include "core/indexed.h"
 #include "tests/example_jobs.h"
+#include "tests/runner_outcome.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
 using namespace tamrel;
 
 namespace {
+
+using tamrel::testing::outcome;
+
+// The runner of an example job's class, with the job's record
+// identification, procedure and date.
+std::unique_ptr<ReportRunner> example_runner(const tamrel::testing::ExampleJob& e, CallSession& session) {
+    const json& job = e.job;
+    json settings_args = {{"udtDatensatzData", job["udtDatensatzData"]},
+                          {"enmVerfahren", job.value("enmVerfahren", json(0))},
+                          {"datDate", job["datDate"]}};
+    Invocation inv(settings_args, session.host());
+    RunnerSettings settings{&session.host(), inv.object<DatensatzData>("udtDatensatzData"),
+                            e.info->frames == cli::ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
+                                                                       : inv.verf("enmVerfahren"),
+                            inv.date("datDate")};
+    return make_runner(e.info->cls, settings);
+}
 
 // The runner (used by tamrel generate) and the call protocol must give the
 // very same record and protocol line for every report of every example job,
@@ -32,15 +49,7 @@ TEST(ReportRunner, AgreesWithTheCallProtocolOnEveryExample) {
         const json& job = e.job;
         ASSERT_NE(e.info, nullptr) << e.path;
         CallSession session(&job["now"], nullptr);
-        json settings_args = {{"udtDatensatzData", job["udtDatensatzData"]},
-                              {"enmVerfahren", job.value("enmVerfahren", json(0))},
-                              {"datDate", job["datDate"]}};
-        Invocation inv(settings_args, session.host());
-        RunnerSettings settings{&session.host(), inv.object<DatensatzData>("udtDatensatzData"),
-                                e.info->frames == cli::ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
-                                                                           : inv.verf("enmVerfahren"),
-                                inv.date("datDate")};
-        auto runner = make_runner(e.info->cls, settings);
+        auto runner = example_runner(e, session);
         ASSERT_TRUE(runner) << e.info->cls;
         std::vector<json> reports(job["reports"].begin(), job["reports"].end());
         const std::vector<json> backward(reports.rbegin(), reports.rend());
@@ -61,32 +70,6 @@ TEST(ReportRunner, AgreesWithTheCallProtocolOnEveryExample) {
         }
     }
     EXPECT_GE(checked, 40);
-}
-
-// What a runner makes of the report it read: its record and protocol line,
-// or the error that stopped it.
-std::string outcome(ReportRunner& runner, const std::function<void()>& read) {
-    try {
-        read();
-        return runner.data() + "|" + runner.protocol(false, {});
-    } catch (const json_binding::RequestError& e) {
-        return std::string("request error: ") + e.what();
-    } catch (const tamrel::Error& e) {
-        return "error " + std::to_string(e.number()) + ": " + e.description();
-    }
-}
-
-std::unique_ptr<ReportRunner> example_runner(const tamrel::testing::ExampleJob& e, CallSession& session) {
-    const json& job = e.job;
-    json settings_args = {{"udtDatensatzData", job["udtDatensatzData"]},
-                          {"enmVerfahren", job.value("enmVerfahren", json(0))},
-                          {"datDate", job["datDate"]}};
-    Invocation inv(settings_args, session.host());
-    RunnerSettings settings{&session.host(), inv.object<DatensatzData>("udtDatensatzData"),
-                            e.info->frames == cli::ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
-                                                                       : inv.verf("enmVerfahren"),
-                            inv.date("datDate")};
-    return make_runner(e.info->cls, settings);
 }
 
 // The fast scanner of read_text must read every text exactly as simdjson's

@@ -3,7 +3,6 @@
 // it, the same record and protocol line or the same error, whatever the
 // runner read before.
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,9 +10,9 @@
 #include <nlohmann/json.hpp>
 
 #include "component/call_protocol.h"
-#include "component/json_binding.h"
 #include "component/report_runner.h"
 #include "tests/fuzz/fuzz_invariants.h"
+#include "tests/runner_outcome.h"
 
 namespace {
 
@@ -25,18 +24,6 @@ constexpr const char* kClasses[] = {"clsGenMeldung",   "clsGenBeitrNachw",      
                                     "clsGenArbeitsBesch", "clsGenEntgelt",       "clsGenAbfrVers",
                                     "clsGenAbfrStammdatenUV", "clsGenLohnnachweis", "clsGenAsyl"};
 constexpr std::size_t kClassCount = std::size(kClasses);
-
-std::string outcome(ReportRunner& runner, const std::function<void()>& read) {
-    try {
-        read();
-        return runner.data() + "|" + runner.protocol(false, {});
-    } catch (const json_binding::RequestError& e) {
-        return std::string("request error: ") + e.what();
-    } catch (const Error& e) {
-        FUZZ_REQUIRE(is_library_error(e.number()));
-        return "error " + std::to_string(e.number()) + ": " + e.description();
-    }
-}
 
 struct Runners {
     nlohmann::json now = "2024-03-01T10:11:12";
@@ -55,8 +42,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) return 0;
     ReportRunner& runner = *all.runners[data[0] % kClassCount];
     const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
-    const std::string reference = outcome(runner, [&] { runner.read_text_reference(text); });
-    const std::string scanned = outcome(runner, [&] { runner.read_text(text); });
+    const auto library_error = [](const Error& e) { FUZZ_REQUIRE(is_library_error(e.number())); };
+    const std::string reference = testing::outcome(runner, [&] { runner.read_text_reference(text); }, library_error);
+    const std::string scanned = testing::outcome(runner, [&] { runner.read_text(text); });
     if (scanned != reference) {
         std::fprintf(stderr, "scanned:   %s\nreference: %s\n", scanned.c_str(), reference.c_str());
         FUZZ_REQUIRE(scanned == reference);
