@@ -1,7 +1,7 @@
 // The scanning adapter of the JSON binding (see json_binding.h): the fast
 // path of tamrel generate. A report line is almost always plain JSON: an
 // object of objects, arrays, strings without escapes, small integers and
-// booleans, without blanks. The scanner reads exactly that, straight from
+// booleans. The scanner reads exactly that, straight from
 // the line into the data object, a word at a time for strings.
 //
 // It is a fast path only: whatever else it meets (an escape, null, a
@@ -67,7 +67,10 @@ struct ScanValue {
 
     bool is_string() const { return peek() == '"'; }
     std::string_view string() const { return token(); }
-    bool is_bool() const { return peek() == 't' || peek() == 'f'; }
+    bool is_bool() const {
+        const char c = peek();
+        return c == 't' || c == 'f';
+    }
     bool boolean() const {
         if (std::memcmp(*at, "true", 4) == 0) {
             *at += 4;
@@ -102,35 +105,33 @@ struct ScanValue {
     bool is_array() const { return peek() == '['; }
     template <class F>
     void each_element(F&& f) const {
-        ++*at;
-        if (peek() == ']') {
-            ++*at;
-            return;
-        }
-        for (;;) {
-            f(ScanValue{at});
-            const char c = peek();
-            ++*at;
-            if (c == ']') return;
-            if (c != ',') miss();
-        }
+        items(']', [&] { f(ScanValue{at}); });
     }
     bool is_object() const { return peek() == '{'; }
     template <class F>
     void each_member(F&& f) const {
-        ++*at;
-        if (peek() == '}') {
-            ++*at;
-            return;
-        }
-        for (;;) {
+        items('}', [&] {
             if (peek() != '"') miss();
             const std::string_view key = token();
             expect(':');
             f(key, ScanValue{at});
+        });
+    }
+
+    // The items of the array or object at the cursor, up to `close`, each
+    // read by `item` and followed by a comma or the end.
+    template <class F>
+    void items(char close, F&& item) const {
+        ++*at;
+        if (peek() == close) {
+            ++*at;
+            return;
+        }
+        for (;;) {
+            item();
             const char c = peek();
             ++*at;
-            if (c == '}') return;
+            if (c == close) return;
             if (c != ',') miss();
         }
     }
