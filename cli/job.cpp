@@ -86,6 +86,8 @@ Job read_job(const std::string& path) {
         j = parse_bounded(text);
     } catch (const json::exception& e) {
         throw std::runtime_error(path + ": not valid JSON: " + e.what());
+    } catch (const DuplicateKey& e) {
+        throw std::runtime_error(path + ": " + e.what());
     } catch (const json_binding::RequestError& e) {
         throw std::runtime_error(path + ": " + e.what() + "; give the reports as an NDJSON reports_file");
     }

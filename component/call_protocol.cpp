@@ -145,6 +145,8 @@ std::string call_line(std::string_view line, bool& request_error) {
         request = parse_bounded(line);
     } catch (const json::exception& e) {
         return refuse(std::string("not valid JSON: ") + text::sanitize(e.what()));
+    } catch (const DuplicateKey& e) {
+        return refuse(text::sanitize(e.what()));
     } catch (const RequestError& e) {
         return refuse(std::string("request: ") + e.what());
     }

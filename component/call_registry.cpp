@@ -16,7 +16,7 @@ std::string Invocation::str(const char* name) const {
 }
 
 std::string Invocation::opt_str(const char* name) const {
-    if (!args_.contains(name) || args_.at(name).is_null()) return {};
+    if (!args_.contains(name)) return {};  // left out; null is not a String
     return str(name);
 }
 

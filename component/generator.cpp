@@ -8,10 +8,7 @@ std::string FrameGenerator::GenVOSZ(std::string_view strBNRAb, std::string_view 
                                     std::string_view strFirma, std::int32_t enmVerfahren, std::string& strDatum,
                                     const Date& datDate) const {
     return call(
-        [&] {
-            return call_text(spec_.voszContext, strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren, strDatum,
-                             datDate);
-        },
+        with_args(spec_.voszContext, strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren, strDatum, datDate),
         [&](int& line) {
             line = 1;
             return mlGen::GenVOSZ(spec_.voszCode, strBNRAb, strBNREm, strFileNr, strFirma, strDatum, datDate, "01");
@@ -25,7 +22,7 @@ std::string FrameGenerator::GenVOSZ(std::string_view strBNRAb, std::string_view 
 }
 
 std::string FrameGenerator::GenDSKO(DSKOData& udtDSKOData, const Date& datDate) const {
-    return call(spec_.dskoContext, [&](int& line) {
+    return call(with_args(spec_.dskoContext, ObjArg{"udtDSKOData"}, datDate), [&](int& line) {
         line = 1;
         return mlGen::GenDSKO(udtDSKOData, spec_.dskoCode, datDate);
     });
@@ -33,7 +30,7 @@ std::string FrameGenerator::GenDSKO(DSKOData& udtDSKOData, const Date& datDate) 
 
 std::string FrameGenerator::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                     std::string_view strCount, const Date& datDate) const {
-    return call([&] { return call_text(spec_.ncszContext, strBNRAb, strBNREm, strFileNr, strCount, datDate); },
+    return call(with_args(spec_.ncszContext, strBNRAb, strBNREm, strFileNr, strCount, datDate),
                 [&](int& line) {
                     line = 1;
                     return mlGen::GenNCSZ(spec_.voszCode, strBNRAb, strBNREm, strFileNr, strCount, datDate, "01");

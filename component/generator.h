@@ -39,7 +39,7 @@ struct FrameSpec {
     std::string_view voszCode;
     std::string_view dskoCode;
     std::string_view voszContext;  // ends with "("
-    std::string_view dskoContext;
+    std::string_view dskoContext;  // ends with "(" unless another class's fixed text
     std::string_view ncszContext;  // ends with "("
 };
 

@@ -3,6 +3,7 @@
 // keys and the error paths ("objMeldung.Vorgang.Geburtsdatum: expected a
 // string") all come from that table.
 #pragma once
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <limits>
@@ -148,6 +149,19 @@ void read(const V& v, I& out, const Path& path) {
     out = static_cast<I>(x);
 }
 
+// The index that a key spells in canonical decimal ("0", "1", … "32767":
+// digits only, no sign, no leading zero), or -1: one spelling per index, so
+// that two keys can never name the same entry.
+inline int canonical_index(std::string_view k) {
+    if (k.empty() || k.size() > 5 || (k[0] == '0' && k.size() > 1)) return -1;
+    int idx = 0;
+    for (char c : k) {
+        if (c < '0' || c > '9') return -1;
+        idx = idx * 10 + (c - '0');
+    }
+    return idx <= 32767 ? idx : -1;
+}
+
 // An entry is read in its place (an index given twice is read again: texts
 // are emptied first, numbers overwritten); flags are stored as bytes, so
 // they are read into a bool first.
@@ -175,16 +189,18 @@ void read(const V& v, Indexed<T>& out, const Path& path) {
         return;
     }
     if (!v.is_object()) fail(path, "expected an object of index to value, or an array");
+    std::vector<std::int16_t> given;
     v.each_member([&](std::string_view k, const V& e) {
         const Path here{&path, k};
-        std::int32_t idx = 0;
-        bool ok = !k.empty() && k.size() <= 6;
-        for (std::size_t i = 0; ok && i < k.size(); ++i) ok = (k[i] >= '0' && k[i] <= '9') || (k[i] == '-' && i == 0);
-        ok = ok && k != "-";
-        if (ok) idx = std::stoi(std::string(k));
-        if (!ok || idx < -32768 || idx > 32767) fail(here, "expected a 16-bit decimal index");
+        const int idx = canonical_index(k);
+        if (idx < 0) fail(here, "expected an index from 0 to 32767 in decimal, without sign or leading zeros");
+        given.push_back(static_cast<std::int16_t>(idx));
         read_entry(e, out, static_cast<std::int16_t>(idx), here);
     });
+    // An index given twice would drop a value (only the last one is kept).
+    std::sort(given.begin(), given.end());
+    const auto twice = std::adjacent_find(given.begin(), given.end());
+    if (twice != given.end()) fail(Path{&path, std::to_string(*twice)}.text(), "given twice");
 }
 
 template <class V, Bound T>
@@ -313,8 +329,11 @@ void read(const V& v, T& out, const Path& path) {
     v.each_member([&](std::string_view key, const V& value) {
         const Path here{&path, key};
         if (const auto* e = table.find(key)) {
+            // A property given twice would drop its first value.
+            bool& seen = present.seen[static_cast<std::size_t>(e - table.entries.data())];
+            if (seen) fail(here, "given twice");
+            seen = true;
             e->read(value, out, here);
-            if constexpr (tracks) present.seen[static_cast<std::size_t>(e - table.entries.data())] = true;
             return;
         }
         bool known = false;

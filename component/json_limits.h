@@ -8,6 +8,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "component/json_binding.h"
+
 namespace tamrel {
 
 // One request of the call protocol, or one report line of an NDJSON file.
@@ -18,12 +20,19 @@ inline constexpr int kMaxJsonDepth = 32;
 // its objects, arrays and separating commas.
 inline constexpr std::size_t kMaxJsonValues = 2'000'000;
 
+// An object that names a key twice ("args.objMeldung.KsZeileA.1: given
+// twice"): the parser would keep only the last value.
+struct DuplicateKey : json_binding::RequestError {
+    using RequestError::RequestError;
+};
+
 // The text of the error for a line above kMaxLineBytes.
 std::string line_too_long_text(std::size_t bytes);
 
 // Parses JSON text, refusing nesting deeper than kMaxJsonDepth and more than
 // kMaxJsonValues values. Throws nlohmann::json::exception for text that is
-// not JSON, and json_binding::RequestError for a document beyond the bounds.
+// not JSON, DuplicateKey for an object that names a key twice, and
+// json_binding::RequestError for a document beyond the bounds.
 nlohmann::json parse_bounded(std::string_view text);
 
 }  // namespace tamrel

@@ -7,7 +7,7 @@ namespace tamrel::mlGen {
 
 std::string GenVOSZHead(std::string_view code, std::string_view sender, std::string_view receiver,
                         std::string_view fileNr, std::string_view dateText) {
-    return routine([&] { return call_text("mlGen.GenVOSZHead(", code, sender, receiver, fileNr, dateText); },
+    return routine(with_args("mlGen.GenVOSZHead(", code, sender, receiver, fileNr, dateText),
                    [&](int& line) {
                        std::string out;
                        Writer w(out, line);
@@ -21,7 +21,7 @@ std::string GenVOSZ(std::string_view code, std::string_view sender, std::string_
                     std::string_view fileNr, std::string_view senderName, std::string& dateText, const Date& date,
                     std::string_view version) {
     return routine(
-        [&] { return call_text("mlGen.GenVOSZ(", code, sender, receiver, fileNr, senderName, dateText, date, version); },
+        with_args("mlGen.GenVOSZ(", code, sender, receiver, fileNr, senderName, dateText, date, version),
         [&](int& line) {
             line = 1;
             Date d = GetDate(date);
@@ -41,7 +41,7 @@ std::string GenVOSZ(std::string_view code, std::string_view sender, std::string_
 std::string GenNCSZHead(std::string_view code, std::string_view sender, std::string_view receiver,
                         std::string_view fileNr, std::string_view count, std::string_view dateText) {
     return routine(
-        [&] { return call_text("mlGen.GenNCSZHead(", code, sender, receiver, fileNr, count, dateText); },
+        with_args("mlGen.GenNCSZHead(", code, sender, receiver, fileNr, count, dateText),
         [&](int& line) {
             std::string out;
             Writer w(out, line);
@@ -54,7 +54,7 @@ std::string GenNCSZHead(std::string_view code, std::string_view sender, std::str
 std::string GenNCSZ(std::string_view code, std::string_view sender, std::string_view receiver,
                     std::string_view fileNr, std::string_view count, const Date& date, std::string_view version) {
     return routine(
-        [&] { return call_text("mlGen.GenNCSZ(", code, sender, receiver, fileNr, count, date, version); },
+        with_args("mlGen.GenNCSZ(", code, sender, receiver, fileNr, count, date, version),
         [&](int& line) {
             line = 1;
             std::string dateText = mlGlobal::GetCurrDate({}, 0, GetDate(date));
@@ -68,7 +68,7 @@ std::string GenNCSZ(std::string_view code, std::string_view sender, std::string_
 }
 
 std::string GenDSKO(DSKOData& data, std::string_view code, const Date& date) {
-    return routine([&] { return call_text("mlGen.GenDSKO(", ObjArg{"udtDSKOData"}, code, date); }, [&](int& line) {
+    return routine(with_args("mlGen.GenDSKO(", ObjArg{"udtDSKOData"}, code, date), [&](int& line) {
         std::string out;
         out.reserve(415);
         Writer w(out, line);

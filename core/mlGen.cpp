@@ -145,7 +145,7 @@ void AppendBG(std::string& out, std::string_view value, int intVor, int intNach,
 void AppendJN(std::string& out, std::int32_t value, bool& filled) { out += JNChar(value, filled); }
 
 std::string StrToAn(std::string_view value, int width, bool& filled) {
-    return routine([&] { return call_text("mlGen.StrToAn(", value, width, filled); }, [&](int& line) {
+    return routine(with_args("mlGen.StrToAn(", value, width, filled), [&](int& line) {
         line = 1;
         std::string out;
         AppendAn(out, value, width, filled);
@@ -154,7 +154,7 @@ std::string StrToAn(std::string_view value, int width, bool& filled) {
 }
 
 std::string StrToN(std::string_view value, int width, bool& filled) {
-    return routine([&] { return call_text("mlGen.StrToN(", value, width, filled); }, [&](int& line) {
+    return routine(with_args("mlGen.StrToN(", value, width, filled), [&](int& line) {
         line = 1;
         std::string out;
         AppendN(out, value, width, filled);

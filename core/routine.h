@@ -55,6 +55,18 @@ std::string call_text(std::string_view head, const A&... args) {
     return out;
 }
 
+// The context of a routine that carries its arguments, worded only when an
+// error passes: `head` & the arguments & ")" (see call_text). A literal head
+// that does not end with "(" is a fixed text and written alone, whatever the
+// arguments. The arguments are held by reference: use it within the full
+// expression that runs the routine.
+template <class... A>
+auto with_args(std::string_view head, const A&... args) {
+    return [head, &args...] {
+        return !head.empty() && head.back() == '(' ? call_text(head, args...) : std::string(head);
+    };
+}
+
 template <class Ctx, class Body>
 decltype(auto) routine(const Ctx& context, Body&& body) {
     int line = 0;

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "core/joined.h"
 #include "core/mlGen.h"
@@ -105,10 +106,15 @@ public:
     // characters without counting them again.
     [[gnu::always_inline]] void check(int length, std::string_view name) {
         ++line_;
-        publish();
-        assert(chars_ == text::char_count(record()));
-        if (chars_ != static_cast<std::size_t>(length)) mlGen::CheckLength(record(), length, name);
-        out_.append(record());
+        close(length, name);
+    }
+    // As above, for a length that is computed (in 16 bits) by the check's
+    // own statement: an overflow there is the check's.
+    template <class Length>
+        requires std::is_invocable_r_v<int, Length>
+    [[gnu::always_inline]] void check(Length&& length, std::string_view name) {
+        ++line_;
+        close(length(), name);
     }
     // Appends a record head whose length the caller checks with the rest.
     [[gnu::always_inline]] void end() {
@@ -117,6 +123,12 @@ public:
     }
 
 private:
+    [[gnu::always_inline]] void close(int length, std::string_view name) {
+        publish();
+        assert(chars_ == text::char_count(record()));
+        if (chars_ != static_cast<std::size_t>(length)) mlGen::CheckLength(record(), length, name);
+        out_.append(record());
+    }
     // A field of `width` characters begins: its statement is counted and the
     // buffer has room for it (four bytes a character) and the encoders'
     // scratch. Inlined at every field, like the encoders' fast paths: a call

@@ -25,7 +25,7 @@ std::string clsProtoEntry::CreateProtoBeitr(const BeitrNachw& b, bool blnError, 
 
 std::string clsProtoEntry::CreateProtoBeitrErh(const BeitrErh& b, bool blnError, std::string_view strErrText) const {
     return call(
-        [&] { return call_text("clsProtoEntry.CreateProtoBeitrErh(", ObjArg{"objBeitrErh"}, blnError, strErrText); },
+        with_args("clsProtoEntry.CreateProtoBeitrErh(", ObjArg{"objBeitrErh"}, blnError, strErrText),
         [&](int& line) {
             line = 1;
             const Vorgang& v = b.Vorgang;

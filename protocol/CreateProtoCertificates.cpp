@@ -8,7 +8,7 @@
 namespace tamrel {
 
 std::string clsProtoEntry::CreateProtoEntgelt(const Entgelt& e, bool blnError, std::string_view strErrText) const {
-    return call([&] { return call_text("clsProtoEntry.CreateProtoEntgelt(", ObjArg{"objEntgelt"}, blnError, strErrText); },
+    return call(with_args("clsProtoEntry.CreateProtoEntgelt(", ObjArg{"objEntgelt"}, blnError, strErrText),
                 [&](int& line) {
                     line = 1;
                     const Vorgang& v = e.Vorgang;
@@ -24,9 +24,7 @@ std::string clsProtoEntry::CreateProtoEntgelt(const Entgelt& e, bool blnError, s
 std::string clsProtoEntry::CreateProtoArbeitsBesch(const ArbeitsBesch& a, bool blnError,
                                                    std::string_view strErrText) const {
     return call(
-        [&] {
-            return call_text("clsProtoEntry.CreateProtoArbeitsBesch(", ObjArg{"objArbeitsBesch"}, blnError, strErrText);
-        },
+        with_args("clsProtoEntry.CreateProtoArbeitsBesch(", ObjArg{"objArbeitsBesch"}, blnError, strErrText),
         [&](int& line) {
             line = 1;
             const Vorgang& v = a.Vorgang;

@@ -8,7 +8,7 @@
 namespace tamrel {
 
 std::string clsProtoEntry::CreateProtoErst(const Erst& e, bool blnError, std::string_view strErrText) const {
-    return call([&] { return call_text("clsProtoEntry.CreateProtoErst(", ObjArg{"objErst"}, blnError, strErrText); },
+    return call(with_args("clsProtoEntry.CreateProtoErst(", ObjArg{"objErst"}, blnError, strErrText),
                 [&](int& line) {
                     line = 1;
                     const Vorgang& v = e.Vorgang;
@@ -24,7 +24,7 @@ std::string clsProtoEntry::CreateProtoErst(const Erst& e, bool blnError, std::st
 }
 
 std::string clsProtoEntry::CreateProtoZahl(const Zahl& z, bool blnError, std::string_view strErrText) const {
-    return call("clsProtoEntry.CreateProtoZahl", [&](int& line) {
+    return call(with_args("clsProtoEntry.CreateProtoZahl(", ObjArg{"objZahl"}, blnError, strErrText), [&](int& line) {
         line = 1;
         const Vorgang& v = z.Vorgang;
         proto::Line l;

@@ -11,7 +11,7 @@
 namespace tamrel {
 
 std::string clsProtoEntry::CreateProtoBetrieb(const Betrieb& b, bool blnError, std::string_view strErrText) const {
-    return call([&] { return call_text("clsProtoEntry.CreateProtoBetrieb(", ObjArg{"objBetrieb"}, blnError, strErrText); },
+    return call(with_args("clsProtoEntry.CreateProtoBetrieb(", ObjArg{"objBetrieb"}, blnError, strErrText),
                 [&](int& line) {
                     line = 1;
                     const Arbeitgeber& ag = b.Arbeitgeber;
@@ -27,7 +27,7 @@ std::string clsProtoEntry::CreateProtoBetrieb(const Betrieb& b, bool blnError, s
 
 std::string clsProtoEntry::CreateProtoAbfrVers(const AbfrVers& a, bool blnError, std::string_view strErrText) const {
     return call(
-        [&] { return call_text("clsProtoEntry.CreateProtoAbfrVers(", ObjArg{"objAbfrVers"}, blnError, strErrText); },
+        with_args("clsProtoEntry.CreateProtoAbfrVers(", ObjArg{"objAbfrVers"}, blnError, strErrText),
         [&](int& line) {
             line = 1;
             const Vorgang& v = a.Vorgang;
@@ -45,10 +45,7 @@ std::string clsProtoEntry::CreateProtoAbfrVers(const AbfrVers& a, bool blnError,
 std::string clsProtoEntry::CreateProtoAbfrStammdatenUV(const AbfrStammdatenUV& a, bool blnError,
                                                        std::string_view strErrText) const {
     return call(
-        [&] {
-            return call_text("clsProtoEntry.CreateProtoAbfrStammdatenUV(", ObjArg{"objAbfrStammdatenUV"}, blnError,
-                             strErrText);
-        },
+        with_args("clsProtoEntry.CreateProtoAbfrStammdatenUV(", ObjArg{"objAbfrStammdatenUV"}, blnError, strErrText),
         [&](int& line) {
             line = 1;
             const Arbeitgeber& ag = a.Arbeitgeber;
@@ -63,9 +60,7 @@ std::string clsProtoEntry::CreateProtoAbfrStammdatenUV(const AbfrStammdatenUV& a
 std::string clsProtoEntry::CreateProtoLohnnachweis(const Lohnnachweis& n, bool blnError,
                                                    std::string_view strErrText) const {
     return call(
-        [&] {
-            return call_text("clsProtoEntry.CreateProtoLohnnachweis(", ObjArg{"objLohnnachweis"}, blnError, strErrText);
-        },
+        with_args("clsProtoEntry.CreateProtoLohnnachweis(", ObjArg{"objLohnnachweis"}, blnError, strErrText),
         [&](int& line) {
             line = 1;
             const Arbeitgeber& ag = n.Arbeitgeber;

@@ -83,7 +83,7 @@ TEST(BeitrNachw, DmIsRejectedAfterPosition645) {
     EXPECT_EQ(e.source(), "clsGenBeitrNachw.GenData");
     EXPECT_EQ(e.description(), "Die Angabe von DM ist nicht mehr zul\xC3\xA4ssig.");
     EXPECT_EQ(host.lines, std::vector<std::string>{
-                              "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 60): clsGenBeitrNachw.GenData -> Die Angabe von DM ist nicht mehr zul\xC3\xA4ssig."});
+                              "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 60): clsGenBeitrNachw.GenData(<objBeitrNachw>, 1, , , , 2024-03-01 10:11:12) -> Die Angabe von DM ist nicht mehr zul\xC3\xA4ssig."});
 }
 
 BeitrErh collection() {

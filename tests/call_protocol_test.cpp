@@ -38,6 +38,36 @@ TEST(CallProtocol, RequestErrorsNameWhatIsWrong) {
     for (const auto& [request, message] : cases) EXPECT_EQ(call(request)["request_error"], message) << request;
 }
 
+// Nothing a request says may be dropped silently: a key given twice, an index
+// spelt otherwise than in canonical decimal, null for a String.
+TEST(CallProtocol, NoValueIsEverDropped) {
+    const std::string meldung = R"({"class":"clsGenMeldung","method":"GenData","args":{"udtDatensatzData":{},"enmVerfahren":0,"objMeldung":)";
+    const std::pair<std::string, const char*> cases[] = {
+        {meldung + R"({"KsZeileA":{"1":"AB","01":"XY"}}}})",
+         "args.objMeldung.KsZeileA.01: expected an index from 0 to 32767 in decimal, without sign or leading zeros"},
+        {meldung + R"({"KsZeileA":{"1":"AB","1":"XY"}}}})", "args.objMeldung.KsZeileA.1: given twice"},
+        {meldung + R"({"Vorgang":{"PLZ":"1","PLZ":"2"}}}})", "args.objMeldung.Vorgang.PLZ: given twice"},
+        {R"({"class":"clsGenLohnnachweis","method":"GenData","args":{"udtDatensatzData":{},"objLohnnachweis":{"Position":[{},{"PosFeld1":"A","PosFeld1":"B"}]}}})",
+         "args.objLohnnachweis.Position[2].PosFeld1: given twice"},
+        {R"({"class":"clsGenZahl","class":"clsGenZahl","method":"GenNCSZ"})", "class: given twice"},
+        {R"({"class":"clsProtoEntry","method":"CreateProtoZahl","args":{"objZahl":{},"blnError":false,"strErrText":null}})",
+         "args.strErrText: expected a string"},
+        {R"({"class":"clsGenZahl","method":"GenVOSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","enmVerfahren":0,"strDatum":null}})",
+         "args.strDatum: expected a string"},
+    };
+    for (const auto& [request, message] : cases) {
+        bool request_error = false;
+        EXPECT_EQ(json::parse(tamrel::call_line(request, request_error))["request_error"], message) << request;
+        EXPECT_TRUE(request_error);
+    }
+    // The empty date may still be written as null.
+    bool request_error = false;
+    const json r = json::parse(tamrel::call_line(
+        R"({"class":"clsGenZahl","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strCount":"3","datDate":null},"now":"2024-03-05T08:00:00"})",
+        request_error));
+    EXPECT_EQ(r["result"], "NCSZAGDAZ1              2              202403050000010000000301");
+}
+
 TEST(CallProtocol, InOutDateIndexedListsAndTests) {
     json r = call(R"({"id":"a","class":"clsGenBetrieb","method":"GenVOSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","enmVerfahren":0},"now":"2024-03-05T08:00:00"})");
     EXPECT_EQ(r["id"], "a");

@@ -132,6 +132,7 @@ TEST(ReportRunner, ScannerAgreesWithTheReferenceReaderOnEveryValueForm) {
 }
 
 // Both JSON readers refuse a bad report with the same words.
+#define INDEX_FORM "expected an index from 0 to 32767 in decimal, without sign or leading zeros"
 TEST(ReportRunner, BothReadersReportTheSameRequestErrors) {
     CallSession session(nullptr, nullptr);
     RunnerSettings settings{&session.host(), {}, 0, {}};
@@ -143,7 +144,12 @@ TEST(ReportRunner, BothReadersReportTheSameRequestErrors) {
         {R"({"KsErster":-40000})", "args.objMeldung.KsErster: integer out of the 16-bit range"},
         {R"({"Storno":1})", "args.objMeldung.Storno: expected true or false"},
         {R"({"Vorgang":{"Arbeitgeber":{"Nmae1":""}}})", "args.objMeldung.Vorgang.Arbeitgeber.Nmae1: unknown property"},
-        {R"({"KsZeileA":{"x":"A"}})", "args.objMeldung.KsZeileA.x: expected a 16-bit decimal index"},
+        {R"({"KsZeileA":{"x":"A"}})", "args.objMeldung.KsZeileA.x: " INDEX_FORM},
+        {R"({"KsZeileA":{"1":"AB","01":"XY"}})", "args.objMeldung.KsZeileA.01: " INDEX_FORM},
+        {R"({"KsZeileA":{"-1":"AB"}})", "args.objMeldung.KsZeileA.-1: " INDEX_FORM},
+        {R"({"KsZeileA":{"+1":"AB"}})", "args.objMeldung.KsZeileA.+1: " INDEX_FORM},
+        {R"({"KsZeileA":{"32768":"AB"}})", "args.objMeldung.KsZeileA.32768: " INDEX_FORM},
+        {R"({"KsZeileA":{" 1":"AB"}})", "args.objMeldung.KsZeileA. 1: " INDEX_FORM},
         {R"({"KsZeileA":["A",2]})", "args.objMeldung.KsZeileA[2]: expected a string"},
         {R"({"UvEntfaellt":{"1":"ja"}})", "args.objMeldung.UvEntfaellt.1: expected true or false"},
         {R"([])", "args.objMeldung: expected an object"},

@@ -2,6 +2,7 @@
 // (an = text, n = digits and dates, pb = amounts and decimal numbers).
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
 #include "core/contact_block.h"
+#include "core/list_loop.h"
 #include "core/routine.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
@@ -100,11 +101,12 @@ bool GenDBVO(std::string& out, const Entgelt& e) {
         bool filled = false;
         Writer w(out, line, filled);
         w.lit("DBVO").n(b.GRUNDAV, 1).n(b.AUABAG, 8).n(b.AUABSV, 8).n(b.KZAKAU, 1).n(count, 2);
-        for (const Vorerkrankung& i : b.Vorerkrankungen) {
+        list_loop(line, 8, 1, count, [&](std::int16_t k) {
+            const Vorerkrankung& i = b.Vorerkrankungen[static_cast<std::size_t>(k - 1)];
             w.n(i.BEGINNAU, 8).n(i.ENDEAU, 8).n(i.KZNACHWEIS, 1).n(i.TEILNACHWEISAUBEGINN, 8);
             w.n(i.TEILNACHWEISAUENDE, 8).n(i.KZAU, 1).n(i.TEILANRAUBEGINN, 8).n(i.TEILANRAUENDE, 8);
-        }
-        w.check(add16(24, mul16(50, count)), "DBVO");
+        });
+        w.check([&] { return add16(24, mul16(50, count)); }, "DBVO");
         return filled;
     });
 }

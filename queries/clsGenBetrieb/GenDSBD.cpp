@@ -6,7 +6,7 @@ namespace tamrel {
 
 std::string clsGenBetrieb::GenData(const Betrieb& b, DatensatzData& dd, const Date& datDate) {
     return call(
-        [&] { return call_text("clsGenBetrieb.GenData(", ObjArg{"objBetrieb"}, ObjArg{"udtDatensatzData"}, datDate); },
+        with_args("clsGenBetrieb.GenData(", ObjArg{"objBetrieb"}, ObjArg{"udtDatensatzData"}, datDate),
         [&](int& line) {
             return record_then_blocks(
                 line, datDate, 749, [&](std::string& out, const Date& date) { GenDSBD(out, b, dd, date); },
@@ -17,7 +17,7 @@ std::string clsGenBetrieb::GenData(const Betrieb& b, DatensatzData& dd, const Da
 }
 
 void clsGenBetrieb::GenDSBD(std::string& out, const Betrieb& b, const DatensatzData& dd, const Date& date) {
-    routine([&] { return call_text("clsGenBetrieb.GenDSBD(", ObjArg{"objBetrieb"}, ObjArg{"udtDatensatzData"}, date); },
+    routine(with_args("clsGenBetrieb.GenDSBD(", ObjArg{"objBetrieb"}, ObjArg{"udtDatensatzData"}, date),
             [&](int& line) {
                 const Arbeitgeber& ag = b.Arbeitgeber;
                 Writer w(out, line);

@@ -1,5 +1,6 @@
 // The DSLN record: the fixed part as its layout table, then one 59-character
 // group per position.
+#include "core/list_loop.h"
 #include "core/writer.h"
 #include "queries/clsGenLohnnachweis/clsGenLohnnachweis.h"
 
@@ -7,7 +8,7 @@ namespace tamrel {
 
 std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd, const Date& datDate) {
     const std::size_t positions = l.AnzahlPositionen > 0 ? static_cast<std::size_t>(l.AnzahlPositionen) : 0;
-    return call("clsGenLohnnachweis.GenData", [&](int& line) {
+    return call(with_args("clsGenLohnnachweis.GenData(", ObjArg{"objLohnnachweis"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
         return record_then_blocks(
             line, datDate, 494 + 321 + 59 * positions,
             [&](std::string& out, const Date& date) { GenDSLN(out, l, dd, date); },
@@ -29,11 +30,11 @@ void clsGenLohnnachweis::GenDSLN(std::string& out, const Lohnnachweis& l, const 
         bool hasData = false;
         AppendContactBlock(dbap_, "DBAP", l, l.Arbeitgeber, hasData, "clsGenLohnnachweis.GenDBAP");
         w.an(hasData ? "J" : "N", 1).an(l.Feld480, 4).an(l.Feld484, 3).n(l.Feld487, 6).n(l.AnzahlPositionen, 2);
-        for (std::int16_t i = 1; i <= l.AnzahlPositionen; i = add16(i, 1)) {
+        list_loop(line, 5, 1, l.AnzahlPositionen, [&](std::int16_t i) {
             const LnPosition p = l.Position(i);
             w.an(p.PosFeld1, 15).an(p.PosFeld2, 8).n(p.PosFeld3, 15).n(p.PosFeld4, 15).n(p.PosFeld5, 6);
-        }
-        w.check(add16(494, mul16(59, l.AnzahlPositionen)), "DSLN");
+        });
+        w.check([&] { return add16(494, mul16(59, l.AnzahlPositionen)); }, "DSLN");
     });
 }
 

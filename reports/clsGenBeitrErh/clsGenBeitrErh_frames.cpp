@@ -6,7 +6,7 @@ namespace tamrel {
 std::string clsGenBeitrErh::GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                     std::string_view strFirma, std::string& strDatum, const Date& datDate) const {
     return call(
-        [&] { return call_text("clsGenBeitrErh.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, strDatum, datDate); },
+        with_args("clsGenBeitrErh.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, strDatum, datDate),
         [&](int& line) {
             line = 1;
             return mlGen::GenVOSZ("AGBVB", strBNRAb, strBNREm, strFileNr, strFirma, strDatum, datDate, "01");
@@ -14,7 +14,7 @@ std::string clsGenBeitrErh::GenVOSZ(std::string_view strBNRAb, std::string_view 
 }
 
 std::string clsGenBeitrErh::GenDSKO(DSKOData& udtDSKOData, const Date& datDate) const {
-    return call("clsGenBeitrErh.GenDSKO", [&](int& line) {
+    return call(with_args("clsGenBeitrErh.GenDSKO(", ObjArg{"udtDSKOData"}, datDate), [&](int& line) {
         line = 1;
         return mlGen::GenDSKO(udtDSKOData, "BVBEI", datDate);
     });
@@ -22,7 +22,7 @@ std::string clsGenBeitrErh::GenDSKO(DSKOData& udtDSKOData, const Date& datDate) 
 
 std::string clsGenBeitrErh::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                     std::string_view strCount, const Date& datDate) const {
-    return call([&] { return call_text("clsGenBeitrErh.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, datDate); },
+    return call(with_args("clsGenBeitrErh.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, datDate),
                 [&](int& line) {
                     line = 1;
                     return mlGen::GenNCSZ("AGBVB", strBNRAb, strBNREm, strFileNr, strCount, datDate, "01");

@@ -21,7 +21,9 @@ std::string negated(std::string_view amount) {
 std::string clsGenBeitrNachw::GenData(const BeitrNachw& b, std::string_view strBNRAb, std::string_view strBNRSt,
                                       std::string_view strVersion, std::string_view strMicroseconds,
                                       const Date& datDate) const {
-    return call("clsGenBeitrNachw.GenData", [&](int& line) {
+    return call(with_args("clsGenBeitrNachw.GenData(", ObjArg{"objBeitrNachw"}, strBNRAb, strBNRSt, strVersion,
+                          strMicroseconds, datDate),
+                [&](int& line) {
             const Date date = mlGen::GetDate(datDate);
             const bool bnv = b.Nachweisart == bnBNV;
             const bool extended = b.Nachweisart == 1;

@@ -11,10 +11,7 @@ std::string clsGenBeitrNachw::GenVOSZ(std::string_view strBNRAb, std::string_vie
                                       std::string_view strFileNr, std::int32_t enmVerfahren,
                                       std::string_view strFirma, std::string& strDatum, const Date& datDate) const {
     return call(
-        [&] {
-            return call_text("clsGenBeitrNachw.GenVOSZ(", strBNRAb, strBNREm, strFileNr, enmVerfahren, strFirma,
-                             strDatum, datDate);
-        },
+        with_args("clsGenBeitrNachw.GenVOSZ(", strBNRAb, strBNREm, strFileNr, enmVerfahren, strFirma, strDatum, datDate),
         [&](int& line) {
             line = 1;
             if (enmVerfahren == bnEmpfBkn) IsEmpfBkn(strBNREm);  // consulted; the code depends on 4 alone
@@ -25,7 +22,7 @@ std::string clsGenBeitrNachw::GenVOSZ(std::string_view strBNRAb, std::string_vie
 }
 
 std::string clsGenBeitrNachw::GenDSKO(DSKOData& udtDSKOData, std::int32_t enmVerfahren, const Date& datDate) const {
-    return call("clsGenBeitrNachw.GenDSKO", [&](int& line) {
+    return call(with_args("clsGenBeitrNachw.GenDSKO(", ObjArg{"udtDSKOData"}, enmVerfahren, datDate), [&](int& line) {
         line = 1;
         return mlGen::GenDSKO(udtDSKOData, frame_code(enmVerfahren), datDate);
     });
@@ -35,10 +32,7 @@ std::string clsGenBeitrNachw::GenNCSZ(std::string_view strBNRAb, std::string_vie
                                       std::string_view strFileNr, std::string_view strCount,
                                       std::int32_t enmVerfahren, const Date& datDate) const {
     return call(
-        [&] {
-            return call_text("clsGenBeitrNachw.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren,
-                             datDate);
-        },
+        with_args("clsGenBeitrNachw.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren, datDate),
         [&](int& line) {
             line = 1;
             return mlGen::GenNCSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strCount, datDate, "01");
@@ -46,7 +40,7 @@ std::string clsGenBeitrNachw::GenNCSZ(std::string_view strBNRAb, std::string_vie
 }
 
 bool clsGenBeitrNachw::IsEmpfBkn(std::string_view strBNR) const {
-    return routine([&] { return call_text("clsGenBeitrNachw.IsEmpfBkn(", strBNR); }, [&](int& line) {
+    return routine(with_args("clsGenBeitrNachw.IsEmpfBkn(", strBNR), [&](int& line) {
         line = 1;
         const ObjectTests& t = current_host().tests;
         bool first = t.EmpfBknTest1 ? t.EmpfBknTest1(strBNR) : false;
@@ -57,7 +51,7 @@ bool clsGenBeitrNachw::IsEmpfBkn(std::string_view strBNR) const {
 }
 
 std::string clsGenBeitrNachw::ChangeDate(std::string_view strDate) {
-    return routine([&] { return call_text("clsGenBeitrNachw.ChangeDate(", strDate); }, [&](int& line) {
+    return routine(with_args("clsGenBeitrNachw.ChangeDate(", strDate), [&](int& line) {
         line = 1;
         std::string out;
         out.append(text::mid(strDate, 7, 2)).append(text::mid(strDate, 5, 2)).append(text::mid(strDate, 1, 4));

@@ -21,7 +21,7 @@ std::string_view settlement_code(std::int32_t v) {
 }  // namespace
 
 std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& datDate) const {
-    return call([&] { return call_text("clsGenErst.GenData(", ObjArg{"objErst"}, ObjArg{"udtDatensatzData"}, datDate); },
+    return call(with_args("clsGenErst.GenData(", ObjArg{"objErst"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
                     line = 1;
                     const Date date = mlGen::GetDate(datDate);

@@ -65,10 +65,7 @@ std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerf
 void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd, std::int32_t enmVerfahren,
                             const Date& datDate) {
     routine(
-        [&] {
-            return call_text("clsGenMeldung.GenDSME(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren,
-                             datDate);
-        },
+        with_args("clsGenMeldung.GenDSME(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren, datDate),
         [&](int& line) {
             const Date date = mlGen::GetDate(datDate);
             const bool minijob = m.Beitragsgruppe2.size() > 0 &&

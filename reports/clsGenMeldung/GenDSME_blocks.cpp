@@ -1,5 +1,6 @@
 // The DEUEV report's own blocks DBME, DBEU, DBUV, DBKS, DBSO and DBKV.
 #include "core/joined.h"
+#include "core/list_loop.h"
 #include "core/writer.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
@@ -37,13 +38,13 @@ void clsGenMeldung::AppendDBUV(std::string& out, const Meldung& m, bool& produce
         std::int16_t required = 20;
         Writer w(out, line, produced);
         w.lit("DBUV").lit("0").blank(15);  // the count is written once the entries are known
-        for (std::int16_t i = m.UvErster; i <= m.UvLetzter; i = add16(i, 1)) {
-            if (m.UvEntfaellt(i)) continue;
+        list_loop(line, 7, m.UvErster, m.UvLetzter, [&](std::int16_t i) {
+            if (m.UvEntfaellt(i)) return;
             w.an(m.UvAngabe1(i), 3).an(m.UvAngabe2(i), 15).an(m.UvAngabe3(i), 20).an(m.UvAngabe4(i), 15);
             w.an(m.UvAngabe5(i), 8).n(m.UvAngabe6(i), 6).blank(4);
             count = add16(count, 1);
             required = add16(required, 71);
-        }
+        });
         w.patch(4, mlGen::StrToN(mlGen::Decimal(count), 1, produced)[0]);
         w.check(required, "DBUV");
     });
@@ -62,9 +63,9 @@ void clsGenMeldung::GenDBKS(std::string& out, const Meldung& m) {
             const auto a = m.KsZeileA.view(), b = m.KsZeileB.view(), c = m.KsZeileC.view(), d = m.KsZeileD.view();
             const std::int16_t first = m.KsErster, last = m.KsLetzter;
             w.lit("DBKS").lit("K").an(m.KsKennzeichen, 1);
-            for (std::int16_t i = first; i <= last; i = add16(i, 1)) w.an(a(i), 2).an(b(i), 9).an(c(i), 1);
+            list_loop(line, 3, first, last, [&](std::int16_t i) { w.an(a(i), 2).an(b(i), 9).an(c(i), 1); });
             w.an(m.KsDatum, 8).an(m.KsSchluessel, 2);
-            for (std::int16_t i = first; i <= last; i = add16(i, 1)) w.an(d(i), 2);
+            list_loop(line, 1, first, last, [&](std::int16_t i) { w.an(d(i), 2); });
             w.blank(36);
         } else if (m.Meldungsart == 2) {
             w.lit("DBKS").lit("S").an(m.KsAngabe1, 2).an(m.KsAngabe2, 2).an(m.KsAngabe3, 2).an(m.KsAngabe4, 2);

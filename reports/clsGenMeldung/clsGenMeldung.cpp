@@ -22,10 +22,7 @@ std::string clsGenMeldung::GenVOSZ(std::string_view strBNRAb, std::string_view s
                                    std::string_view strFirma, std::int32_t enmVerfahren, std::string& strDatum,
                                    const Date& datDate) const {
     return call(
-        [&] {
-            return call_text("clsGenMeldung.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren,
-                             strDatum, datDate);
-        },
+        with_args("clsGenMeldung.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren, strDatum, datDate),
         [&](int& line) {
             line = 1;
             return mlGen::GenVOSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strFirma, strDatum,
@@ -34,7 +31,7 @@ std::string clsGenMeldung::GenVOSZ(std::string_view strBNRAb, std::string_view s
 }
 
 std::string clsGenMeldung::GenDSKO(DSKOData& udtDSKOData, const Date& datDate) const {
-    return call("clsGenMeldung.GenDSKO", [&](int& line) {
+    return call(with_args("clsGenMeldung.GenDSKO(", ObjArg{"udtDSKOData"}, datDate), [&](int& line) {
         line = 1;
         return mlGen::GenDSKO(udtDSKOData, "DEUEV", datDate);
     });
@@ -43,9 +40,7 @@ std::string clsGenMeldung::GenDSKO(DSKOData& udtDSKOData, const Date& datDate) c
 std::string clsGenMeldung::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                    std::string_view strCount, std::int32_t enmVerfahren, const Date& datDate) const {
     return call(
-        [&] {
-            return call_text("clsGenMeldung.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren, datDate);
-        },
+        with_args("clsGenMeldung.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren, datDate),
         [&](int& line) {
             line = 1;
             return mlGen::GenNCSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strCount, datDate, "01");
@@ -55,10 +50,7 @@ std::string clsGenMeldung::GenNCSZ(std::string_view strBNRAb, std::string_view s
 std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int32_t enmVerfahren,
                                    const Date& datDate) {
     return call(
-        [&] {
-            return call_text("clsGenMeldung.GenData(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren,
-                             datDate);
-        },
+        with_args("clsGenMeldung.GenData(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren, datDate),
         [&](int& line) {
             std::string out;
             out.reserve(2048);  // the record and every block it may announce

@@ -7,7 +7,7 @@
 namespace tamrel {
 
 std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& datDate) {
-    return call([&] { return call_text("clsGenZahl.GenData(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, datDate); },
+    return call(with_args("clsGenZahl.GenData(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
                     line = 1;
                     const Date date = mlGen::GetDate(datDate);
@@ -27,7 +27,7 @@ std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& da
 }
 
 void clsGenZahl::GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date) {
-    routine([&] { return call_text("clsGenZahl.GenDSVZ(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, date); },
+    routine(with_args("clsGenZahl.GenDSVZ(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, date),
             [&](int& line) {
                 const Vorgang& v = z.Vorgang;
                 Writer w(out, line);
@@ -94,7 +94,7 @@ std::string clsGenZahl::GenDBGA(const Zahl& z, bool& hasData) {
 }
 
 std::string clsGenZahl::GenDBAN(const Zahl& z, bool& hasData) {
-    return routine([&] { return call_text("clsGenZahl.GenDBAN(", ObjArg{"objZahl"}, hasData); }, [&](int& line) {
+    return routine(with_args("clsGenZahl.GenDBAN(", ObjArg{"objZahl"}, hasData), [&](int& line) {
         line = 1;
         return mlGen::GenDBAN(z.Vorgang, hasData);
     });

@@ -25,9 +25,11 @@ std::string frame(std::string_view tag, std::string_view strBNRAb, std::string_v
 }  // namespace
 
 std::string clsGenAsyl::GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
-                                std::string_view strFirma, std::int32_t, std::string& strDatum,
+                                std::string_view strFirma, std::int32_t enmVerfahren, std::string& strDatum,
                                 const Date& datDate) const {
-    return call("clsGenAsyl.GenVOSZ", [&](int& line) {
+    return call(with_args("clsGenAsyl.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren, strDatum,
+                          datDate),
+                [&](int& line) {
         line = 1;
         Date date = mlGen::GetDate(datDate);
         line = 2;
@@ -39,7 +41,7 @@ std::string clsGenAsyl::GenVOSZ(std::string_view strBNRAb, std::string_view strB
 
 std::string clsGenAsyl::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                 std::string_view strCount, const Date& datDate) const {
-    return call("clsGenAsyl.GenNCSZ", [&](int& line) {
+    return call(with_args("clsGenAsyl.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, datDate), [&](int& line) {
         line = 1;
         std::string stamp = mlGlobal::GetCurrDate({}, 0, mlGen::GetDate(datDate));
         line = 2;
