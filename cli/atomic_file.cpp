@@ -1,5 +1,6 @@
 #include "cli/atomic_file.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -60,24 +61,32 @@ void unregister_temp(int slot) {
 
 }  // namespace
 
-AtomicFile::AtomicFile(std::string target) : target_(std::move(target)) {
+AtomicFile::AtomicFile(OutputTarget target) : target_(std::move(target)) {
     install_handlers_once();
-    std::filesystem::path p(target_);
-    std::filesystem::path dir = p.parent_path().empty() ? "." : p.parent_path();
-    std::string pattern = (dir / ("." + p.filename().string() + ".tmp-XXXXXX")).string();
-    std::vector<char> buf(pattern.begin(), pattern.end());
-    buf.push_back('\0');
-    int fd = mkstemp(buf.data());
-    if (fd < 0) throw std::runtime_error(target_ + ": cannot create a temporary file: " + std::strerror(errno));
-    temp_ = buf.data();
-    slot_ = register_temp(temp_);
-    fchmod(fd, 0644);
-    file_ = fdopen(fd, "wb");
+    int fd = -1;
+    if (target_.is_file()) {
+        std::string pattern = temp_pattern(target_.real);
+        std::vector<char> buf(pattern.begin(), pattern.end());
+        buf.push_back('\0');
+        fd = ::mkstemp(buf.data());
+        if (fd < 0) throw std::runtime_error(target_.given + ": cannot create a temporary file: " + std::strerror(errno));
+        temp_ = buf.data();
+        slot_ = register_temp(temp_);
+        // A new file gets the mode the umask allows, a replaced one keeps
+        // its mode and, where the process may, its owner.
+        if (target_.kind == OutputTarget::ReplaceFile) {
+            [[maybe_unused]] const int owned = ::fchown(fd, target_.uid, target_.gid);  // refused unless privileged
+        }
+        ::fchmod(fd, target_.mode);
+        file_ = ::fdopen(fd, "wb");
+    } else {
+        file_ = std::tmpfile();  // anonymous: nothing is left behind
+    }
     if (!file_) {
-        ::close(fd);
+        if (fd >= 0) ::close(fd);
+        if (!temp_.empty()) std::remove(temp_.c_str());
         unregister_temp(slot_);
-        std::remove(temp_.c_str());
-        throw std::runtime_error(target_ + ": cannot open the temporary file");
+        throw std::runtime_error(target_.given + ": cannot open a temporary file: " + std::strerror(errno));
     }
     buffer_ = std::make_unique<char[]>(kBufferSize);
     std::setvbuf(file_, buffer_.get(), _IOFBF, kBufferSize);
@@ -85,24 +94,102 @@ AtomicFile::AtomicFile(std::string target) : target_(std::move(target)) {
 
 AtomicFile::~AtomicFile() {
     if (file_) std::fclose(file_);
-    if (!committed_) std::remove(temp_.c_str());
+    if (!installed_ && !temp_.empty()) std::remove(temp_.c_str());
+    if (!backup_.empty()) std::remove(backup_.c_str());
     unregister_temp(slot_);
 }
 
 void AtomicFile::write(std::string_view bytes) {
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size())
-        throw std::runtime_error(target_ + ": write failed: " + std::strerror(errno));
+        throw std::runtime_error(target_.given + ": write failed: " + std::strerror(errno));
 }
 
-void AtomicFile::commit() {
-    if (std::fflush(file_) != 0 || fsync(fileno(file_)) != 0)
-        throw std::runtime_error(target_ + ": write failed: " + std::strerror(errno));
+void AtomicFile::flush() {
+    if (std::fflush(file_) != 0 || (target_.is_file() && ::fsync(fileno(file_)) != 0))
+        throw std::runtime_error(target_.given + ": write failed: " + std::strerror(errno));
+}
+
+void AtomicFile::copy_to_target() {
+    const bool out = target_.kind == OutputTarget::Stdout;
+    const int fd = out ? STDOUT_FILENO : ::open(target_.real.c_str(), O_WRONLY | O_CLOEXEC);
+    if (fd < 0) throw std::runtime_error(target_.given + ": cannot be opened: " + std::strerror(errno));
+    std::rewind(file_);
+    char chunk[1 << 16];
+    std::size_t n = 0;
+    bool ok = true;
+    while (ok && (n = std::fread(chunk, 1, sizeof chunk, file_)) > 0) {
+        for (std::size_t done = 0; ok && done < n;) {
+            const ssize_t w = ::write(fd, chunk + done, n - done);
+            if (w > 0) done += static_cast<std::size_t>(w);
+            else ok = w < 0 && errno == EINTR;
+        }
+    }
+    const int err = errno;
+    if (!out) ::close(fd);
+    if (!ok || std::ferror(file_)) throw std::runtime_error(target_.given + ": write failed: " + std::strerror(err));
+}
+
+void AtomicFile::install() {
+    if (!target_.is_file()) {
+        copy_to_target();
+        installed_ = true;
+        return;
+    }
+    // The file replaced stays reachable under a second name until every
+    // output is in place, so that a failure can put it back.
+    if (target_.kind == OutputTarget::ReplaceFile) {
+        std::string pattern = temp_pattern(target_.real);
+        std::vector<char> buf(pattern.begin(), pattern.end());
+        buf.push_back('\0');
+        const int fd = ::mkstemp(buf.data());
+        if (fd >= 0) {
+            ::close(fd);
+            ::unlink(buf.data());
+            if (::link(target_.real.c_str(), buf.data()) == 0) backup_ = buf.data();
+        }
+    }
     std::fclose(file_);
     file_ = nullptr;
-    if (std::rename(temp_.c_str(), target_.c_str()) != 0)
-        throw std::runtime_error(target_ + ": cannot be written: " + std::strerror(errno));
-    committed_ = true;
+    if (std::rename(temp_.c_str(), target_.real.c_str()) != 0)
+        throw std::runtime_error(target_.given + ": cannot be written: " + std::strerror(errno));
+    installed_ = true;
     unregister_temp(slot_);
+    slot_ = -1;
+}
+
+void AtomicFile::undo() {
+    if (!installed_ || !target_.is_file()) return;
+    if (!backup_.empty()) {
+        if (std::rename(backup_.c_str(), target_.real.c_str()) == 0) backup_.clear();
+    } else if (target_.kind == OutputTarget::NewFile) {
+        std::remove(target_.real.c_str());
+    }
+    installed_ = false;
+    temp_.clear();  // renamed away: nothing of ours is left under that name
+}
+
+void AtomicFile::done() {
+    if (!backup_.empty()) std::remove(backup_.c_str());
+    backup_.clear();
+}
+
+void commit_all(std::initializer_list<AtomicFile*> files) {
+    for (AtomicFile* f : files) f->flush();
+    // Files are renamed before anything goes to a device or pipe, which
+    // cannot be taken back.
+    std::vector<AtomicFile*> order;
+    for (AtomicFile* f : files)
+        if (f->target_.is_file()) order.push_back(f);
+    for (AtomicFile* f : files)
+        if (!f->target_.is_file()) order.push_back(f);
+    std::size_t in_place = 0;
+    try {
+        for (; in_place < order.size(); ++in_place) order[in_place]->install();
+    } catch (...) {
+        while (in_place > 0) order[--in_place]->undo();
+        throw;
+    }
+    for (AtomicFile* f : order) f->done();
 }
 
 }  // namespace tamrel::cli

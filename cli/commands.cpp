@@ -1,5 +1,7 @@
 #include "cli/commands.h"
 
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -8,6 +10,7 @@
 
 #include "cli/generate.h"
 #include "cli/line_reader.h"
+#include "cli/output_encoding.h"
 #include "component/call_protocol.h"
 #include "component/json_limits.h"
 #include "core/version.h"
@@ -15,19 +18,38 @@
 namespace tamrel::cli {
 namespace {
 
-// NDJSON requests in, one response line each, flushed per line.
-int call_stream(std::istream& in) {
+// NDJSON requests in, one response line each, flushed per line. A blank
+// line is skipped (it is no request); with `numbered` every response says
+// the line of its request as "line", so that no answer can be taken for
+// another line's.
+int call_stream(std::istream& in, bool numbered) {
     bool any_request_error = false;
     LineReader reader(in, kMaxLineBytes);
     std::string line;
     std::size_t length = 0;
-    while (reader.next(line, length)) {
+    for (std::size_t number = 1; reader.next(line, length); ++number) {
         if (length == line.size() && line.find_first_not_of(" \t") == std::string::npos) continue;
         bool request_error = false;
-        std::cout << call_line(line, request_error) << '\n' << std::flush;
+        std::string response = call_line(line, request_error);
+        if (numbered) response.insert(1, "\"line\":" + std::to_string(number) + (response.size() > 2 ? "," : ""));
+        std::cout << response << '\n' << std::flush;
         any_request_error |= request_error;
     }
     return any_request_error ? 2 : 0;
+}
+
+constexpr const char* kSubcommands[] = {"call", "generate"};
+
+// A first word that is no option and no subcommand is a typo: said so,
+// with the subcommands there are.
+bool unknown_subcommand(int argc, char** argv) {
+    if (argc < 2 || argv[1][0] == '-') return false;
+    for (const char* s : kSubcommands)
+        if (std::string_view(argv[1]) == s) return false;
+    std::cerr << "tamrel: unknown subcommand \"" << argv[1] << "\"; the subcommands are:";
+    for (const char* s : kSubcommands) std::cerr << ' ' << s;
+    std::cerr << " (tamrel --help)\n";
+    return true;
 }
 
 }  // namespace
@@ -42,19 +64,25 @@ int run(int argc, char** argv) {
 
     auto* callCmd = app.add_subcommand("call", "Call the library with JSON requests, one per line (NDJSON)");
     std::string callFile;
-    callCmd->add_option("FILE", callFile, "Requests file (default: standard input)");
+    bool numbered = false;
+    callCmd->add_option("FILE", callFile, "Requests file (default, or -: standard input)");
+    callCmd->add_flag("--line-numbers", numbered, "Give each response the line number of its request as \"line\"");
     callCmd->footer("Exit codes: 0 every line was a valid request; 2 at least one line got a request_error.");
 
     auto* genCmd = app.add_subcommand("generate", "Generate a transfer file from a job file");
     GenerateOptions go;
     genCmd->add_option("JOB", go.job, "Job file (JSON, see docs/job-format.md)")->required();
-    genCmd->add_option("-o,--output", go.output, "Transfer file to write")->required();
+    genCmd->add_option("-o,--output", go.output, "Transfer file to write (-: standard output)")->required();
     genCmd->add_option("--protocol", go.protocol, "Also write one protocol line per report to this file");
     genCmd->add_option("--reports", go.reports, "Read the reports from this NDJSON file instead of the job's");
-    genCmd->add_option("--encoding", go.encoding, "ISO-8859-1 (default), ISO-8859-15 or UTF-8");
+    genCmd->add_option("--encoding", go.encoding, kEncodingSpellings);
+    genCmd->add_flag("--transliterate", go.transliterate,
+                     "Write characters the encoding cannot hold as their usual substitutes (L for \u0141, oe for "
+                     "\u0153), each told on standard error");
     genCmd->add_flag("--crlf", go.crlf, "End lines with CR LF instead of LF");
     genCmd->add_flag("--keep-going", go.keepGoing, "Leave failed reports out instead of stopping");
 
+    if (unknown_subcommand(argc, argv)) return 2;
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
@@ -62,13 +90,13 @@ int run(int argc, char** argv) {
         return code == 0 ? 0 : 2;
     }
     if (*callCmd) {
-        if (callFile.empty()) return call_stream(std::cin);
+        if (callFile.empty() || callFile == "-") return call_stream(std::cin, numbered);
         std::ifstream in(callFile);
         if (!in) {
-            std::cerr << "tamrel call: " << callFile << ": cannot be read\n";
+            std::cerr << "tamrel call: " << callFile << ": cannot be read: " << std::strerror(errno) << '\n';
             return 2;
         }
-        return call_stream(in);
+        return call_stream(in, numbered);
     }
     return generate(go);
 }

@@ -5,7 +5,13 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
+#include <cstring>
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <vector>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
@@ -22,13 +28,50 @@ namespace {
 
 class FileSink : public Sink {
 public:
-    explicit FileSink(const std::string& path) : file_(path) {}
+    explicit FileSink(const OutputTarget& target) : file_(target) {}
     void write(std::string_view bytes) override { file_.write(bytes); }
-    void commit() { file_.commit(); }
+    AtomicFile& file() { return file_; }
 
 private:
     AtomicFile file_;
 };
+
+// Both outputs are checked before anything is generated: each must be
+// writable, neither may be the other (through a link or another spelling
+// of the path) nor an input of the run.
+struct Outputs {
+    OutputTarget transfer;
+    std::optional<OutputTarget> protocol;
+};
+
+Outputs resolve_outputs(const GenerateOptions& o, const std::vector<std::string>& inputs) {
+    Outputs out{resolve_output(o.output), {}};
+    if (!o.protocol.empty()) {
+        out.protocol = resolve_output(o.protocol);
+        if (same_file(out.transfer, *out.protocol))
+            throw std::runtime_error("--protocol " + o.protocol + " names the same file as --output " + o.output);
+    }
+    for (const std::string& in : inputs) {
+        if (same_file(out.transfer, in)) throw std::runtime_error("--output " + o.output + " would overwrite " + in);
+        if (out.protocol && same_file(*out.protocol, in))
+            throw std::runtime_error("--protocol " + o.protocol + " would overwrite " + in);
+    }
+    return out;
+}
+
+// Temporary files of tamrel runs that were killed, in the outputs' folders.
+void sweep(const Outputs& outputs) {
+    std::set<std::string> folders;
+    for (const OutputTarget* t : {&outputs.transfer, outputs.protocol ? &*outputs.protocol : nullptr})
+        if (t && t->is_file()) {
+            const std::string parent = std::filesystem::path(t->real).parent_path().string();
+            folders.insert(parent.empty() ? "." : parent);
+        }
+    for (const std::string& folder : folders)
+        for (const std::string& note : sweep_leftovers(folder)) std::cerr << "tamrel generate: " << note << '\n';
+}
+
+std::string reason() { return std::strerror(errno); }
 
 }  // namespace
 
@@ -37,20 +80,26 @@ int generate(const GenerateOptions& o) {
     Job job;
     auto enc = parse_encoding(o.encoding);
     std::ifstream reports_file;
+    Outputs outputs;
     try {
         job = read_job(o.job);
-        if (!enc) throw std::runtime_error("--encoding: expected ISO-8859-1, ISO-8859-15 or UTF-8");
+        if (!enc) throw std::runtime_error(std::string("--encoding: expected ") + kEncodingSpellings);
         if (!o.protocol.empty() && !job.info->protoMethod)
             throw std::runtime_error("--protocol: " + std::string(job.info->cls) + " has no protocol line");
         const std::string file = o.reports.empty() ? job.reportsFile : o.reports;
         if (!file.empty()) {
+            if (std::filesystem::is_directory(file)) throw std::runtime_error(file + ": is a folder, not a reports file");
             reports_file.open(file, std::ios::binary);
-            if (!reports_file) throw std::runtime_error(file + ": cannot be read");
+            if (!reports_file) throw std::runtime_error(file + ": cannot be read: " + reason());
         }
+        std::vector<std::string> inputs{o.job};
+        if (!file.empty()) inputs.push_back(file);
+        outputs = resolve_outputs(o, inputs);
     } catch (const std::exception& e) {
         std::cerr << "tamrel generate: " << e.what() << '\n';
         return 2;
     }
+    sweep(outputs);
     ReportSource source = reports_file.is_open() ? ReportSource(reports_file) : ReportSource(job.reports);
 
     const bool tty = isatty(STDERR_FILENO);
@@ -58,17 +107,21 @@ int generate(const GenerateOptions& o) {
     settings.encoding = *enc;
     settings.crlf = o.crlf;
     settings.keepGoing = o.keepGoing;
+    settings.transliterate = o.transliterate;
     settings.leftOut = [](const ReportFailure& f) { std::cerr << "tamrel generate: " << f.what() << " (left out)\n"; };
+    settings.note = [](const std::string& n) { std::cerr << "tamrel generate: " << n << '\n'; };
     if (tty) settings.progress = [](std::size_t n) { std::cerr << "\rtamrel generate: " << n << " reports" << std::flush; };
 
     TransferCounts counts;
     try {
-        FileSink out(o.output);
+        FileSink out(outputs.transfer);
         std::unique_ptr<FileSink> proto;
-        if (!o.protocol.empty()) proto = std::make_unique<FileSink>(o.protocol);
+        if (outputs.protocol) proto = std::make_unique<FileSink>(*outputs.protocol);
         counts = write_transfer(job, source, settings, out, proto.get());
-        out.commit();
-        if (proto) proto->commit();
+        if (proto)
+            commit_all({&out.file(), &proto->file()});
+        else
+            commit_all({&out.file()});
     } catch (const ReportFailure& f) {
         std::cerr << "tamrel generate: " << f.what() << "\ntamrel generate: no file written\n";
         return 1;

@@ -11,6 +11,7 @@ struct GenerateOptions {
     std::string encoding = "ISO-8859-1";
     bool crlf = false;
     bool keepGoing = false;
+    bool transliterate = false;
 };
 
 // Exit codes: 0 written; 1 a report failed (nothing written); 2 bad job or

@@ -1,5 +1,7 @@
 #include "cli/job.h"
 
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -39,8 +41,9 @@ namespace {
 
 // The file's text, refused beyond kMaxJobBytes (also when it is a pipe).
 std::string read_job_text(const std::string& path) {
+    if (std::filesystem::is_directory(path)) throw std::runtime_error(path + ": is a folder, not a job file");
     std::ifstream in(path, std::ios::binary);
-    if (!in) throw std::runtime_error(path + ": cannot be read");
+    if (!in) throw std::runtime_error(path + ": cannot be read: " + std::strerror(errno));
     std::string text;
     char chunk[1 << 16];
     while (const std::streamsize n = in.rdbuf()->sgetn(chunk, sizeof chunk)) {
@@ -103,7 +106,8 @@ Job parse_job(const json& j, const std::string& path, const std::string& folder)
     for (const auto& [k, v] : j.items())
         if (!keys.contains(k)) throw std::runtime_error(path + ": " + k + ": unknown key");
     Job job;
-    if (!j.contains("class") || !j["class"].is_string()) throw std::runtime_error(path + ": class: expected a string");
+    if (!j.contains("class")) throw std::runtime_error(path + ": class: missing");
+    if (!j["class"].is_string()) throw std::runtime_error(path + ": class: expected a string");
     job.info = find_class(j["class"].get<std::string>());
     if (!job.info) throw std::runtime_error(path + ": class: unknown generator class " + j["class"].get<std::string>());
     job.frame = json::object();

@@ -1,6 +1,7 @@
 #include "cli/output_encoding.h"
 
 #include <cstdint>
+#include <cctype>
 #include <cstring>
 
 namespace tamrel::cli {
@@ -56,12 +57,53 @@ std::size_t printable_run(std::string_view s) {
     return i;
 }
 
+// Latin Extended-A (U+0100 to U+017F), letter by letter.
+constexpr std::string_view kExtendedA[128] = {
+    "A", "a", "A", "a", "A", "a", "C", "c", "C", "c", "C", "c", "C", "c", "D", "d",  // U+0100
+    "D", "d", "E", "e", "E", "e", "E", "e", "E", "e", "E", "e", "G", "g", "G", "g",  // U+0110
+    "G", "g", "G", "g", "H", "h", "H", "h", "I", "i", "I", "i", "I", "i", "I", "i",  // U+0120
+    "I", "i", "IJ", "ij", "J", "j", "K", "k", "k", "L", "l", "L", "l", "L", "l", "L",  // U+0130
+    "l", "L", "l", "N", "n", "N", "n", "N", "n", "n", "N", "n", "O", "o", "O", "o",  // U+0140
+    "O", "o", "OE", "oe", "R", "r", "R", "r", "R", "r", "S", "s", "S", "s", "S", "s",  // U+0150
+    "S", "s", "T", "t", "T", "t", "T", "t", "U", "u", "U", "u", "U", "u", "U", "u",  // U+0160
+    "U", "u", "U", "u", "W", "w", "Y", "y", "Y", "Z", "z", "Z", "z", "Z", "z", "s",  // U+0170
+};
+
+bool ascii_equal_nocase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) return false;
+    return true;
+}
+
 }  // namespace
 
+std::string_view substitute(char32_t c) {
+    if (c >= 0x100 && c < 0x180) return kExtendedA[c - 0x100];
+    switch (c) {
+        case 0x0218: return "S";  // Ș
+        case 0x0219: return "s";
+        case 0x021A: return "T";  // Ț
+        case 0x021B: return "t";
+        case 0x20AC: return "EUR";
+        case 0x2018: case 0x2019: case 0x201A: case 0x201B: return "'";
+        case 0x201C: case 0x201D: case 0x201E: case 0x201F: return "\"";
+        case 0x2010: case 0x2011: case 0x2012: case 0x2013: case 0x2014: case 0x2212: return "-";
+        case 0x2026: return "...";
+        case 0x00BC: return "1/4";
+        case 0x00BD: return "1/2";
+        case 0x00BE: return "3/4";
+        default: return {};
+    }
+}
+
 std::optional<Encoding> parse_encoding(std::string_view name) {
-    if (name == "ISO-8859-1" || name == "latin1") return Encoding::Latin1;
-    if (name == "ISO-8859-15" || name == "latin9") return Encoding::Latin9;
-    if (name == "UTF-8" || name == "utf8") return Encoding::Utf8;
+    for (std::string_view n : {"ISO-8859-1", "ISO8859-1", "ISO_8859-1", "latin1", "latin-1", "l1"})
+        if (ascii_equal_nocase(name, n)) return Encoding::Latin1;
+    for (std::string_view n : {"ISO-8859-15", "ISO8859-15", "ISO_8859-15", "latin9", "latin-9", "l9"})
+        if (ascii_equal_nocase(name, n)) return Encoding::Latin9;
+    for (std::string_view n : {"UTF-8", "utf8"})
+        if (ascii_equal_nocase(name, n)) return Encoding::Utf8;
     return std::nullopt;
 }
 
@@ -73,7 +115,8 @@ const char* encoding_name(Encoding e) {
     }
 }
 
-EncodeFailure encode(std::string& out, std::string_view text, Encoding e) {
+EncodeFailure encode(std::string& out, std::string_view text, Encoding e, Unencodable unencodable,
+                     std::vector<Substitution>* made) {
     std::size_t position = 0;
     for (std::size_t i = 0; i < text.size();) {
         // Runs of printable ASCII are the same in every encoding: copied in one go.
@@ -87,14 +130,25 @@ EncodeFailure encode(std::string& out, std::string_view text, Encoding e) {
         ++position;
         const std::size_t start = i;
         const char32_t cp = decode(text, i);
-        if (cp < 0x20 || (cp >= 0x7F && cp < 0xA0)) return {position, true};
+        const std::string_view character = text.substr(start, i - start);
+        if (cp < 0x20 || (cp >= 0x7F && cp < 0xA0)) {
+            if (unencodable == Unencodable::Replace) continue;
+            return {position, character, cp, true};
+        }
         if (e == Encoding::Utf8) {
-            out.append(text.data() + start, i - start);
+            out.append(character);
             continue;
         }
-        int b = e == Encoding::Latin9 ? latin9(cp) : (cp <= 0xFF ? static_cast<int>(cp) : -1);
-        if (b < 0) return {position, false};
-        out += static_cast<char>(b);
+        const int b = e == Encoding::Latin9 ? latin9(cp) : (cp <= 0xFF ? static_cast<int>(cp) : -1);
+        if (b >= 0) {
+            out += static_cast<char>(b);
+            continue;
+        }
+        std::string_view to = unencodable == Unencodable::Fail ? std::string_view{} : substitute(cp);
+        if (to.empty() && unencodable == Unencodable::Replace) to = "?";
+        if (to.empty()) return {position, character, cp, false};
+        out.append(to);
+        if (made) made->push_back({character, to});
     }
     return {};
 }

@@ -14,8 +14,10 @@ bool ReportSource::next(const nlohmann::json*& element, std::string& line, std::
         return true;
     }
     element = nullptr;
-    while (lines_->next(line, length))
+    while (lines_->next(line, length)) {
+        ++line_number_;
         if (length > line.size() || line.find_first_not_of(" \t") != std::string::npos) return true;
+    }
     return false;
 }
 

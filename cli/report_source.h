@@ -22,11 +22,15 @@ public:
     // line's full length, which may exceed what `line` holds (see
     // LineReader).
     bool next(const nlohmann::json*& element, std::string& line, std::size_t& length);
+    // The line of the NDJSON file that the last report came from (blank
+    // lines counted), 0 for the job's inline reports.
+    std::size_t line_number() const { return line_number_; }
 
 private:
     const nlohmann::json* array_ = nullptr;
     std::size_t pos_ = 0;
     std::optional<LineReader> lines_;
+    std::size_t line_number_ = 0;
 };
 
 }  // namespace tamrel::cli

@@ -1,5 +1,7 @@
 #include "cli/transfer.h"
 
+#include <cstdio>
+
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
 #include "component/json_limits.h"
@@ -14,21 +16,21 @@ using nlohmann::json;
 
 // Values of the XML report must hold no markup characters: the library
 // inserts them as they are.
-void check_markup(const json& v, const std::string& path, std::size_t index) {
+void check_markup(const json& v, const std::string& path, const std::string& where) {
     if (v.is_string()) {
         const auto& s = v.get_ref<const std::string&>();
         if (s.find_first_of("&<>") != std::string::npos)
-            throw ReportFailure("report " + std::to_string(index) + ": " + path +
+            throw ReportFailure(where + ": " + path +
                                 ": holds a markup character (&, < or >), which an XML report cannot carry");
     } else if (v.is_object()) {
-        for (const auto& [k, e] : v.items()) check_markup(e, path + "." + k, index);
+        for (const auto& [k, e] : v.items()) check_markup(e, path + "." + k, where);
     } else if (v.is_array()) {
         std::size_t i = 1;
-        for (const auto& e : v) check_markup(e, path + "[" + std::to_string(i++) + "]", index);
+        for (const auto& e : v) check_markup(e, path + "[" + std::to_string(i++) + "]", where);
     }
 }
 
-void check_markup_text(const std::string& line, const std::string& param, std::size_t index) {
+void check_markup_text(const std::string& line, const std::string& param, const std::string& where) {
     if (line.find_first_of("&<>") == std::string::npos) return;
     json parsed;
     try {
@@ -36,7 +38,7 @@ void check_markup_text(const std::string& line, const std::string& param, std::s
     } catch (const std::exception&) {
         return;  // not JSON: the reader reports it
     }
-    check_markup(parsed, param, index);
+    check_markup(parsed, param, where);
 }
 
 // Where a step runs ("report 12", "report 12 protocol", "DSKO"), put into
@@ -45,9 +47,11 @@ struct Where {
     std::string_view name;
     std::size_t report = 0;  // the report's number, 0 for the frame
     bool protocol = false;
+    std::size_t line = 0;  // its line in the NDJSON file, 0 for a job's inline report
     std::string text() const {
         std::string t(name);
         if (report) t += " " + std::to_string(report);
+        if (line) t += " (line " + std::to_string(line) + ")";
         if (protocol) t += " protocol";
         return t;
     }
@@ -124,25 +128,77 @@ public:
     }
 
     // The record text in the file's encoding, with its line ending, into
-    // `out` (a buffer kept from line to line).
-    void encode_line(std::string& out, std::string_view record, const Where& where) const {
+    // `out` (a buffer kept from line to line). A character that cannot be
+    // written is named with the report's property that holds it, when the
+    // record is a report's (`runner`).
+    void encode_line(std::string& out, std::string_view record, const Where& where,
+                     const ReportRunner* runner = nullptr) {
         out.clear();
-        if (const EncodeFailure f = encode(out, record, settings_.encoding))
-            throw ReportFailure(where.text() + ": the character at position " + std::to_string(f.position) +
-                                (f.control ? " is a control character, which a transfer file cannot carry"
-                                           : std::string(" cannot be written in ") + encoding_name(settings_.encoding)));
+        made_.clear();
+        const Unencodable mode = settings_.transliterate ? Unencodable::Transliterate : Unencodable::Fail;
+        if (const EncodeFailure f = encode(out, record, settings_.encoding, mode, &made_))
+            throw ReportFailure(where.text() + ": " + unwritable(f, runner));
+        if (!made_.empty() && settings_.note) settings_.note(where.text() + ": " + substitutions(record, runner));
         out += settings_.crlf ? "\r\n" : "\n";
     }
-    std::string encoded_line(std::string_view record, const Where& where) const {
+    // A protocol line is always written: characters the encoding cannot
+    // hold become their substitutes (or "?"), control characters are dropped.
+    void encode_protocol(std::string& out, std::string_view line) const {
+        out.clear();
+        encode(out, line, settings_.encoding, Unencodable::Replace);
+        out += settings_.crlf ? "\r\n" : "\n";
+    }
+    std::string encoded_line(std::string_view record, const Where& where) {
         std::string out;
         encode_line(out, record, where);
         return out;
     }
 
 private:
+    std::string where_held(std::string_view character, const ReportRunner* runner) const {
+        if (!runner) return {};
+        const ReportRunner::Text t =
+            runner->find_text([&](std::string_view v) { return v.find(character) != std::string_view::npos; });
+        return t.name.empty() ? std::string() : t.name + " \"" + printable(t.value) + "\": ";
+    }
+    std::string unwritable(const EncodeFailure& f, const ReportRunner* runner) const {
+        std::string held = where_held(f.character, runner);
+        if (f.control) {
+            char code[16];
+            std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(f.code));
+            return held + "the control character " + code + " (at position " + std::to_string(f.position) +
+                   ") cannot be written in a transfer file";
+        }
+        return held + "\"" + std::string(f.character) + "\" (at position " + std::to_string(f.position) +
+               ") cannot be written in " + encoding_name(settings_.encoding) +
+               (substitute(f.code).empty() ? std::string()
+                : "; --transliterate writes it as \"" + std::string(substitute(f.code)) + "\"");
+    }
+    std::string substitutions(std::string_view, const ReportRunner* runner) const {
+        std::string t;
+        for (const Substitution& s : made_) {
+            const std::string item = "\"" + std::string(s.from) + "\" written as \"" + std::string(s.to) + "\"";
+            if (t.find(item) != std::string::npos) continue;
+            if (!t.empty()) t += ", ";
+            t += where_held(s.from, runner) + item;
+        }
+        return t;
+    }
+    // A value as it may be quoted in a message: control characters shown as "?".
+    static std::string printable(std::string_view v) {
+        std::string out(v);
+        for (char& c : out)
+            if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
+        return out;
+    }
+
+public:
+
+private:
     const Job& job_;
     const TransferSettings& settings_;
     CallSession session_;
+    std::vector<Substitution> made_;
 };
 
 }  // namespace
@@ -153,7 +209,7 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     TransferRun gen(job, settings);
     TransferCounts counts;
     if (xml) {
-        check_markup(job.frame, "frame", 0);
+        check_markup(job.frame, "frame", "header");
         out.write(gen.encoded_line(
             std::string("<?xml version=\"1.0\" encoding=\"") + encoding_name(settings.encoding) + "\"?>", {"header"}));
         out.write(gen.encoded_line("<kotkv xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">", {"header"}));
@@ -168,18 +224,17 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     std::string text, line, proto_line;
     std::size_t length = 0;
     for (std::size_t index = 1;; ++index) {
-        const Where report{"report", index}, report_protocol{"report", index, true};
+        if (!source.next(element, text, length)) break;
+        const std::size_t at = source.line_number();
+        const Where report{"report", index, false, at}, report_protocol{"report", index, true, at};
         bool read = false;  // whether the report could be read into its object
         try {
-            if (!source.next(element, text, length)) break;
             if (length > kMaxLineBytes) throw ReportFailure(report.text() + ": " + line_too_long_text(length));
-            if (xml) element ? check_markup(*element, param, index) : check_markup_text(text, param, index);
+            if (xml) element ? check_markup(*element, param, report.text()) : check_markup_text(text, param, report.text());
             run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
-            gen.encode_line(line, run(report, [&] { return runner->data(); }), report);
-            if (proto)
-                gen.encode_line(proto_line, run(report_protocol, [&] { return runner->protocol(false, {}); }),
-                                report_protocol);
+            gen.encode_line(line, run(report, [&] { return runner->data(); }), report, runner.get());
+            if (proto) gen.encode_protocol(proto_line, run(report_protocol, [&] { return runner->protocol(false, {}); }));
             out.write(line);
             if (proto) proto->write(proto_line);
             ++counts.written;
@@ -187,10 +242,13 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             if (!settings.keepGoing) throw;
             ++counts.failed;
             if (settings.leftOut) settings.leftOut(f);
-            // A report that cannot even be read has no protocol line of its own.
-            if (proto && read)
-                proto->write(gen.encoded_line(
-                    run(report_protocol, [&] { return runner->protocol(true, f.what()); }), report_protocol));
+            // Every report left out has its protocol line; one that could not
+            // be read is recorded with an empty data object.
+            if (proto) {
+                if (!read) runner->clear();
+                gen.encode_protocol(proto_line, run(report_protocol, [&] { return runner->protocol(true, f.what()); }));
+                proto->write(proto_line);
+            }
         }
         if (settings.progress && index % 100000 == 0) settings.progress(index);
     }

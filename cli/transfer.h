@@ -36,6 +36,10 @@ struct TransferSettings {
     Encoding encoding = Encoding::Latin1;
     bool crlf = false;
     bool keepGoing = false;
+    // Characters the encoding cannot hold are written as their usual
+    // substitutes (output_encoding.h), each substitution told to `note`.
+    bool transliterate = false;
+    std::function<void(const std::string&)> note;
     // Called with the failure of each report left out (keepGoing), and
     // with the number of reports read so far, every 100,000 reports.
     std::function<void(const ReportFailure&)> leftOut;

@@ -13,6 +13,7 @@
 #include "component/bindings/queries.h"
 #include "component/json_scan.h"
 #include "component/json_simd.h"
+#include "component/text_properties.h"
 #include "protocol/clsProtoEntry.h"
 #include "queries/clsGenAbfrStammdatenUV/clsGenAbfrStammdatenUV.h"
 #include "queries/clsGenAbfrVers/clsGenAbfrVers.h"
@@ -69,6 +70,19 @@ public:
     std::string protocol(bool error, std::string_view text) override {
         return proto_ ? (proto_entry_.*proto_)(obj_, error, text) : std::string();
     }
+    void clear() override {
+        static const Obj empty{};
+        json_binding::reset(obj_, empty);
+    }
+    Text find_text(const std::function<bool(std::string_view)>& test) const override {
+        Text found;
+        json_binding::each_text(obj_, std::string(), [&](const std::string& name, std::string_view value) {
+            if (!test(value)) return false;
+            found = {name, std::string(value)};
+            return true;
+        });
+        return found;
+    }
 
 private:
     // Text of valid UTF-8 without escapes.
@@ -83,8 +97,7 @@ private:
 
     template <class V>
     void read_value(const V& v) {
-        static const Obj empty{};
-        json_binding::reset(obj_, empty);
+        clear();
         json_binding::read(v, obj_, path_);
     }
 

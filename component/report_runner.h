@@ -4,6 +4,7 @@
 // procedure has one) is made from the same object.
 #pragma once
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -30,6 +31,15 @@ public:
     virtual std::string data() = 0;
     // Its protocol line. Throws Error.
     virtual std::string protocol(bool error, std::string_view text) = 0;
+    // Empties the data object: the protocol line of a report that could not
+    // be read is made from the empty object.
+    virtual void clear() = 0;
+    // The first text property of the report last read for which `test` is
+    // true, as {name, value} ("Vorgang.Vorname"); empty names when none is.
+    struct Text {
+        std::string name, value;
+    };
+    virtual Text find_text(const std::function<bool(std::string_view)>& test) const = 0;
 };
 
 struct RunnerSettings {

@@ -99,25 +99,26 @@ TEST(BadInput, EachKindOfBadReportLineFailsNamingTheReport) {
         std::string line;
         std::string failure;
     } cases[] = {
-        {"invalid JSON", R"({"Meldegrund":)", "report 2: not valid JSON: The JSON document has an improper structure: missing or superfluous commas, braces, missing keys, etc."},
-        {"wrong type", R"({"Meldegrund":62})", "report 2: args.objMeldung.Meldegrund: expected a string"},
-        {"unknown property", R"({"Meldgrund":"62"})", "report 2: args.objMeldung.Meldgrund: unknown property"},
-        {"out-of-range integer", R"({"KsLetzter":32768})", "report 2: args.objMeldung.KsLetzter: integer out of the 16-bit range"},
+        {"invalid JSON", R"({"Meldegrund":)", "report 2 (line 3): not valid JSON: The JSON document has an improper structure: missing or superfluous commas, braces, missing keys, etc."},
+        {"wrong type", R"({"Meldegrund":62})", "report 2 (line 3): args.objMeldung.Meldegrund: expected a string"},
+        {"unknown property", R"({"Meldgrund":"62"})", "report 2 (line 3): args.objMeldung.Meldgrund: unknown property"},
+        {"out-of-range integer", R"({"KsLetzter":32768})", "report 2 (line 3): args.objMeldung.KsLetzter: integer out of the 16-bit range"},
         {"too many entries", R"({"KsZeileA":[)" + repeat("\"A\",", 40000) + R"("A"]})",
-         "report 2: args.objMeldung.KsZeileA: more than 32767 entries"},
-        {"invalid UTF-8", "{\"Meldegrund\":\"6\xC3\"}", "report 2: not valid JSON: The input is not valid UTF-8"},
+         "report 2 (line 3): args.objMeldung.KsZeileA: more than 32767 entries"},
+        {"invalid UTF-8", "{\"Meldegrund\":\"6\xC3\"}", "report 2 (line 3): not valid JSON: The input is not valid UTF-8"},
         {"deep nesting", "{\"Vorgang\":" + repeat("[", 5000) + repeat("]", 5000) + "}",
-         "report 2: not valid JSON: The JSON document was too deep (too many nested objects and arrays)"},
+         "report 2 (line 3): not valid JSON: The JSON document was too deep (too many nested objects and arrays)"},
         {"not in the encoding", R"({"Meldegrund":"62","Meldungsart":1,"Vorgang":{"Aktenzeichen":"Жук"}})",
-         "report 2: the character at position 93 cannot be written in ISO-8859-1"},
+         "report 2 (line 3): Vorgang.Aktenzeichen \"Жук\": \"Ж\" (at position 93) cannot be written in ISO-8859-1"},
         {"control character", R"({"Meldegrund":"62","Meldungsart":1,"Personengruppe":"1\n9"})",
-         "report 2: the character at position 164 is a control character, which a transfer file cannot carry"},
+         "report 2 (line 3): Personengruppe \"1?9\": the control character U+000A (at position 164) cannot be written "
+         "in a transfer file"},
         {"line without end", std::string(2 << 20, ' ') + "{",
-         "report 2: line of 2097153 bytes or more, longer than the limit of 1048576 bytes"},
+         "report 2 (line 3): line of 2097153 bytes or more, longer than the limit of 1048576 bytes"},
     };
     const cli::Job job = meldung_job();
     for (const auto& c : cases) {
-        std::istringstream ndjson(good + "\n" + c.line + "\n" + good + "\n");
+        std::istringstream ndjson(good + "\n\n" + c.line + "\n" + good + "\n");
         cli::ReportSource source(ndjson);
         cli::StringSink out;
         cli::TransferSettings settings;
@@ -128,14 +129,23 @@ TEST(BadInput, EachKindOfBadReportLineFailsNamingTheReport) {
             EXPECT_EQ(std::string(f.what()), c.failure) << c.kind;
         }
         // With --keep-going the report is left out and the others are written.
-        std::istringstream again(good + "\n" + c.line + "\n" + good + "\n");
+        std::istringstream again(good + "\n\n" + c.line + "\n" + good + "\n");
         cli::ReportSource source2(again);
         cli::StringSink kept;
         settings.keepGoing = true;
-        const auto counts = cli::write_transfer(job, source2, settings, kept, nullptr);
+        cli::StringSink protocol;
+        const auto counts = cli::write_transfer(job, source2, settings, kept, &protocol);
         EXPECT_EQ(counts.written, 2u) << c.kind;
         EXPECT_EQ(counts.failed, 1u) << c.kind;
         EXPECT_EQ(std::count(kept.text.begin(), kept.text.end(), '\n'), 5) << c.kind;
+        // Every report has its protocol line, the one left out with its
+        // error marker and text, written whatever characters it holds.
+        std::istringstream lines(protocol.text);
+        std::string first, second, third;
+        std::getline(lines, first), std::getline(lines, second), std::getline(lines, third);
+        EXPECT_EQ(first, third) << c.kind;
+        EXPECT_NE(second.find(";1;\"report 2 (line 3): "), std::string::npos) << c.kind << ": " << second;
+        EXPECT_EQ(second.find_first_of("\t\n\r"), std::string::npos) << c.kind;
     }
 }
 

@@ -66,7 +66,7 @@ protected:
         s << in.rdbuf();
         EXPECT_EQ(s.str(), "previous content");
         for (const auto& e : fs::directory_iterator(dir_))
-            EXPECT_EQ(e.path().filename().string().find(".tmp-"), std::string::npos) << e.path();
+            EXPECT_EQ(e.path().filename().string().find(".tamrel-"), std::string::npos) << e.path();
     }
 
     fs::path dir_;
@@ -95,7 +95,7 @@ TEST_F(GenerateFiles, AnInterruptedRunLeavesTheOldFileAndNoPartialOne) {
     ASSERT_EQ(::write(fifo, line.data(), line.size()), static_cast<ssize_t>(line.size()));
     auto temp_exists = [&] {
         for (const auto& e : fs::directory_iterator(dir_))
-            if (e.path().filename().string().find(".tmp-") != std::string::npos) return true;
+            if (e.path().filename().string().find(".tamrel-") != std::string::npos) return true;
         return false;
     };
     for (int i = 0; i < 500 && !temp_exists(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
