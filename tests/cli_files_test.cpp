@@ -17,6 +17,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "test_support.h"
+
 namespace fs = std::filesystem;
 using nlohmann::json;
 
@@ -25,10 +27,7 @@ namespace {
 class GenerateFiles : public ::testing::Test {
 protected:
     void SetUp() override {
-        dir_ = fs::temp_directory_path() / ("tamrel-files-" + std::to_string(::getpid()) + "-" +
-                                            ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(dir_);
-        fs::create_directories(dir_);
+        dir_ = tamrel::testing::fresh_folder("files");
         json job = {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"}, {"strFileNr", "1"},
                     {"strFirma", "F"},          {"datDate", "2024-03-01T10:11:12"}, {"reports_file", "reports.ndjson"}};
         std::ofstream(dir_ / "job.json") << job.dump();

@@ -15,6 +15,8 @@
 #include "cli/atomic_file.h"
 #include "cli/output_encoding.h"
 
+#include "test_support.h"
+
 namespace fs = std::filesystem;
 using nlohmann::json;
 using namespace tamrel::cli;
@@ -36,10 +38,7 @@ struct Outcome {
 class Outputs : public ::testing::Test {
 protected:
     void SetUp() override {
-        dir_ = fs::temp_directory_path() / ("tamrel-outputs-" + std::to_string(::getpid()) + "-" +
-                                            ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(dir_);
-        fs::create_directories(dir_);
+        dir_ = tamrel::testing::fresh_folder("outputs");
         write_job(json::array({report("Muster")}));
     }
     void TearDown() override { fs::remove_all(dir_); }

@@ -41,10 +41,7 @@ std::string slurp(const fs::path& p) {
 class Cli : public ::testing::Test {
 protected:
     void SetUp() override {
-        dir_ = fs::temp_directory_path() / ("tamrel-cli-" + std::to_string(::getpid()) + "-" +
-                                            ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(dir_);
-        fs::create_directories(dir_);
+        dir_ = tamrel::testing::fresh_folder("cli");
     }
     void TearDown() override { fs::remove_all(dir_); }
 

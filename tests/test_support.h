@@ -1,5 +1,9 @@
 // Helpers shared by the tests: a host whose log lines and clock the test owns.
 #pragma once
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -40,5 +44,20 @@ inline std::string n(std::string_view v, std::size_t width) {
     return std::string(width > v.size() ? width - v.size() : 0, '0') + std::string(v);
 }
 inline std::string blanks(std::size_t width) { return std::string(width, ' '); }
+
+}  // namespace tamrel::testing
+
+namespace tamrel::testing {
+
+// A fresh, empty folder of the running test's own ("tamrel-KIND-PID-TEST"):
+// each test of a fixture that writes files works in its own.
+inline std::filesystem::path fresh_folder(const std::string& kind) {
+    const auto dir = std::filesystem::temp_directory_path() /
+                     ("tamrel-" + kind + "-" + std::to_string(::getpid()) + "-" +
+                      ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    std::filesystem::remove_all(dir);
+    std::filesystem::create_directories(dir);
+    return dir;
+}
 
 }  // namespace tamrel::testing
