@@ -59,18 +59,24 @@ void unregister_temp(int slot) {
     if (slot >= 0) g_temp_used[slot] = 0;
 }
 
+// A new temporary file beside `real`, its name in `name`; -1 on failure.
+int make_temp(const std::string& real, std::string& name) {
+    const std::string pattern = temp_pattern(real);
+    std::vector<char> buf(pattern.begin(), pattern.end());
+    buf.push_back('\0');
+    const int fd = ::mkstemp(buf.data());
+    if (fd >= 0) name = buf.data();
+    return fd;
+}
+
 }  // namespace
 
 AtomicFile::AtomicFile(OutputTarget target) : target_(std::move(target)) {
     install_handlers_once();
     int fd = -1;
     if (target_.is_file()) {
-        std::string pattern = temp_pattern(target_.real);
-        std::vector<char> buf(pattern.begin(), pattern.end());
-        buf.push_back('\0');
-        fd = ::mkstemp(buf.data());
+        fd = make_temp(target_.real, temp_);
         if (fd < 0) throw std::runtime_error(target_.given + ": cannot create a temporary file: " + std::strerror(errno));
-        temp_ = buf.data();
         slot_ = register_temp(temp_);
         // A new file gets the mode the umask allows, a replaced one keeps
         // its mode and, where the process may, its owner.
@@ -138,14 +144,12 @@ void AtomicFile::install() {
     // The file replaced stays reachable under a second name until every
     // output is in place, so that a failure can put it back.
     if (target_.kind == OutputTarget::ReplaceFile) {
-        std::string pattern = temp_pattern(target_.real);
-        std::vector<char> buf(pattern.begin(), pattern.end());
-        buf.push_back('\0');
-        const int fd = ::mkstemp(buf.data());
+        std::string name;
+        const int fd = make_temp(target_.real, name);
         if (fd >= 0) {
             ::close(fd);
-            ::unlink(buf.data());
-            if (::link(target_.real.c_str(), buf.data()) == 0) backup_ = buf.data();
+            ::unlink(name.c_str());
+            if (::link(target_.real.c_str(), name.c_str()) == 0) backup_ = name;
         }
     }
     std::fclose(file_);

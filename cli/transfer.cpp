@@ -138,7 +138,7 @@ public:
         const Unencodable mode = settings_.transliterate ? Unencodable::Transliterate : Unencodable::Fail;
         if (const EncodeFailure f = encode(out, record, settings_.encoding, mode, &made_))
             throw ReportFailure(where.text() + ": " + unwritable(f, runner));
-        if (!made_.empty() && settings_.note) settings_.note(where.text() + ": " + substitutions(record, runner));
+        if (!made_.empty() && settings_.note) settings_.note(where.text() + ": " + substitutions(runner));
         out += settings_.crlf ? "\r\n" : "\n";
     }
     // A protocol line is always written: characters the encoding cannot
@@ -174,7 +174,7 @@ private:
                (substitute(f.code).empty() ? std::string()
                 : "; --transliterate writes it as \"" + std::string(substitute(f.code)) + "\"");
     }
-    std::string substitutions(std::string_view, const ReportRunner* runner) const {
+    std::string substitutions(const ReportRunner* runner) const {
         std::string t;
         for (const Substitution& s : made_) {
             const std::string item = "\"" + std::string(s.from) + "\" written as \"" + std::string(s.to) + "\"";
@@ -192,9 +192,6 @@ private:
         return out;
     }
 
-public:
-
-private:
     const Job& job_;
     const TransferSettings& settings_;
     CallSession session_;
