@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cctype>
+#include <cstdio>
 #include <cstring>
 
 namespace tamrel::cli {
@@ -95,6 +96,13 @@ std::string_view substitute(char32_t c) {
         case 0x00BE: return "3/4";
         default: return {};
     }
+}
+
+std::string unicode_name(std::string_view character) {
+    std::size_t i = 0;
+    char name[16];
+    std::snprintf(name, sizeof name, "U+%04X", character.empty() ? 0u : static_cast<unsigned>(decode(character, i)));
+    return name;
 }
 
 std::optional<Encoding> parse_encoding(std::string_view name) {

@@ -41,6 +41,9 @@ struct EncodeFailure {
     explicit operator bool() const { return position != 0; }
 };
 
+// "U+0141" for the UTF-8 character "Ł": a name that survives any encoding.
+std::string unicode_name(std::string_view character);
+
 struct Substitution {
     std::string_view from;  // the character's bytes in the text
     std::string_view to;

@@ -138,7 +138,11 @@ public:
         const Unencodable mode = settings_.transliterate ? Unencodable::Transliterate : Unencodable::Fail;
         if (const EncodeFailure f = encode(out, record, settings_.encoding, mode, &made_))
             throw ReportFailure(where.text() + ": " + unwritable(f, runner));
-        if (!made_.empty() && settings_.note) settings_.note(where.text() + ": " + substitutions(runner));
+        substituted_.clear();
+        if (!made_.empty()) {
+            substituted_ = substitutions(runner);
+            if (settings_.note) settings_.note(where.text() + ": " + substituted_);
+        }
         out += settings_.crlf ? "\r\n" : "\n";
     }
     // A protocol line is always written: characters the encoding cannot
@@ -148,6 +152,8 @@ public:
         encode(out, line, settings_.encoding, Unencodable::Replace);
         out += settings_.crlf ? "\r\n" : "\n";
     }
+    // What the last record's substitutions were, in words (empty: none).
+    const std::string& substituted() const { return substituted_; }
     std::string encoded_line(std::string_view record, const Where& where) {
         std::string out;
         encode_line(out, record, where);
@@ -164,9 +170,7 @@ private:
     std::string unwritable(const EncodeFailure& f, const ReportRunner* runner) const {
         std::string held = where_held(f.character, runner);
         if (f.control) {
-            char code[16];
-            std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(f.code));
-            return held + "the control character " + code + " (at position " + std::to_string(f.position) +
+            return held + "the control character " + unicode_name(f.character) + " (at position " + std::to_string(f.position) +
                    ") cannot be written in a transfer file";
         }
         return held + "\"" + std::string(f.character) + "\" (at position " + std::to_string(f.position) +
@@ -177,7 +181,8 @@ private:
     std::string substitutions(const ReportRunner* runner) const {
         std::string t;
         for (const Substitution& s : made_) {
-            const std::string item = "\"" + std::string(s.from) + "\" written as \"" + std::string(s.to) + "\"";
+            const std::string item = "\"" + std::string(s.from) + "\" (" + unicode_name(s.from) + ") written as \"" +
+                                     std::string(s.to) + "\"";
             if (t.find(item) != std::string::npos) continue;
             if (!t.empty()) t += ", ";
             t += where_held(s.from, runner) + item;
@@ -196,6 +201,7 @@ private:
     const TransferSettings& settings_;
     CallSession session_;
     std::vector<Substitution> made_;
+    std::string substituted_;
 };
 
 }  // namespace
@@ -231,7 +237,10 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
             gen.encode_line(line, run(report, [&] { return runner->data(); }), report, runner.get());
-            if (proto) gen.encode_protocol(proto_line, run(report_protocol, [&] { return runner->protocol(false, {}); }));
+            // The substitutions of the record are the protocol line's text.
+            if (proto)
+                gen.encode_protocol(proto_line,
+                                    run(report_protocol, [&] { return runner->protocol(false, gen.substituted()); }));
             out.write(line);
             if (proto) proto->write(proto_line);
             ++counts.written;

@@ -171,9 +171,14 @@ TEST_F(Outputs, TransliterationWritesTheUsualSubstitutesAndSaysSo) {
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_NE(file("out.txt").find("Lukasz G\xFCgel oe "), std::string::npos);
     EXPECT_NE(r.err.find("report 1: Vorgang.Aktenzeichen \"\xC5\x81ukasz G\xC3\xBC\xC4\x9F\x65l \xC5\x93\": \"\xC5\x81\" "
-                         "written as \"L\""),
+                         "(U+0141) written as \"L\""),
               std::string::npos)
         << r.err;
+    // The protocol line records them as its text, in its own encoding.
+    ASSERT_EQ(run("generate job.json -o out.txt --protocol p.txt --transliterate").status, 0);
+    EXPECT_NE(file("p.txt").find(";0;\"Vorgang.Aktenzeichen ;Lukasz G\xFCgel oe;: ;L; (U+0141) written as ;L;, "),
+              std::string::npos)
+        << file("p.txt");
 }
 
 TEST_F(Outputs, EncodingsAreAcceptedInTheirCommonSpellings) {
