@@ -76,7 +76,8 @@ AtomicFile::AtomicFile(OutputTarget target) : target_(std::move(target)) {
     int fd = -1;
     if (target_.is_file()) {
         fd = make_temp(target_.real, temp_);
-        if (fd < 0) throw std::runtime_error(target_.given + ": cannot create a temporary file: " + std::strerror(errno));
+        if (fd < 0)
+            throw std::runtime_error(target_.given + ": cannot create a temporary file: " + std::strerror(errno));
         slot_ = register_temp(temp_);
         // A new file gets the mode the umask allows, a replaced one keeps
         // its mode and, where the process may, its owner.

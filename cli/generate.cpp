@@ -71,8 +71,6 @@ void sweep(const Outputs& outputs) {
         for (const std::string& note : sweep_leftovers(folder)) std::cerr << "tamrel generate: " << note << '\n';
 }
 
-std::string reason() { return std::strerror(errno); }
-
 }  // namespace
 
 int generate(const GenerateOptions& o) {
@@ -88,9 +86,10 @@ int generate(const GenerateOptions& o) {
             throw std::runtime_error("--protocol: " + std::string(job.info->cls) + " has no protocol line");
         const std::string file = o.reports.empty() ? job.reportsFile : o.reports;
         if (!file.empty()) {
-            if (std::filesystem::is_directory(file)) throw std::runtime_error(file + ": is a folder, not a reports file");
+            if (std::filesystem::is_directory(file))
+                throw std::runtime_error(file + ": is a folder, not a reports file");
             reports_file.open(file, std::ios::binary);
-            if (!reports_file) throw std::runtime_error(file + ": cannot be read: " + reason());
+            if (!reports_file) throw std::runtime_error(file + ": cannot be read: " + std::strerror(errno));
         }
         std::vector<std::string> inputs{o.job};
         if (!file.empty()) inputs.push_back(file);

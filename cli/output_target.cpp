@@ -40,16 +40,14 @@ struct Identity {
     std::string canonical;
 };
 
+Identity identity_of_existing(const struct stat& s) {
+    return {true, s.st_dev, s.st_ino, S_ISCHR(s.st_mode), {}};
+}
+
 Identity identity_of_path(const std::string& path) {
-    Identity id;
     struct stat s {};
-    if (::stat(path.c_str(), &s) == 0) {
-        id.exists = true;
-        id.dev = s.st_dev;
-        id.ino = s.st_ino;
-        id.device = S_ISCHR(s.st_mode);
-        return id;
-    }
+    if (::stat(path.c_str(), &s) == 0) return identity_of_existing(s);
+    Identity id;
     std::error_code ec;
     id.canonical = fs::weakly_canonical(fs::absolute(path), ec).string();
     if (ec) id.canonical = path;
@@ -58,16 +56,10 @@ Identity identity_of_path(const std::string& path) {
 
 Identity identity_of(const OutputTarget& t) {
     if (t.kind != OutputTarget::Stdout) return identity_of_path(t.real);
-    Identity id;
     struct stat s {};
-    if (::fstat(STDOUT_FILENO, &s) == 0) {
-        id.exists = true;
-        id.dev = s.st_dev;
-        id.ino = s.st_ino;
-        id.device = S_ISCHR(s.st_mode);
-    } else {
-        id.canonical = "-";
-    }
+    if (::fstat(STDOUT_FILENO, &s) == 0) return identity_of_existing(s);
+    Identity id;
+    id.canonical = "-";
     return id;
 }
 

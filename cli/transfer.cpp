@@ -170,7 +170,8 @@ private:
     std::string unwritable(const EncodeFailure& f, const ReportRunner* runner) const {
         std::string held = where_held(f.character, runner);
         if (f.control) {
-            return held + "the control character " + unicode_name(f.character) + " (at position " + std::to_string(f.position) +
+            return held + "the control character " + unicode_name(f.character) + " (at position " +
+                   std::to_string(f.position) +
                    ") cannot be written in a transfer file";
         }
         return held + "\"" + std::string(f.character) + "\" (at position " + std::to_string(f.position) +
@@ -233,7 +234,8 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
         bool read = false;  // whether the report could be read into its object
         try {
             if (length > kMaxLineBytes) throw ReportFailure(report.text() + ": " + line_too_long_text(length));
-            if (xml) element ? check_markup(*element, param, report.text()) : check_markup_text(text, param, report.text());
+            if (xml)
+                element ? check_markup(*element, param, report.text()) : check_markup_text(text, param, report.text());
             run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
             gen.encode_line(line, run(report, [&] { return runner->data(); }), report, runner.get());

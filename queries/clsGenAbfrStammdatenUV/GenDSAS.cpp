@@ -5,7 +5,9 @@
 namespace tamrel {
 
 std::string clsGenAbfrStammdatenUV::GenData(const AbfrStammdatenUV& a, DatensatzData& dd, const Date& datDate) {
-    return call(with_args("clsGenAbfrStammdatenUV.GenData(", ObjArg{"objAbfrStammdatenUV"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+    return call(with_args("clsGenAbfrStammdatenUV.GenData(", ObjArg{"objAbfrStammdatenUV"},
+                          ObjArg{"udtDatensatzData"}, datDate),
+                [&](int& line) {
         return record_then_blocks(
             line, datDate, 784, [&](std::string& out, const Date& date) { GenDSAS(out, a, dd, date); },
             [&](std::string& out) {

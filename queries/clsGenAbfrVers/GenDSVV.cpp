@@ -6,7 +6,8 @@
 namespace tamrel {
 
 std::string clsGenAbfrVers::GenData(const AbfrVers& a, DatensatzData& dd, const Date& datDate) const {
-    return call(with_args("clsGenAbfrVers.GenData(", ObjArg{"objAbfrVers"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+    return call(with_args("clsGenAbfrVers.GenData(", ObjArg{"objAbfrVers"}, ObjArg{"udtDatensatzData"}, datDate),
+                [&](int& line) {
         return record_then_blocks(
             line, datDate, 575, [&](std::string& out, const Date& date) { GenDSVV(out, a, dd, date); },
             [&](std::string& out) {

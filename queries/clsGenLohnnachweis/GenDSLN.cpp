@@ -8,7 +8,9 @@ namespace tamrel {
 
 std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd, const Date& datDate) {
     const std::size_t positions = l.AnzahlPositionen > 0 ? static_cast<std::size_t>(l.AnzahlPositionen) : 0;
-    return call(with_args("clsGenLohnnachweis.GenData(", ObjArg{"objLohnnachweis"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+    return call(with_args("clsGenLohnnachweis.GenData(", ObjArg{"objLohnnachweis"},
+                          ObjArg{"udtDatensatzData"}, datDate),
+                [&](int& line) {
         return record_then_blocks(
             line, datDate, 494 + 321 + 59 * positions,
             [&](std::string& out, const Date& date) { GenDSLN(out, l, dd, date); },

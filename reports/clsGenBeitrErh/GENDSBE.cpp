@@ -53,7 +53,8 @@ void GenDBHB(std::string& out, const BeitrErh& b) {
 }  // namespace
 
 std::string clsGenBeitrErh::GenData(const BeitrErh& b, DatensatzData& dd, const Date& datDate) const {
-    return call(with_args("clsGenBeitrErh.GenData(", ObjArg{"objBeitrErh"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+    return call(with_args("clsGenBeitrErh.GenData(", ObjArg{"objBeitrErh"}, ObjArg{"udtDatensatzData"}, datDate),
+                [&](int& line) {
             std::string out;
             out.reserve(613);
             line = 1;

@@ -11,7 +11,8 @@ std::string clsGenBeitrNachw::GenVOSZ(std::string_view strBNRAb, std::string_vie
                                       std::string_view strFileNr, std::int32_t enmVerfahren,
                                       std::string_view strFirma, std::string& strDatum, const Date& datDate) const {
     return call(
-        with_args("clsGenBeitrNachw.GenVOSZ(", strBNRAb, strBNREm, strFileNr, enmVerfahren, strFirma, strDatum, datDate),
+        with_args("clsGenBeitrNachw.GenVOSZ(", strBNRAb, strBNREm, strFileNr, enmVerfahren, strFirma, strDatum,
+                  datDate),
         [&](int& line) {
             line = 1;
             if (enmVerfahren == bnEmpfBkn) IsEmpfBkn(strBNREm);  // consulted; the code depends on 4 alone

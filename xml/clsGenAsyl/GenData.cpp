@@ -56,7 +56,8 @@ void block(std::string& out, const char* context, std::string_view name, bool ni
 }  // namespace
 
 std::string clsGenAsyl::GenData(const Asyl& a, DatensatzData& dd, const Date& datDate) const {
-    return call(with_args("clsGenAsyl.GenData(", ObjArg{"objAsyl"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+    return call(with_args("clsGenAsyl.GenData(", ObjArg{"objAsyl"}, ObjArg{"udtDatensatzData"}, datDate),
+                [&](int& line) {
         line = 1;
         const Date date = mlGen::GetDate(datDate);
         std::string out;
