@@ -82,8 +82,8 @@ int generate(const GenerateOptions& o) {
     try {
         job = read_job(o.job);
         if (!enc) throw std::runtime_error(std::string("--encoding: expected ") + kEncodingSpellings);
-        if (!o.protocol.empty() && !job.info->protoMethod)
-            throw std::runtime_error("--protocol: " + std::string(job.info->cls) + " has no protocol line");
+        if (!o.protocol.empty() && job.procedure->protoMethod.empty())
+            throw std::runtime_error("--protocol: " + std::string(job.procedure->cls) + " has no protocol line");
         const std::string file = o.reports.empty() ? job.reportsFile : o.reports;
         if (!file.empty()) {
             if (std::filesystem::is_directory(file))

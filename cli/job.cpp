@@ -9,6 +9,7 @@
 
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
+#include "component/procedure_methods.h"
 #include "component/json_binding.h"
 #include "component/shared_bindings.h"
 #include "component/json_limits.h"
@@ -16,26 +17,6 @@
 namespace tamrel::cli {
 
 using nlohmann::json;
-
-const ClassInfo* find_class(const std::string& cls) {
-    static const ClassInfo classes[] = {
-        {"clsGenBeitrNachw", "objBeitrNachw", "CreateProtoBeitr", ClassInfo::BeitrNachw},
-        {"clsGenBeitrErh", "objBeitrErh", "CreateProtoBeitrErh", ClassInfo::BeitrErh},
-        {"clsGenMeldung", "objMeldung", "CreateProtoMeld", ClassInfo::Meldung},
-        {"clsGenErst", "objErst", "CreateProtoErst", ClassInfo::GroupA},
-        {"clsGenZahl", "objZahl", "CreateProtoZahl", ClassInfo::GroupA},
-        {"clsGenBetrieb", "objBetrieb", "CreateProtoBetrieb", ClassInfo::GroupA},
-        {"clsGenArbeitsBesch", "objArbeitsBesch", "CreateProtoArbeitsBesch", ClassInfo::GroupA},
-        {"clsGenEntgelt", "objEntgelt", "CreateProtoEntgelt", ClassInfo::GroupA},
-        {"clsGenAbfrVers", "objAbfrVers", "CreateProtoAbfrVers", ClassInfo::GroupA},
-        {"clsGenAsyl", "objAsyl", nullptr, ClassInfo::Asyl},
-        {"clsGenAbfrStammdatenUV", "objAbfrStammdatenUV", "CreateProtoAbfrStammdatenUV", ClassInfo::GroupA},
-        {"clsGenLohnnachweis", "objLohnnachweis", "CreateProtoLohnnachweis", ClassInfo::GroupA},
-    };
-    for (const auto& c : classes)
-        if (cls == c.cls) return &c;
-    return nullptr;
-}
 
 namespace {
 
@@ -56,23 +37,20 @@ std::string read_job_text(const std::string& path) {
     return text;
 }
 
-// Reads the job-level values as the methods will read them, so that a value
-// of the wrong type is reported as a fault of the job, before any output.
-void check_values(const Job& job, const std::string& path) {
+// Reads the job-level values as the methods read them, so that a value of
+// the wrong type is reported as a fault of the job, before any output.
+void read_values(Job& job, const json& j, const std::string& path) {
     try {
         CallSession session(job.now.is_null() ? nullptr : &job.now, job.tests.is_null() ? nullptr : &job.tests);
-        json args = job.frame;
-        args["enmVerfahren"] = job.enmVerfahren;
-        args["udtDSKOData"] = job.dsko;
-        args["udtDatensatzData"] = job.datensatz;
-        if (!job.datDate.is_null()) args["datDate"] = job.datDate;
+        json args = json::object();
+        for (const char* k : {"strBNRAb", "strBNREm", "strFileNr", "strFirma", "strDatum", "datDate"})
+            if (j.contains(k)) args[k] = j[k];
+        args["enmVerfahren"] = j.value("enmVerfahren", json(0));
+        args["udtDSKOData"] = j.value("udtDSKOData", json::object());
+        args["udtDatensatzData"] = j.value("udtDatensatzData", json::object());
         Invocation inv(args, session.host());
-        for (const char* k : {"strBNRAb", "strBNREm", "strFileNr", "strFirma"}) inv.str(k);
-        inv.opt_str("strDatum");
-        job.info->frames == ClassInfo::BeitrNachw ? inv.enm("enmVerfahren") : inv.verf("enmVerfahren");
-        inv.date("datDate");
-        inv.object<DSKOData>("udtDSKOData");
-        inv.object<DatensatzData>("udtDatensatzData");
+        job.frame = read_frame_values(inv, *job.procedure);
+        job.datensatz = inv.object<DatensatzData>("udtDatensatzData");
     } catch (const json_binding::RequestError& e) {
         std::string_view what = e.what();
         if (what.starts_with("args.")) what.remove_prefix(5);
@@ -108,17 +86,11 @@ Job parse_job(const json& j, const std::string& path, const std::string& folder)
     Job job;
     if (!j.contains("class")) throw std::runtime_error(path + ": class: missing");
     if (!j["class"].is_string()) throw std::runtime_error(path + ": class: expected a string");
-    job.info = find_class(j["class"].get<std::string>());
-    if (!job.info) throw std::runtime_error(path + ": class: unknown generator class " + j["class"].get<std::string>());
-    job.frame = json::object();
-    for (const char* k : {"strBNRAb", "strBNREm", "strFileNr", "strFirma", "strDatum"}) {
-        if (j.contains(k)) job.frame[k] = j[k];
-        else if (std::string(k) != "strDatum") throw std::runtime_error(path + ": " + k + ": missing");
-    }
-    if (j.contains("enmVerfahren")) job.enmVerfahren = j["enmVerfahren"];
-    if (j.contains("datDate")) job.datDate = j["datDate"];
-    if (j.contains("udtDSKOData")) job.dsko = j["udtDSKOData"];
-    if (j.contains("udtDatensatzData")) job.datensatz = j["udtDatensatzData"];
+    job.procedure = find_procedure(j["class"].get_ref<const std::string&>());
+    if (!job.procedure)
+        throw std::runtime_error(path + ": class: unknown generator class " + j["class"].get<std::string>());
+    for (const char* k : {"strBNRAb", "strBNREm", "strFileNr", "strFirma"})
+        if (!j.contains(k)) throw std::runtime_error(path + ": " + k + ": missing");
     if (j.contains("now")) job.now = j["now"];
     if (j.contains("tests")) job.tests = j["tests"];
     bool inline_reports = j.contains("reports"), file_reports = j.contains("reports_file");
@@ -133,7 +105,7 @@ Job parse_job(const json& j, const std::string& path, const std::string& folder)
         if (p.is_relative()) p = std::filesystem::path(folder) / p;
         job.reportsFile = p.string();
     }
-    check_values(job, path);
+    read_values(job, j, path);
     return job;
 }
 

@@ -7,24 +7,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include "component/procedure.h"
+
 namespace tamrel::cli {
 
-struct ClassInfo {
-    const char* cls;
-    const char* objParam;     // the data object's parameter name in GenData
-    const char* protoMethod;  // clsProtoEntry method, or nullptr
-    enum Frames { GroupA, Meldung, BeitrErh, BeitrNachw, Asyl } frames;
-};
-
-const ClassInfo* find_class(const std::string& cls);
-
 struct Job {
-    const ClassInfo* info = nullptr;
-    nlohmann::json frame;       // strBNRAb, strBNREm, strFileNr, strFirma, strDatum
-    nlohmann::json enmVerfahren = 0;
-    nlohmann::json datDate;     // null when absent
-    nlohmann::json dsko = nlohmann::json::object();
-    nlohmann::json datensatz = nlohmann::json::object();
+    const ProcedureDescriptor* procedure = nullptr;
+    FrameValues frame;       // strBNRAb, …, enmVerfahren, datDate, udtDSKOData
+    DatensatzData datensatz;
     nlohmann::json now;         // null when absent
     nlohmann::json tests;       // null when absent
     nlohmann::json reports;     // array, or null when reportsFile is used

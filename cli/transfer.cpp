@@ -8,38 +8,12 @@
 #include "component/report_runner.h"
 #include "component/shared_bindings.h"
 #include "core/error.h"
+#include "xml/clsGenAsyl/markup_check.h"
 
 namespace tamrel::cli {
 namespace {
 
 using nlohmann::json;
-
-// Values of the XML report must hold no markup characters: the library
-// inserts them as they are.
-void check_markup(const json& v, const std::string& path, const std::string& where) {
-    if (v.is_string()) {
-        const auto& s = v.get_ref<const std::string&>();
-        if (s.find_first_of("&<>") != std::string::npos)
-            throw ReportFailure(where + ": " + path +
-                                ": holds a markup character (&, < or >), which an XML report cannot carry");
-    } else if (v.is_object()) {
-        for (const auto& [k, e] : v.items()) check_markup(e, path + "." + k, where);
-    } else if (v.is_array()) {
-        std::size_t i = 1;
-        for (const auto& e : v) check_markup(e, path + "[" + std::to_string(i++) + "]", where);
-    }
-}
-
-void check_markup_text(const std::string& line, const std::string& param, const std::string& where) {
-    if (line.find_first_of("&<>") == std::string::npos) return;
-    json parsed;
-    try {
-        parsed = parse_bounded(line);
-    } catch (const std::exception&) {
-        return;  // not JSON: the reader reports it
-    }
-    check_markup(parsed, param, where);
-}
 
 // Where a step runs ("report 12", "report 12 protocol", "DSKO"), put into
 // words only when the step fails.
@@ -71,6 +45,21 @@ auto run(const Where& where, F&& step) -> decltype(step()) {
     }
 }
 
+// The texts of an XML report are checked for markup before it is built.
+void check_frame_markup(const FrameValues& f) {
+    const std::pair<const char*, const std::string*> texts[] = {{"strBNRAb", &f.strBNRAb}, {"strBNREm", &f.strBNREm},
+                                                                {"strDatum", &f.strDatum}, {"strFileNr", &f.strFileNr},
+                                                                {"strFirma", &f.strFirma}};
+    for (const auto& [name, value] : texts)
+        if (xml::holds_markup(*value))
+            throw ReportFailure("header: frame." + std::string(name) + ": " + std::string(xml::kMarkupFault));
+}
+void check_report_markup(const ReportRunner& runner, const std::string& param, const Where& where) {
+    const ReportRunner::Text t = runner.find_text(xml::holds_markup);
+    if (!t.name.empty())
+        throw ReportFailure(where.text() + ": " + param + "." + t.name + ": " + std::string(xml::kMarkupFault));
+}
+
 class TransferRun {
 public:
     TransferRun(const Job& job, const TransferSettings& s)
@@ -78,53 +67,29 @@ public:
           settings_(s),
           session_(job.now.is_null() ? nullptr : &job.now, job.tests.is_null() ? nullptr : &job.tests) {}
 
-    // Calls a method of the job's class (or of clsProtoEntry for the
-    // protocol lines) with `args`.
-    std::string call_method(const char* method, const json& args, const Where& where) {
-        return run(where, [&] {
-            const bool protocol = std::string_view(method).starts_with("CreateProto");
-            const Method& m = CallSession::method(protocol ? "clsProtoEntry" : job_.info->cls, method);
-            return session_.invoke(m, args);
+    // The frame records, by the procedure's typed calls.
+    std::string vosz() {
+        return run({"header VOSZ"}, [&] {
+            FrameValues v = job_.frame;
+            return job_.procedure->GenVOSZ(session_.host(), v);
         });
     }
-
-    json vosz_args() const {
-        json a = job_.frame;
-        a.erase("strCount");
-        if (job_.info->frames != ClassInfo::BeitrErh) a["enmVerfahren"] = job_.enmVerfahren;
-        if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
-        return a;
+    std::string dsko() {
+        return run({"DSKO"}, [&] {
+            FrameValues v = job_.frame;
+            return job_.procedure->GenDSKO(session_.host(), v);
+        });
     }
-    json dsko_args() const {
-        json a = {{"udtDSKOData", job_.dsko}};
-        if (job_.info->frames == ClassInfo::BeitrNachw) a["enmVerfahren"] = job_.enmVerfahren;
-        if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
-        return a;
-    }
-    json ncsz_args(std::size_t count) const {
-        json a = {{"strBNRAb", job_.frame.value("strBNRAb", json())},
-                  {"strBNREm", job_.frame.value("strBNREm", json())},
-                  {"strFileNr", job_.frame.value("strFileNr", json())},
-                  {"strCount", std::to_string(count)}};
-        if (job_.info->frames == ClassInfo::Meldung || job_.info->frames == ClassInfo::BeitrNachw)
-            a["enmVerfahren"] = job_.enmVerfahren;
-        if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
-        return a;
+    std::string ncsz(std::size_t count) {
+        return run({"trailer NCSZ"},
+                   [&] { return job_.procedure->GenNCSZ(session_.host(), job_.frame, std::to_string(count)); });
     }
 
-    // The runner that turns each report into its record: the record
-    // identification, procedure and date of the job, read once.
+    // The runner that turns each report into its record, with the record
+    // identification, procedure and date of the job.
     std::unique_ptr<ReportRunner> runner() const {
-        return run({"udtDatensatzData"}, [&] {
-            json a = {{"udtDatensatzData", job_.datensatz}, {"enmVerfahren", job_.enmVerfahren}};
-            if (!job_.datDate.is_null()) a["datDate"] = job_.datDate;
-            Invocation inv(a, session_.host());
-            RunnerSettings settings{&session_.host(), inv.object<DatensatzData>("udtDatensatzData"),
-                                    job_.info->frames == ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
-                                                                              : inv.verf("enmVerfahren"),
-                                    inv.date("datDate")};
-            return make_runner(job_.info->cls, settings);
-        });
+        const RunnerSettings settings{&session_.host(), job_.datensatz, job_.frame.enmVerfahren, job_.frame.datDate};
+        return job_.procedure->runner(*job_.procedure, settings);
     }
 
     // The record text in the file's encoding, with its line ending, into
@@ -209,21 +174,21 @@ private:
 
 TransferCounts write_transfer(const Job& job, ReportSource& source, const TransferSettings& settings, Sink& out,
                               Sink* proto) {
-    const bool xml = job.info->frames == ClassInfo::Asyl;
+    const bool xml = job.procedure->xml();
     TransferRun gen(job, settings);
     TransferCounts counts;
     if (xml) {
-        check_markup(job.frame, "frame", "header");
+        check_frame_markup(job.frame);
         out.write(gen.encoded_line(
             std::string("<?xml version=\"1.0\" encoding=\"") + encoding_name(settings.encoding) + "\"?>", {"header"}));
         out.write(gen.encoded_line("<kotkv xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">", {"header"}));
     }
     const Where vosz{"header VOSZ"}, dsko{"DSKO"}, ncsz{"trailer NCSZ"};
-    out.write(gen.encoded_line(gen.call_method("GenVOSZ", gen.vosz_args(), vosz), vosz));
-    if (!xml) out.write(gen.encoded_line(gen.call_method("GenDSKO", gen.dsko_args(), dsko), dsko));
+    out.write(gen.encoded_line(gen.vosz(), vosz));
+    if (!xml) out.write(gen.encoded_line(gen.dsko(), dsko));
 
     std::unique_ptr<ReportRunner> runner = gen.runner();
-    const std::string param = job.info->objParam;
+    const std::string param(job.procedure->objParam);
     const json* element = nullptr;
     std::string text, line, proto_line;
     std::size_t length = 0;
@@ -234,10 +199,9 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
         bool read = false;  // whether the report could be read into its object
         try {
             if (length > kMaxLineBytes) throw ReportFailure(report.text() + ": " + line_too_long_text(length));
-            if (xml)
-                element ? check_markup(*element, param, report.text()) : check_markup_text(text, param, report.text());
             run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
+            if (xml) check_report_markup(*runner, param, report);
             gen.encode_line(line, run(report, [&] { return runner->data(); }), report, runner.get());
             // The substitutions of the record are the protocol line's text.
             if (proto)
@@ -261,7 +225,7 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
         if (settings.progress && index % 100000 == 0) settings.progress(index);
     }
     const std::size_t count = counts.written + (xml ? 0 : 1);
-    out.write(gen.encoded_line(gen.call_method("GenNCSZ", gen.ncsz_args(count), ncsz), ncsz));
+    out.write(gen.encoded_line(gen.ncsz(count), ncsz));
     if (xml) out.write(gen.encoded_line("</kotkv>", {"trailer"}));
     return counts;
 }

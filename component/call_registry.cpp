@@ -1,5 +1,7 @@
 #include "component/call_registry.h"
 
+#include "component/procedure_methods.h"
+
 namespace tamrel {
 
 using json_binding::fail;
@@ -57,13 +59,7 @@ bool Invocation::boolean(const char* name) const {
 const Registry& registry() {
     static const Registry r = [] {
         Registry reg;
-        register_frames(reg);
-        register_meldung(reg);
-        register_beitrag(reg);
-        register_queries(reg);
-        register_payments(reg);
-        register_asyl(reg);
-        register_certificates(reg);
+        for (const ProcedureDescriptor& p : procedures()) add_methods(reg, p);
         return reg;
     }();
     return r;

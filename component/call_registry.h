@@ -27,7 +27,7 @@ public:
     std::int32_t enm(const char* name) const;          // other enumerations
     bool boolean(const char* name) const;
     template <class T>
-    T object(const char* name) const {
+    T object(std::string_view name) const {
         static const json_binding::Path args{nullptr, "args"};
         T v{};
         json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, json_binding::Path{&args, name});
@@ -51,14 +51,5 @@ using ClassTable = std::map<std::string, Method, std::less<>>;
 using Registry = std::map<std::string, ClassTable, std::less<>>;
 
 const Registry& registry();
-
-// Each procedure's registration (component/register_*.cpp).
-void register_frames(Registry& r);
-void register_meldung(Registry& r);
-void register_beitrag(Registry& r);
-void register_queries(Registry& r);
-void register_payments(Registry& r);
-void register_asyl(Registry& r);
-void register_certificates(Registry& r);
 
 }  // namespace tamrel

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "component/generator.h"
+#include "core/generator.h"
 
 namespace tamrel {
 

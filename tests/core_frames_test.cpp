@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "component/frame_codes.h"
 #include "core/frames.h"
 #include "core/shared_blocks.h"
 #include "core/xml_encoders.h"

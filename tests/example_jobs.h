@@ -8,14 +8,14 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/job.h"
+#include "component/procedure.h"
 
 namespace tamrel::testing {
 
 struct ExampleJob {
     std::filesystem::path path;
     nlohmann::json job;
-    const cli::ClassInfo* info;
+    const ProcedureDescriptor* info;
 };
 
 inline std::vector<ExampleJob> example_jobs() {
@@ -24,7 +24,7 @@ inline std::vector<ExampleJob> example_jobs() {
         if (e.path().extension() != ".json") continue;
         auto job = nlohmann::json::parse(std::ifstream(e.path()));
         if (!job.contains("reports")) continue;
-        jobs.push_back({e.path(), job, cli::find_class(job["class"])});
+        jobs.push_back({e.path(), job, find_procedure(job["class"].get<std::string>())});
     }
     std::sort(jobs.begin(), jobs.end(), [](const auto& a, const auto& b) { return a.path < b.path; });
     return jobs;
@@ -34,15 +34,15 @@ inline std::vector<ExampleJob> example_jobs() {
 // identification, procedure, date and clock.
 inline nlohmann::json gen_data_request(const ExampleJob& e, const nlohmann::json& report) {
     const auto& job = e.job;
-    nlohmann::json args = {{e.info->objParam, report}, {"datDate", job["datDate"]}};
-    if (e.info->frames == cli::ClassInfo::BeitrNachw) {
+    nlohmann::json args = {{std::string(e.info->objParam), report}, {"datDate", job["datDate"]}};
+    if (e.info->data == DataForm::BeitrNachw) {
         for (const char* k : {"strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"})
             args[k] = job["udtDatensatzData"].value(k, "");
     } else {
         args["udtDatensatzData"] = job["udtDatensatzData"];
     }
-    if (e.info->frames == cli::ClassInfo::Meldung) args["enmVerfahren"] = job["enmVerfahren"];
-    nlohmann::json request = {{"class", e.info->cls}, {"method", "GenData"}, {"args", args}, {"now", job["now"]}};
+    if (e.info->data == DataForm::WithVerfahren) args["enmVerfahren"] = job["enmVerfahren"];
+    nlohmann::json request = {{"class", std::string(e.info->cls)}, {"method", "GenData"}, {"args", args}, {"now", job["now"]}};
     if (job.contains("tests")) request["tests"] = job["tests"];
     return request;
 }
@@ -51,8 +51,8 @@ inline nlohmann::json gen_data_request(const ExampleJob& e, const nlohmann::json
 inline nlohmann::json protocol_request(const ExampleJob& e, const nlohmann::json& report, bool error,
                                        const std::string& text) {
     return {{"class", "clsProtoEntry"},
-            {"method", e.info->protoMethod},
-            {"args", {{e.info->objParam, report}, {"blnError", error}, {"strErrText", text}}},
+            {"method", std::string(e.info->protoMethod)},
+            {"args", {{std::string(e.info->objParam), report}, {"blnError", error}, {"strErrText", text}}},
             {"now", e.job["now"]}};
 }
 

@@ -34,7 +34,7 @@ std::unique_ptr<ReportRunner> example_runner(const tamrel::testing::ExampleJob& 
                           {"datDate", job["datDate"]}};
     Invocation inv(settings_args, session.host());
     RunnerSettings settings{&session.host(), inv.object<DatensatzData>("udtDatensatzData"),
-                            e.info->frames == cli::ClassInfo::BeitrNachw ? inv.enm("enmVerfahren")
+                            e.info->integer_verfahren() ? inv.enm("enmVerfahren")
                                                                        : inv.verf("enmVerfahren"),
                             inv.date("datDate")};
     return make_runner(e.info->cls, settings);
@@ -62,7 +62,7 @@ TEST(ReportRunner, AgreesWithTheCallProtocolOnEveryExample) {
             EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path;
             runner->read(report);
             EXPECT_EQ(runner->data(), response["result"].get<std::string>()) << e.path;
-            if (e.info->protoMethod) {
+            if (!e.info->protoMethod.empty()) {
                 json proto = tamrel::testing::protocol_request(e, report, true, "x\ny");
                 EXPECT_EQ(runner->protocol(true, "x\ny"), json::parse(call(proto).dump())["result"].get<std::string>());
             }

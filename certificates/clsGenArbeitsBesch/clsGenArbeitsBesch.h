@@ -4,13 +4,17 @@
 #include <string>
 
 #include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
-#include "component/frame_codes.h"
+#include "core/generator.h"
 
 namespace tamrel {
 
 class clsGenArbeitsBesch : public FrameGenerator {
 public:
-    explicit clsGenArbeitsBesch(Host host = default_host()) : FrameGenerator(frames::kArbeitsBesch, std::move(host)) {}
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"AGTBA", "ALG", "clsGenEntgelt.GenVOSZ(", "clsGenErst.GenDSKO",
+                                           "clsGenEntgelt.GenNCSZ("};
+
+    explicit clsGenArbeitsBesch(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const ArbeitsBesch& objArbeitsBesch, DatensatzData& udtDatensatzData, const Date& datDate = {});
 

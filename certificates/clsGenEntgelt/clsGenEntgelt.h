@@ -4,13 +4,17 @@
 #include <string>
 
 #include "certificates/clsGenEntgelt/Entgelt.h"
-#include "component/frame_codes.h"
+#include "core/generator.h"
 
 namespace tamrel {
 
 class clsGenEntgelt : public FrameGenerator {
 public:
-    explicit clsGenEntgelt(Host host = default_host()) : FrameGenerator(frames::kEntgelt, std::move(host)) {}
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"AGEEL", "LEIST", "clsGenEntgelt.GenVOSZ(", "clsGenErst.GenDSKO",
+                                           "clsGenEntgelt.GenNCSZ("};
+
+    explicit clsGenEntgelt(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const Entgelt& objEntgelt, DatensatzData& udtDatensatzData, const Date& datDate = {});
 

@@ -3,15 +3,19 @@
 #pragma once
 #include <string>
 
-#include "component/frame_codes.h"
+#include "core/generator.h"
 #include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV.h"
 
 namespace tamrel {
 
 class clsGenAbfrStammdatenUV : public FrameGenerator {
 public:
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"UNUVS", "UVSDD", "clsGenAbfrStammdatenUV.GenVOSZ(",
+                                           "clsGenAbfrStammdatenUV.GenDSKO(", "clsGenAbfrStammdatenUV.GenNCSZ("};
+
     explicit clsGenAbfrStammdatenUV(Host host = default_host())
-        : FrameGenerator(frames::kAbfrStammdatenUV, std::move(host)) {}
+        : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const AbfrStammdatenUV& objAbfrStammdatenUV, DatensatzData& udtDatensatzData,
                         const Date& datDate = {});

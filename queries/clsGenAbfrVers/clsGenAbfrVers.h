@@ -2,14 +2,18 @@
 #pragma once
 #include <string>
 
-#include "component/frame_codes.h"
+#include "core/generator.h"
 #include "queries/clsGenAbfrVers/AbfrVers.h"
 
 namespace tamrel {
 
 class clsGenAbfrVers : public FrameGenerator {
 public:
-    explicit clsGenAbfrVers(Host host = default_host()) : FrameGenerator(frames::kAbfrVers, std::move(host)) {}
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"AGTRV", "DEUEV", "clsGenAbfrVers.GenVOSZ(", "clsGenAbfrVers.GenDSKO(",
+                                           "clsGenEntgelt.GenNCSZ("};
+
+    explicit clsGenAbfrVers(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const AbfrVers& objAbfrVers, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
 

@@ -3,14 +3,18 @@
 #pragma once
 #include <string>
 
-#include "component/frame_codes.h"
+#include "core/generator.h"
 #include "queries/clsGenBetrieb/Betrieb.h"
 
 namespace tamrel {
 
 class clsGenBetrieb : public FrameGenerator {
 public:
-    explicit clsGenBetrieb(Host host = default_host()) : FrameGenerator(frames::kBetrieb, std::move(host)) {}
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"AGDEU", "DEUEV", "clsGenBetrieb.GenVOSZ(", "clsGenBetrieb.GenDSKO(",
+                                           "clsGenBetrieb.GenNCSZ("};
+
+    explicit clsGenBetrieb(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const Betrieb& objBetrieb, DatensatzData& udtDatensatzData, const Date& datDate = {});
 

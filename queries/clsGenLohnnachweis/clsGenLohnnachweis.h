@@ -3,14 +3,18 @@
 #pragma once
 #include <string>
 
-#include "component/frame_codes.h"
+#include "core/generator.h"
 #include "queries/clsGenLohnnachweis/Lohnnachweis.h"
 
 namespace tamrel {
 
 class clsGenLohnnachweis : public FrameGenerator {
 public:
-    explicit clsGenLohnnachweis(Host host = default_host()) : FrameGenerator(frames::kLohnnachweis, std::move(host)) {}
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"UNUVL", "UVELN", "clsGenLohnnachweis.GenVOSZ(",
+                                           "clsGenLohnnachweis.GenDSKO(", "clsGenLohnnachweis.GenNCSZ("};
+
+    explicit clsGenLohnnachweis(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const Lohnnachweis& objLohnnachweis, DatensatzData& udtDatensatzData, const Date& datDate = {});
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "component/generator.h"
+#include "core/generator.h"
 
 namespace tamrel {
 

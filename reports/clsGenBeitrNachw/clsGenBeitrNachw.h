@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "component/generator.h"
+#include "core/generator.h"
 
 namespace tamrel {
 

@@ -3,14 +3,17 @@
 #pragma once
 #include <string>
 
-#include "component/frame_codes.h"
+#include "core/generator.h"
 #include "reports/clsGenErst/Erst.h"
 
 namespace tamrel {
 
 class clsGenErst : public FrameGenerator {
 public:
-    explicit clsGenErst(Host host = default_host()) : FrameGenerator(frames::kErst, std::move(host)) {}
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"AGAAG", "AAGER", "clsGenErst.GenVOSZ(", "clsGenErst.GenDSKO(", "clsGenErst.GenNCSZ("};
+
+    explicit clsGenErst(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const Erst& objErst, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
 

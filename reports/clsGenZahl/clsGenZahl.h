@@ -3,14 +3,17 @@
 #pragma once
 #include <string>
 
-#include "component/frame_codes.h"
+#include "core/generator.h"
 #include "reports/clsGenZahl/Zahl.h"
 
 namespace tamrel {
 
 class clsGenZahl : public FrameGenerator {
 public:
-    explicit clsGenZahl(Host host = default_host()) : FrameGenerator(frames::kZahl, std::move(host)) {}
+    // Procedure codes and the context texts of the frame methods.
+    static constexpr FrameSpec kFrames{"AGDAZ", "ZAHLS", "clsGenZahl.GenVOSZ(", "clsGenZahl.GenDSKO(", "clsGenZahl.GenNCSZ("};
+
+    explicit clsGenZahl(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const Zahl& objZahl, DatensatzData& udtDatensatzData, const Date& datDate = {});
 

@@ -27,14 +27,14 @@ void run(const Job& job, bool keep_going, Encoding encoding, bool crlf) {
     settings.crlf = crlf;
     settings.keepGoing = keep_going;
     StringSink out, proto;
-    const bool with_protocol = job.info->protoMethod != nullptr;
+    const bool with_protocol = !job.procedure->protoMethod.empty();
     TransferCounts counts;
     try {
         counts = write_transfer(job, source, settings, out, with_protocol ? &proto : nullptr);
     } catch (const ReportFailure&) {
         return;  // the report or frame that failed is named; nothing would be written
     }
-    const bool xml = job.info->frames == ClassInfo::Asyl;
+    const bool xml = job.procedure->xml();
     const std::string_view ending = crlf ? "\r\n" : "\n";
     FUZZ_REQUIRE(counts.written + counts.failed == job.reports.size());
     FUZZ_REQUIRE(keep_going || counts.failed == 0);

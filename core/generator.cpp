@@ -1,4 +1,4 @@
-#include "component/generator.h"
+#include "core/generator.h"
 
 #include "core/frames.h"
 

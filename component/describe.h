@@ -1,0 +1,87 @@
+// Builds a procedure's descriptor from its class, data object, forms and
+// protocol method: the typed frame calls, GenData and the protocol method as
+// the call protocol invokes them, and the report runner.
+#pragma once
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "component/call_registry.h"
+#include "component/procedure.h"
+#include "component/shared_bindings.h"
+#include "component/typed_runner.h"
+#include "protocol/clsProtoEntry.h"
+
+namespace tamrel {
+
+// GenData's arguments besides the data object, read in the order of its
+// parameter list.
+RunnerSettings read_data_args(Invocation& inv, DataForm form);
+
+namespace describing {
+
+template <class Gen, FrameForm F>
+struct FrameCalls {
+    static std::string vosz(const Host& h, FrameValues& v) {
+        const Gen g(h);
+        if constexpr (F == FrameForm::BeitrErh)
+            return g.GenVOSZ(v.strBNRAb, v.strBNREm, v.strFileNr, v.strFirma, v.strDatum, v.datDate);
+        else if constexpr (F == FrameForm::BeitrNachw)
+            return g.GenVOSZ(v.strBNRAb, v.strBNREm, v.strFileNr, v.enmVerfahren, v.strFirma, v.strDatum, v.datDate);
+        else
+            return g.GenVOSZ(v.strBNRAb, v.strBNREm, v.strFileNr, v.strFirma, v.enmVerfahren, v.strDatum, v.datDate);
+    }
+    static std::string dsko(const Host& h, FrameValues& v) {
+        if constexpr (F == FrameForm::BeitrNachw)
+            return Gen(h).GenDSKO(v.udtDSKOData, v.enmVerfahren, v.datDate);
+        else
+            return Gen(h).GenDSKO(v.udtDSKOData, v.datDate);
+    }
+    static std::string ncsz(const Host& h, const FrameValues& v, std::string_view strCount) {
+        if constexpr (F == FrameForm::Meldung || F == FrameForm::BeitrNachw)
+            return Gen(h).GenNCSZ(v.strBNRAb, v.strBNREm, v.strFileNr, strCount, v.enmVerfahren, v.datDate);
+        else
+            return Gen(h).GenNCSZ(v.strBNRAb, v.strBNREm, v.strFileNr, strCount, v.datDate);
+    }
+};
+
+template <class Gen, class Obj, DataForm D>
+std::string gen_data(const ProcedureDescriptor& p, Invocation& inv) {
+    const Obj obj = inv.object<Obj>(p.objParam);
+    RunnerSettings s = read_data_args(inv, D);
+    Gen gen(inv.host());
+    return call_gen_data<D>(gen, obj, s);
+}
+
+template <class Obj, auto Proto>
+std::string create_proto(const ProcedureDescriptor& p, Invocation& inv) {
+    const Obj obj = inv.object<Obj>(p.objParam);
+    const bool error = inv.boolean("blnError");
+    const std::string text = inv.opt_str("strErrText");
+    return (clsProtoEntry(inv.host()).*Proto)(obj, error, text);
+}
+
+template <class Gen, class Obj, DataForm D, auto Proto>
+std::unique_ptr<ReportRunner> runner(const ProcedureDescriptor& p, const RunnerSettings& s) {
+    return std::make_unique<Runner<Gen, Obj, D, Proto>>(s, p.objParam);
+}
+
+}  // namespace describing
+
+// The descriptor of generator class `Gen` with data object `Obj`; `Proto` is
+// its clsProtoEntry method (named `protoMethod`), or nullptr.
+template <class Gen, class Obj, FrameForm F, DataForm D, auto Proto>
+constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view objParam,
+                                       std::string_view protoMethod) {
+    using Frames = describing::FrameCalls<Gen, F>;
+    ProcedureDescriptor d{cls, objParam, protoMethod, F, D};
+    d.GenVOSZ = &Frames::vosz;
+    if constexpr (F != FrameForm::Xml) d.GenDSKO = &Frames::dsko;
+    d.GenNCSZ = &Frames::ncsz;
+    d.GenData = &describing::gen_data<Gen, Obj, D>;
+    if constexpr (Proto != nullptr) d.CreateProto = &describing::create_proto<Obj, Proto>;
+    d.runner = &describing::runner<Gen, Obj, D, Proto>;
+    return d;
+}
+
+}  // namespace tamrel

@@ -1,0 +1,21 @@
+// The employment and earnings certificates.
+#include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
+#include "certificates/clsGenEntgelt/clsGenEntgelt.h"
+#include "component/bindings/certificates.h"
+#include "component/describe.h"
+#include "component/procedures/families.h"
+
+namespace tamrel::families {
+
+std::span<const ProcedureDescriptor> certificates() {
+    using E = clsProtoEntry;
+    static constexpr ProcedureDescriptor list[] = {
+        describe<clsGenArbeitsBesch, ArbeitsBesch, FrameForm::Common, DataForm::Common,
+                 &E::CreateProtoArbeitsBesch>("clsGenArbeitsBesch", "objArbeitsBesch", "CreateProtoArbeitsBesch"),
+        describe<clsGenEntgelt, Entgelt, FrameForm::Common, DataForm::Common, &E::CreateProtoEntgelt>(
+            "clsGenEntgelt", "objEntgelt", "CreateProtoEntgelt"),
+    };
+    return list;
+}
+
+}  // namespace tamrel::families

@@ -1,0 +1,108 @@
+// The report runner of one procedure: its data object read from JSON (by
+// the fast scanner, or simdjson's DOM, or a parsed document) and handed to
+// its generator, and its protocol line made from the same object.
+#pragma once
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "component/json_scan.h"
+#include "component/json_simd.h"
+#include "component/procedure.h"
+#include "component/report_runner.h"
+#include "component/text_properties.h"
+#include "protocol/clsProtoEntry.h"
+
+namespace tamrel {
+
+inline const json_binding::Path kRunnerArgs{nullptr, "args"};
+
+// GenData of a class, in the form of its parameter list.
+template <DataForm D, class Gen, class Obj>
+std::string call_gen_data(Gen& g, const Obj& o, const RunnerSettings& s) {
+    DatensatzData dd = s.datensatz;
+    if constexpr (D == DataForm::BeitrNachw)
+        return g.GenData(o, dd.strBNRAb, dd.strBNRSt, dd.strVersion, dd.strMicroseconds, s.date);
+    else if constexpr (D == DataForm::WithVerfahren)
+        return g.GenData(o, dd, s.verfahren, s.date);
+    else
+        return g.GenData(o, dd, s.date);
+}
+
+// Proto: the clsProtoEntry method of the procedure, or nullptr.
+template <class Gen, class Obj, DataForm D, auto Proto>
+class Runner : public ReportRunner {
+public:
+    Runner(const RunnerSettings& s, std::string_view objParam)
+        : settings_(s), path_{&kRunnerArgs, objParam}, gen_(*s.host), proto_entry_(*s.host) {}
+
+    // The scanner first; a report it cannot vouch for (an error as a rule)
+    // is read again through simdjson's DOM, which gives the result or the
+    // error. Text with escapes (JSON written with every non-ASCII character
+    // escaped, say) goes to the DOM straight away, without the cost of a
+    // scan given up.
+    void read_text(std::string_view text) override {
+        if (text.find('\\') == std::string_view::npos && simdjson::validate_utf8(text.data(), text.size())) {
+            try {
+                read_scanned(text);
+                return;
+            } catch (const json_binding::ScanMiss&) {
+            } catch (const json_binding::RequestError&) {
+            }
+        }
+        read_text_reference(text);
+    }
+    void read_text_reference(std::string_view text) override {
+        simdjson::dom::element doc;
+        if (auto error = parser_.parse(text.data(), text.size()).get(doc))
+            throw json_binding::RequestError(std::string("not valid JSON: ") + simdjson::error_message(error));
+        read_value(json_binding::SimdValue{doc});
+    }
+    void read(const nlohmann::json& report) override { read_value(json_binding::NlohmannValue{report}); }
+    std::string data() override { return call_gen_data<D>(gen_, obj_, settings_); }
+    std::string protocol(bool error, std::string_view text) override {
+        if constexpr (Proto == nullptr) return {};
+        else return (proto_entry_.*Proto)(obj_, error, text);
+    }
+    void clear() override {
+        static const Obj empty{};
+        json_binding::reset(obj_, empty);
+    }
+    Text find_text(const std::function<bool(std::string_view)>& test) const override {
+        Text found;
+        json_binding::each_text(obj_, std::string(), [&](const std::string& name, std::string_view value) {
+            if (!test(value)) return false;
+            found = {name, std::string(value)};
+            return true;
+        });
+        return found;
+    }
+
+private:
+    // Text of valid UTF-8 without escapes.
+    void read_scanned(std::string_view text) {
+        padded_.assign(text);
+        padded_.append(json_binding::kScanPadding, '\0');
+        const char* at = padded_.data();
+        const json_binding::ScanValue root{&at};
+        read_value(root);
+        if (root.peek() != '\0' || at != padded_.data() + text.size()) throw json_binding::ScanMiss{};
+    }
+
+    template <class V>
+    void read_value(const V& v) {
+        clear();
+        json_binding::read(v, obj_, path_);
+    }
+
+    RunnerSettings settings_;
+    json_binding::Path path_;
+    std::string padded_;
+    simdjson::dom::parser parser_;
+    Gen gen_;
+    clsProtoEntry proto_entry_;
+    Obj obj_;
+};
+
+}  // namespace tamrel
