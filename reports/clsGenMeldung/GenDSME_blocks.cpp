@@ -81,6 +81,8 @@ void clsGenMeldung::GenDBSO(std::string& out, const Meldung& m) {
     routine("clsGenMeldung.GenDBSO", [&](int& line) {
         Writer w(out, line);
         w.lit("DBSO").flag(m.Storno).n(m.Beginn, 8);
+        // Checked under the name "BDSO", not "DBSO": it is the name the
+        // component's length error has always reported for this block.
         w.check(13, "BDSO");
     });
 }

@@ -1,2 +1,0 @@
-#pragma once
-#include "component/shared_bindings.h"
