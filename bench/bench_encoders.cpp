@@ -2,7 +2,9 @@
 #include <benchmark/benchmark.h>
 
 #include "core/frames.h"
-#include "core/mlGen.h"
+#include "core/text_fields.h"
+#include "core/amounts.h"
+#include "core/date_fields.h"
 #include "protocol/proto_fields.h"
 
 using namespace tamrel;
@@ -56,7 +58,7 @@ static void BM_GetCurrDate(benchmark::State& state) {
     std::string out;
     for (auto _ : state) {
         out.clear();
-        mlGlobal::AppendCurrDate(out, "", 1, d);
+        for (std::string_view piece : mlGlobal::CurrDate("", 1, d).pieces()) out.append(piece);
         benchmark::DoNotOptimize(out.data());
     }
 }

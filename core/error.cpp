@@ -1,4 +1,5 @@
 #include "core/error.h"
+#include "core/int16.h"
 
 namespace tamrel {
 

@@ -2,6 +2,9 @@
 
 #include "core/routine.h"
 #include "core/writer.h"
+#include "core/text_fields.h"
+#include "core/check_length.h"
+#include "core/date_fields.h"
 
 namespace tamrel::mlGen {
 

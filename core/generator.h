@@ -9,7 +9,7 @@
 
 #include "core/date.h"
 #include "core/host.h"
-#include "core/mlGen.h"
+#include "core/date_fields.h"
 #include "core/objects.h"
 #include "core/routine.h"
 

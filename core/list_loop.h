@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "core/error.h"
+#include "core/int16.h"
 
 namespace tamrel {
 

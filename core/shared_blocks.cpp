@@ -52,10 +52,4 @@ std::string GenDBAN(const Vorgang& v, bool& filled) {
     return out;
 }
 
-std::string GenDBGB(const Vorgang& v) {
-    std::string out;
-    AppendDBGB(out, v);
-    return out;
-}
-
 }  // namespace tamrel::mlGen

@@ -9,7 +9,6 @@ namespace tamrel::mlGen {
 
 std::string GenDBNA(const Vorgang& vorgang, bool marker);
 std::string GenDBAN(const Vorgang& vorgang, bool& filled);
-std::string GenDBGB(const Vorgang& vorgang);
 
 // The five name texts of DBNA, as the block reads them.
 struct NameView {

@@ -5,7 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/mlGen.h"
+#include "core/text_fields.h"
+#include "core/decimal.h"
 
 namespace tamrel {
 

@@ -1,7 +1,8 @@
 #include "core/xml_encoders.h"
 
 #include "core/joined.h"
-#include "core/mlGen.h"
+#include "core/text_fields.h"
+#include "core/date_fields.h"
 #include "core/text.h"
 
 namespace tamrel::mlGen {
@@ -72,6 +73,14 @@ std::string StrToNXML(std::string_view name, std::string_view value, bool& flag)
 std::string StrToDateXML(std::string_view name, std::string_view value, bool& flag) {
     std::string out;
     AppendDateXML(out, name, value, flag);
+    return out;
+}
+
+std::string ReplaceSpecialCharText(std::string_view value) {
+    std::string out;
+    out.reserve(value.size());
+    for (char c : value)
+        if (!is_dropped_control(c)) out += c;
     return out;
 }
 

@@ -8,6 +8,9 @@
 
 namespace tamrel::mlGen {
 
+// The text without the control characters the text encoders drop.
+std::string ReplaceSpecialCharText(std::string_view text);
+
 std::string StrToAnXML(std::string_view name, std::string_view value, bool& flag);
 std::string StrToNXML(std::string_view name, std::string_view value, bool& flag);
 std::string StrToDateXML(std::string_view name, std::string_view value, bool& flag);

@@ -1,5 +1,5 @@
 // Protocol lines of the contribution statement and the contribution collection.
-#include "core/mlGen.h"
+#include "core/decimal.h"
 #include "protocol/clsProtoEntry.h"
 #include "protocol/proto_fields.h"
 #include "reports/clsGenBeitrErh/BeitrErh.h"

@@ -1,7 +1,7 @@
 // Protocol lines of the employment and the earnings certificate.
 #include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
 #include "certificates/clsGenEntgelt/Entgelt.h"
-#include "core/mlGen.h"
+#include "core/decimal.h"
 #include "protocol/clsProtoEntry.h"
 #include "protocol/proto_fields.h"
 

@@ -1,6 +1,6 @@
 // The DEUEV report's protocol line: reason, kind and cancellation, the
 // identifying numbers, the person, the period and pay, then marker and text.
-#include "core/mlGen.h"
+#include "core/decimal.h"
 #include "protocol/clsProtoEntry.h"
 #include "protocol/proto_fields.h"
 #include "reports/clsGenMeldung/Meldung.h"

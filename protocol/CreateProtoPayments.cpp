@@ -1,5 +1,5 @@
 // Protocol lines of the reimbursement and the pay-agency report.
-#include "core/mlGen.h"
+#include "core/decimal.h"
 #include "protocol/clsProtoEntry.h"
 #include "protocol/proto_fields.h"
 #include "reports/clsGenErst/Erst.h"

@@ -1,12 +1,13 @@
 // Protocol lines of the master data, the insurance-number query and the two
 // accident-insurance procedures.
-#include "core/mlGen.h"
+#include "core/decimal.h"
 #include "protocol/clsProtoEntry.h"
 #include "protocol/proto_fields.h"
 #include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV.h"
 #include "queries/clsGenAbfrVers/AbfrVers.h"
 #include "queries/clsGenBetrieb/Betrieb.h"
 #include "queries/clsGenLohnnachweis/Lohnnachweis.h"
+#include "core/int16.h"
 
 namespace tamrel {
 

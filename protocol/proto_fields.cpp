@@ -1,7 +1,6 @@
 #include "protocol/proto_fields.h"
 
 #include "core/routine.h"
-#include "core/mlGen.h"
 #include "core/text.h"
 
 namespace tamrel::proto {

@@ -146,7 +146,8 @@ TEST(StatementNumbers, ListLoopsDoNotCountTheirPasses) {
             m.UvErster = 1;
             m.UvLetzter = last;
             bool produced = false;
-            clsGenMeldung::GenDBUV(m, produced);
+            std::string out;
+            clsGenMeldung::AppendDBUV(out, m, produced);
         };
     };
     auto illnesses = [](std::size_t count) {

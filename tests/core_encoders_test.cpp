@@ -3,7 +3,13 @@
 #include <string>
 #include <string_view>
 
-#include "core/mlGen.h"
+#include "core/text_fields.h"
+#include "core/amounts.h"
+#include "core/check_length.h"
+#include "core/establishment_number.h"
+#include "core/date_fields.h"
+#include "core/xml_encoders.h"
+#include "tests/encoder_forms.h"
 #include "core/writer.h"
 #include "test_support.h"
 

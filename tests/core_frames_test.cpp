@@ -84,7 +84,7 @@ TEST(SharedBlocks, NameAddressAndBirth) {
     v.Land = "A";
     EXPECT_EQ(mlGen::GenDBAN(v, filled), "DBAN" "A  " + blanks(126));
     EXPECT_TRUE(filled);
-    EXPECT_EQ(mlGen::GenDBGB(v), "DBGB" + blanks(70) + "01980101" + "M" + blanks(34));
+    EXPECT_EQ(appended([&](std::string& out) { mlGen::AppendDBGB(out, v); }), "DBGB" + blanks(70) + "01980101" + "M" + blanks(34));
 }
 
 TEST(XmlEncoders, NilTrimAndDates) {

@@ -178,7 +178,7 @@ TEST(Meldung, DbuvCountsEntriesAndSkipsTheDroppedOnes) {
     m.UvEntfaellt.set(2, true);
     m.UvAngabe2.set(3, "B");
     bool produced = false;
-    EXPECT_EQ(clsGenMeldung::GenDBUV(m, produced), "DBUV" "2" + blanks(15) + an("U1", 3) + blanks(58) + "000012" +
+    EXPECT_EQ(appended([&](std::string& out) { clsGenMeldung::AppendDBUV(out, m, produced); }), "DBUV" "2" + blanks(15) + an("U1", 3) + blanks(58) + "000012" +
                                                        blanks(4) + blanks(3) + an("B", 15) + blanks(43) + "000000" +
                                                        blanks(4));
     EXPECT_TRUE(produced);
@@ -186,7 +186,7 @@ TEST(Meldung, DbuvCountsEntriesAndSkipsTheDroppedOnes) {
     m.UvEntfaellt.set(1, true);
     m.UvEntfaellt.set(3, true);
     produced = false;
-    EXPECT_EQ(clsGenMeldung::GenDBUV(m, produced), "DBUV" "0" + blanks(15));
+    EXPECT_EQ(appended([&](std::string& out) { clsGenMeldung::AppendDBUV(out, m, produced); }), "DBUV" "0" + blanks(15));
     EXPECT_FALSE(produced);
 }
 

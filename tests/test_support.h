@@ -45,6 +45,14 @@ inline std::string n(std::string_view v, std::size_t width) {
 }
 inline std::string blanks(std::size_t width) { return std::string(width, ' '); }
 
+// What a builder of the Append… form appends to an empty buffer.
+template <class Append>
+std::string appended(Append&& append) {
+    std::string out;
+    append(out);
+    return out;
+}
+
 }  // namespace tamrel::testing
 
 namespace tamrel::testing {

@@ -1,7 +1,10 @@
 // The records DSAB, DSEU and DSNE (common head, then each tail as its
 // layout table) and GenData, which appends the announced blocks in order.
 #include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
+#include "core/flag_reader.h"
 #include "core/writer.h"
+#include "core/date_fields.h"
+#include "core/int16.h"
 
 namespace tamrel {
 namespace {

@@ -6,6 +6,7 @@
 #include "core/routine.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
+#include "core/int16.h"
 
 namespace tamrel::eel {
 bool GenDBNA(std::string& out, const Entgelt& e) {

@@ -1,4 +1,5 @@
 // The DSAS record, left to right as its layout table.
+#include "core/flag_reader.h"
 #include "core/writer.h"
 #include "queries/clsGenAbfrStammdatenUV/clsGenAbfrStammdatenUV.h"
 

@@ -1,6 +1,8 @@
 // The DSBD record and its second-address block DBKA, each as its layout table.
+#include "core/flag_reader.h"
 #include "core/writer.h"
 #include "queries/clsGenBetrieb/clsGenBetrieb.h"
+#include "core/establishment_number.h"
 
 namespace tamrel {
 

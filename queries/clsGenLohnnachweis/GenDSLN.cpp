@@ -1,8 +1,10 @@
 // The DSLN record: the fixed part as its layout table, then one 59-character
 // group per position.
+#include "core/flag_reader.h"
 #include "core/list_loop.h"
 #include "core/writer.h"
 #include "queries/clsGenLohnnachweis/clsGenLohnnachweis.h"
+#include "core/int16.h"
 
 namespace tamrel {
 

@@ -1,7 +1,10 @@
 // The DSBE record and its blocks DBMI and DBHB, each as its layout table.
+#include "core/flag_reader.h"
 #include "core/writer.h"
 #include "reports/clsGenBeitrErh/BeitrErh.h"
 #include "reports/clsGenBeitrErh/clsGenBeitrErh.h"
+#include "core/establishment_number.h"
+#include "core/date_fields.h"
 
 namespace tamrel {
 namespace {

@@ -3,6 +3,9 @@
 #include "core/writer.h"
 #include "reports/clsGenBeitrNachw/BeitrNachw.h"
 #include "reports/clsGenBeitrNachw/clsGenBeitrNachw.h"
+#include "core/amounts.h"
+#include "core/establishment_number.h"
+#include "core/date_fields.h"
 
 namespace tamrel {
 namespace {

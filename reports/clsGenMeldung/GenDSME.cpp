@@ -2,6 +2,8 @@
 #include "core/host.h"
 #include "core/writer.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
+#include "core/establishment_number.h"
+#include "core/date_fields.h"
 
 namespace tamrel {
 namespace {

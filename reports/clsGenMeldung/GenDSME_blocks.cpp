@@ -3,6 +3,9 @@
 #include "core/list_loop.h"
 #include "core/writer.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
+#include "core/text_fields.h"
+#include "core/decimal.h"
+#include "core/int16.h"
 
 namespace tamrel {
 
@@ -48,12 +51,6 @@ void clsGenMeldung::AppendDBUV(std::string& out, const Meldung& m, bool& produce
         w.patch(4, mlGen::StrToN(mlGen::Decimal(count), 1, produced)[0]);
         w.check(required, "DBUV");
     });
-}
-
-std::string clsGenMeldung::GenDBUV(const Meldung& m, bool& produced) {
-    std::string out;
-    AppendDBUV(out, m, produced);
-    return out;
 }
 
 void clsGenMeldung::GenDBKS(std::string& out, const Meldung& m) {

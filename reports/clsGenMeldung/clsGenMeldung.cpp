@@ -1,5 +1,6 @@
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
+#include "core/flag_reader.h"
 #include "core/frames.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"

@@ -35,7 +35,6 @@ public:
     bool IsGeringBkn(const Meldung& m) const;
     static void GenDBME(std::string& out, const Meldung& m);
     static void GenDBEU(std::string& out, const Meldung& m);
-    static std::string GenDBUV(const Meldung& m, bool& produced);
     static void AppendDBUV(std::string& out, const Meldung& m, bool& produced);
     static void GenDBKS(std::string& out, const Meldung& m);
     static void GenDBSO(std::string& out, const Meldung& m);

@@ -1,8 +1,10 @@
 // The DSVZ record and its blocks DBZK, DBNA, DBGA and DBAN.
+#include "core/flag_reader.h"
 #include "core/host.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
 #include "reports/clsGenZahl/clsGenZahl.h"
+#include "core/date_fields.h"
 
 namespace tamrel {
 

@@ -8,7 +8,12 @@
 
 #include "core/error.h"
 #include "core/host.h"
-#include "core/mlGen.h"
+#include "core/text_fields.h"
+#include "core/amounts.h"
+#include "core/check_length.h"
+#include "core/establishment_number.h"
+#include "core/date_fields.h"
+#include "tests/encoder_forms.h"
 #include "core/text.h"
 #include "core/xml_encoders.h"
 #include "tests/fuzz/fuzz_invariants.h"

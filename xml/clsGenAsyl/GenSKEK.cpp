@@ -1,6 +1,8 @@
 // The data element of the XML report: the record SKEK and the seven blocks,
 // each writing its elements in the order of its layout.
-#include "core/mlGen.h"
+#include "core/text_fields.h"
+#include "core/decimal.h"
+#include "core/date_fields.h"
 #include "core/routine.h"
 #include "core/text.h"
 #include "core/version_number.h"

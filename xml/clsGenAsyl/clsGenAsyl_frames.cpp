@@ -1,5 +1,5 @@
 // Header and trailer fragments of the XML report ("KOTKV").
-#include "core/mlGen.h"
+#include "core/date_fields.h"
 #include "core/xml_encoders.h"
 #include "xml/clsGenAsyl/clsGenAsyl.h"
 

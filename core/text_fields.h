@@ -1,30 +1,19 @@
-// The field encoders and checks of module mlGen, and GetCurrDate of mlGlobal.
-// Each exists twice: under its own name, returning the field, and as an
-// Append… form that writes into a caller's buffer (the record builders' hot
+// The text and numeric field encoders: a value written into a field of
+// fixed width, left-aligned and blank-padded (An) or right-aligned and
+// zero-padded (N). Each exists under its own name, returning the field, and
+// as a form that writes into a caller's buffer (the record builders' hot
 // path, no allocation). The filled flag is only ever set, never cleared.
 #pragma once
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 
-#include "core/date.h"
 #include "core/short_bytes.h"
 
 namespace tamrel::mlGen {
 
 std::string StrToAn(std::string_view value, int width, bool& filled);
 std::string StrToN(std::string_view value, int width, bool& filled);
-std::string StrToPB(std::string_view value, int intVor, int intNach, bool& filled);
-std::string StrToBG(std::string_view value, int intVor, int intNach, bool& filled);
-std::string EnmToJN(std::int32_t value, bool& filled);
-void EnhanceVorNachk(std::string& strVor, int intVor, std::string& strNach, int intNach);
-void CheckLength(std::string_view record, std::string_view length, std::string_view name);
-std::string ConvertBNRSt(std::string_view number);
-Date GetDate(const Date& date);
-std::string ReplaceSpecialCharText(std::string_view text);
-std::string ConvertDate(std::string_view text);
-std::string ConvertDateTimeToISO(std::string_view text);
 
 // The text and numeric encoders writing at `d`, which has room for four
 // bytes per character of width plus kPutSlack; they return the end of the
@@ -85,62 +74,7 @@ template <char pad, bool right, class Walk>
     return detail::put_plain<'0', true>(d, value, w, filled, detail::PutNGeneral);
 }
 
-namespace detail {
-char* PutAmountGeneral(char* d, std::string_view value, int intVor, int intNach, bool with_sign, bool& filled);
-}
-
-// The amount encoders (StrToPB, and StrToBG with `with_sign`) writing at `d`.
-// Most amounts of a record are not given: those are zeros, written inline.
-[[gnu::always_inline]] inline char* PutAmount(char* d, std::string_view value, int intVor, int intNach, bool with_sign,
-                                              bool& filled) {
-    if (!value.empty() || intVor < 0 || intNach < 0) [[unlikely]]
-        return detail::general(filled, detail::PutAmountGeneral, d, value, intVor, intNach, with_sign);
-    if (with_sign) *d++ = '+';
-    const auto w = static_cast<std::size_t>(intVor + intNach);
-    bytes::pad_field(d, '0', w);
-    return d + w;
-}
-
 void AppendAn(std::string& out, std::string_view value, int width, bool& filled);
 void AppendN(std::string& out, std::string_view value, int width, bool& filled);
-void AppendPB(std::string& out, std::string_view value, int intVor, int intNach, bool& filled);
-void AppendBG(std::string& out, std::string_view value, int intVor, int intNach, bool& filled);
-void AppendJN(std::string& out, std::int32_t value, bool& filled);
-// The character of EnmToJN: "J" for 1, "N" for 2, a blank otherwise.
-inline char JNChar(std::int32_t value, bool& filled) {
-    const char c = value == 1 ? 'J' : value == 2 ? 'N' : ' ';
-    if (c != ' ') filled = true;
-    return c;
-}
-void CheckLength(std::string_view record, int length, std::string_view name);
-
-// The decimal text of a number, in a small buffer (no allocation).
-struct Decimal {
-    char buf[24];
-    std::size_t len;
-    explicit Decimal(std::int64_t v) noexcept;
-    operator std::string_view() const noexcept { return {buf, len}; }
-};
 
 }  // namespace tamrel::mlGen
-
-namespace tamrel::mlGlobal {
-
-std::string GetCurrDate(std::string_view dateText, int format, const Date& date);
-void AppendCurrDate(std::string& out, std::string_view dateText, int format, const Date& date);
-// The pieces of GetCurrDate's text, in order: views into the given text or
-// into the date's own digits (no allocation).
-class CurrDate {
-public:
-    CurrDate(std::string_view dateText, int format, const Date& date);
-    CurrDate(const CurrDate&) = delete;
-    CurrDate& operator=(const CurrDate&) = delete;
-    std::span<const std::string_view> pieces() const { return {pieces_, count_}; }
-
-private:
-    char own_[14];  // yyyymmdd, then hhnnss
-    std::string_view pieces_[4];
-    std::size_t count_ = 0;
-};
-
-}  // namespace tamrel::mlGlobal

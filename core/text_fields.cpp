@@ -1,10 +1,12 @@
-// The general walk of the in-place text and numeric encoders (their fast
-// path is inline in core/mlGen.h).
+// The text and numeric encoders: their general walk (the fast path is
+// inline in the header), and the forms that append or return the field.
 #include <cstring>
 #include <string>
 
 #include "core/error.h"
-#include "core/mlGen.h"
+#include "core/joined.h"
+#include "core/routine.h"
+#include "core/text_fields.h"
 #include "core/text.h"
 
 namespace tamrel::mlGen {
@@ -77,6 +79,34 @@ char* detail::PutNGeneral(char* d, std::string_view value, std::size_t w, bool& 
     std::memcpy(d + pad, kept.data(), kept.size());
     if (kept.find_first_not_of('0') != std::string_view::npos) filled = true;
     return d + pad + kept.size();
+}
+
+void AppendAn(std::string& out, std::string_view value, int width, bool& filled) {
+    const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
+    append_put(out, 4 * w + kPutSlack, [&](char* d) { return PutAn(d, value, w, filled); });
+}
+
+void AppendN(std::string& out, std::string_view value, int width, bool& filled) {
+    const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
+    append_put(out, 4 * w + kPutSlack, [&](char* d) { return PutN(d, value, w, filled); });
+}
+
+std::string StrToAn(std::string_view value, int width, bool& filled) {
+    return routine(with_args("mlGen.StrToAn(", value, width, filled), [&](int& line) {
+        line = 1;
+        std::string out;
+        AppendAn(out, value, width, filled);
+        return out;
+    });
+}
+
+std::string StrToN(std::string_view value, int width, bool& filled) {
+    return routine(with_args("mlGen.StrToN(", value, width, filled), [&](int& line) {
+        line = 1;
+        std::string out;
+        AppendN(out, value, width, filled);
+        return out;
+    });
 }
 
 }  // namespace tamrel::mlGen
