@@ -55,15 +55,6 @@ constexpr Prefixed<T, M> prefixed(std::string_view prefix, M T::*member) {
 template <class T>
 struct Binding;
 
-// The JSON table of a group declared with a field list (core/field_list.h).
-#define TAMREL_BIND_FIELD(name) std::make_tuple(::tamrel::json_binding::field(#name, &Self::name)),
-#define TAMREL_LIST_BINDING(Type, LIST)                                                       \
-    template <>                                                                              \
-    struct Binding<Type> {                                                                   \
-        using Self = Type;                                                                   \
-        static constexpr auto fields = std::tuple_cat(LIST(TAMREL_BIND_FIELD) std::tuple<>()); \
-    }
-
 template <class T>
 concept Bound = requires { Binding<T>::fields; };
 
