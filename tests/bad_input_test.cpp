@@ -12,6 +12,7 @@
 #include "component/call_protocol.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 #include "test_support.h"
+#include "xml/clsGenAsyl/markup_check.h"
 
 namespace {
 
@@ -82,6 +83,36 @@ TEST(BadInput, AValueOfManyMegabytesIsCutToItsField) {
     const std::string record = clsGenMeldung(host.host).GenData(m, dd, 0, Date{2024, 3, 1});
     EXPECT_EQ(record.size(), 559u);
     EXPECT_EQ(record.substr(92, 20), std::string(20, 'A'));
+}
+
+// An XML report's texts are checked for markup before its builders run, in
+// the frame and in every report, naming the property that holds it.
+TEST(BadInput, MarkupInAnXmlReportFailsNamingTheProperty) {
+    const struct {
+        const char* firma;
+        const char* report;
+        std::string failure;
+    } cases[] = {
+        {"F", R"({"MgdFmna":"A & B"})", "report 1: objAsyl.MgdFmna: " + std::string(xml::kMarkupFault)},
+        {"F", R"({"Empfaenger":{"Betriebsnummer":"<1>"}})",
+         "report 1: objAsyl.Empfaenger.Betriebsnummer: " + std::string(xml::kMarkupFault)},
+        {"X<Y", R"({"MgdFmna":"A"})", "header: frame.strFirma: " + std::string(xml::kMarkupFault)},
+    };
+    for (const auto& c : cases) {
+        json j = json::parse(R"({"class":"clsGenAsyl","strBNRAb":"1","strBNREm":"2","strFileNr":"1",
+            "now":"2024-03-01T10:11:12"})");
+        j["strFirma"] = c.firma;
+        j["reports"] = json::array({json::parse(c.report)});
+        const cli::Job job = cli::parse_job(j, "job", ".");
+        cli::ReportSource source(job.reports);
+        cli::StringSink out;
+        try {
+            cli::write_transfer(job, source, cli::TransferSettings{}, out, nullptr);
+            ADD_FAILURE() << c.report << " was accepted";
+        } catch (const cli::ReportFailure& f) {
+            EXPECT_EQ(std::string(f.what()), c.failure);
+        }
+    }
 }
 
 cli::Job meldung_job() {
