@@ -1,10 +1,10 @@
 // Encoders, frame records and protocol lines.
 #include <benchmark/benchmark.h>
 
-#include "core/frames.h"
-#include "core/text_fields.h"
 #include "core/amounts.h"
 #include "core/date_fields.h"
+#include "core/frames.h"
+#include "core/text_fields.h"
 #include "protocol/proto_fields.h"
 
 using namespace tamrel;
@@ -14,7 +14,11 @@ static void BM_AppendAn(benchmark::State& state) {
     bool filled = false;
     for (auto _ : state) {
         out.clear();
-        mlGen::AppendAn(out, "M\xC3\xBC" "ller-L\xC3\xBC" "denscheid", 30, filled);
+        mlGen::AppendAn(out,
+                        "M\xC3\xBC"
+                        "ller-L\xC3\xBC"
+                        "denscheid",
+                        30, filled);
         benchmark::DoNotOptimize(out.data());
     }
 }
@@ -66,8 +70,8 @@ BENCHMARK(BM_GetCurrDate);
 
 static void BM_Frames(benchmark::State& state) {
     const Date d{2024, 3, 1, 10, 11, 12};
-    DSKOData dsko{"98765432", "12345678", "1", "TAMREL1", "MOD", "Firma", "", "", "Weg", "1", "10115", "Berlin",
-                  "W", "Name", "030", "", "a@b.de"};
+    DSKOData dsko{"98765432", "12345678", "1",      "TAMREL1", "MOD",  "Firma", "", "",      "Weg",
+                  "1",        "10115",    "Berlin", "W",       "Name", "030",   "", "a@b.de"};
     for (auto _ : state) {
         std::string datum = "20240301";
         benchmark::DoNotOptimize(mlGen::GenVOSZ("AGDEU", "98765432", "12345678", "1", "Firma", datum, d, "01"));

@@ -24,7 +24,9 @@ namespace {
 
 const Date kDate{2024, 3, 1, 10, 11, 12};
 
-Host quiet_host() { return Host{[](std::string_view) {}, [] { return kDate; }, {}}; }
+Host quiet_host() {
+    return Host{[](std::string_view) {}, [] { return kDate; }, {}};
+}
 
 Vorgang person() {
     Vorgang v;
@@ -35,7 +37,9 @@ Vorgang person() {
     v.Geburtsdatum = "19830917";
     v.Geschlecht = "M";
     v.Geburtsort = "K\xC3\xB6ln";
-    v.Strasse = "Hauptstra\xC3\x9F" "e";
+    v.Strasse =
+        "Hauptstra\xC3\x9F"
+        "e";
     v.Hausnummer = "5";
     v.PLZ = "50667";
     v.Ort = "K\xC3\xB6ln";

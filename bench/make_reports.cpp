@@ -28,20 +28,21 @@ void report(std::FILE* f, long i) {
     char insurance[16];
     std::snprintf(insurance, sizeof insurance, "%08ld%c%03ld", 10000000 + i % 89999999, 'A' + static_cast<int>(i % 26),
                   i % 1000);
-    std::fprintf(f,
-                 "{\"Laufnummer\":%ld,\"Meldegrund\":\"%s\",\"Meldungsart\":1,\"Personengruppe\":\"101\","
-                 "\"Beitragsgruppe1\":\"1\",\"Beitragsgruppe2\":\"1\",\"Beitragsgruppe3\":\"1\",\"Beitragsgruppe4\":"
-                 "\"1\",\"Beginn\":\"20240101\",\"Ende\":\"20241231\",\"Entgelt\":\"%ld\",\"SchluesselNeu1\":\"43112\","
-                 "\"SchluesselNeu2\":\"1\",\"SchluesselNeu3\":\"14\",\"KsKennzeichen\":\"N\",\"KsDatum\":\"20240101\","
-                 "\"KsSchluessel\":\"01\",\"KsZeileA\":%s,\"KvGrund\":\"1\",\"KvBetrag1\":\"%ld,%02ld\","
-                 "\"Vorgang\":{\"Versicherungsnummer\":\"%s\",\"Aktenzeichen\":\"P-%07ld\",\"Familienname\":\"%s\","
-                 "\"Vorname\":\"%s\",\"Geburtsdatum\":\"19%02ld%02ld%02ld\",\"Geschlecht\":\"%s\",\"Geburtsort\":\"%s\","
-                 "\"Strasse\":\"Hauptstra\u00dfe\",\"Hausnummer\":\"%ld\",\"PLZ\":\"%05ld\",\"Ort\":\"%s\","
-                 "\"Arbeitgeber\":{\"Betriebsnummer\":\"98765432\",\"Kennzeichen\":\"N\"}},"
-                 "\"Empfaenger\":{\"Betriebsnummer\":\"12345678\"}}\n",
-                 i + 1, reason.c_str(), 1000 + i % 90000, ks_lines().c_str(), i % 5000, i % 100, insurance, i,
-                 kNames[i % 8], kFirst[(i / 8) % 8], 50 + i % 50, 1 + i % 12, 1 + i % 28, i % 2 ? "M" : "W",
-                 kTowns[i % 6], 1 + i % 200, 10000 + i % 89999, kTowns[(i / 6) % 6]);
+    std::fprintf(
+        f,
+        "{\"Laufnummer\":%ld,\"Meldegrund\":\"%s\",\"Meldungsart\":1,\"Personengruppe\":\"101\","
+        "\"Beitragsgruppe1\":\"1\",\"Beitragsgruppe2\":\"1\",\"Beitragsgruppe3\":\"1\",\"Beitragsgruppe4\":"
+        "\"1\",\"Beginn\":\"20240101\",\"Ende\":\"20241231\",\"Entgelt\":\"%ld\",\"SchluesselNeu1\":\"43112\","
+        "\"SchluesselNeu2\":\"1\",\"SchluesselNeu3\":\"14\",\"KsKennzeichen\":\"N\",\"KsDatum\":\"20240101\","
+        "\"KsSchluessel\":\"01\",\"KsZeileA\":%s,\"KvGrund\":\"1\",\"KvBetrag1\":\"%ld,%02ld\","
+        "\"Vorgang\":{\"Versicherungsnummer\":\"%s\",\"Aktenzeichen\":\"P-%07ld\",\"Familienname\":\"%s\","
+        "\"Vorname\":\"%s\",\"Geburtsdatum\":\"19%02ld%02ld%02ld\",\"Geschlecht\":\"%s\",\"Geburtsort\":\"%s\","
+        "\"Strasse\":\"Hauptstra\u00dfe\",\"Hausnummer\":\"%ld\",\"PLZ\":\"%05ld\",\"Ort\":\"%s\","
+        "\"Arbeitgeber\":{\"Betriebsnummer\":\"98765432\",\"Kennzeichen\":\"N\"}},"
+        "\"Empfaenger\":{\"Betriebsnummer\":\"12345678\"}}\n",
+        i + 1, reason.c_str(), 1000 + i % 90000, ks_lines().c_str(), i % 5000, i % 100, insurance, i, kNames[i % 8],
+        kFirst[(i / 8) % 8], 50 + i % 50, 1 + i % 12, 1 + i % 28, i % 2 ? "M" : "W", kTowns[i % 6], 1 + i % 200,
+        10000 + i % 89999, kTowns[(i / 6) % 6]);
 }
 
 }  // namespace

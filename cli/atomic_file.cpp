@@ -127,8 +127,10 @@ void AtomicFile::copy_to_target() {
     while (ok && (n = std::fread(chunk, 1, sizeof chunk, file_)) > 0) {
         for (std::size_t done = 0; ok && done < n;) {
             const ssize_t w = ::write(fd, chunk + done, n - done);
-            if (w > 0) done += static_cast<std::size_t>(w);
-            else ok = w < 0 && errno == EINTR;
+            if (w > 0)
+                done += static_cast<std::size_t>(w);
+            else
+                ok = w < 0 && errno == EINTR;
         }
     }
     const int err = errno;

@@ -7,16 +7,16 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <optional>
-#include <set>
-#include <vector>
-#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <optional>
+#include <set>
 #include <stdexcept>
+#include <vector>
 
 #include "cli/atomic_file.h"
 #include "cli/job.h"
@@ -109,7 +109,8 @@ int generate(const GenerateOptions& o) {
     settings.transliterate = o.transliterate;
     settings.leftOut = [](const ReportFailure& f) { std::cerr << "tamrel generate: " << f.what() << " (left out)\n"; };
     settings.note = [](const std::string& n) { std::cerr << "tamrel generate: " << n << '\n'; };
-    if (tty) settings.progress = [](std::size_t n) { std::cerr << "\rtamrel generate: " << n << " reports" << std::flush; };
+    if (tty)
+        settings.progress = [](std::size_t n) { std::cerr << "\rtamrel generate: " << n << " reports" << std::flush; };
 
     TransferCounts counts;
     try {

@@ -9,10 +9,10 @@
 
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
-#include "component/procedure_methods.h"
 #include "component/json_binding.h"
-#include "component/shared_bindings.h"
 #include "component/json_limits.h"
+#include "component/procedure_methods.h"
+#include "component/shared_bindings.h"
 
 namespace tamrel::cli {
 
@@ -77,10 +77,9 @@ Job read_job(const std::string& path) {
 
 Job parse_job(const json& j, const std::string& path, const std::string& folder) {
     if (!j.is_object()) throw std::runtime_error(path + ": expected a JSON object");
-    static const std::set<std::string> keys = {"class",       "strBNRAb",        "strBNREm",    "strFileNr",
-                                               "strFirma",    "strDatum",        "enmVerfahren", "datDate",
-                                               "udtDSKOData", "udtDatensatzData", "now",        "tests",
-                                               "reports",     "reports_file"};
+    static const std::set<std::string> keys = {
+        "class",   "strBNRAb",    "strBNREm",         "strFileNr", "strFirma", "strDatum", "enmVerfahren",
+        "datDate", "udtDSKOData", "udtDatensatzData", "now",       "tests",    "reports",  "reports_file"};
     for (const auto& [k, v] : j.items())
         if (!keys.contains(k)) throw std::runtime_error(path + ": " + k + ": unknown key");
     Job job;

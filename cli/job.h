@@ -13,12 +13,12 @@ namespace tamrel::cli {
 
 struct Job {
     const ProcedureDescriptor* procedure = nullptr;
-    FrameValues frame;       // strBNRAb, …, enmVerfahren, datDate, udtDSKOData
+    FrameValues frame;  // strBNRAb, …, enmVerfahren, datDate, udtDSKOData
     DatensatzData datensatz;
-    nlohmann::json now;         // null when absent
-    nlohmann::json tests;       // null when absent
-    nlohmann::json reports;     // array, or null when reportsFile is used
-    std::string reportsFile;    // resolved against the job file's folder
+    nlohmann::json now;       // null when absent
+    nlohmann::json tests;     // null when absent
+    nlohmann::json reports;   // array, or null when reportsFile is used
+    std::string reportsFile;  // resolved against the job file's folder
 };
 
 // A job file larger than this is refused: the reports of a large job belong

@@ -1,7 +1,7 @@
 #include "cli/output_encoding.h"
 
-#include <cstdint>
 #include <cctype>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 
@@ -20,16 +20,33 @@ char32_t decode(std::string_view s, std::size_t& i) {
 
 int latin9(char32_t cp) {
     switch (cp) {
-        case 0x20AC: return 0xA4;
-        case 0x0160: return 0xA6;
-        case 0x0161: return 0xA8;
-        case 0x017D: return 0xB4;
-        case 0x017E: return 0xB8;
-        case 0x0152: return 0xBC;
-        case 0x0153: return 0xBD;
-        case 0x0178: return 0xBE;
-        case 0xA4: case 0xA6: case 0xA8: case 0xB4: case 0xB8: case 0xBC: case 0xBD: case 0xBE: return -1;
-        default: return cp <= 0xFF ? static_cast<int>(cp) : -1;
+        case 0x20AC:
+            return 0xA4;
+        case 0x0160:
+            return 0xA6;
+        case 0x0161:
+            return 0xA8;
+        case 0x017D:
+            return 0xB4;
+        case 0x017E:
+            return 0xB8;
+        case 0x0152:
+            return 0xBC;
+        case 0x0153:
+            return 0xBD;
+        case 0x0178:
+            return 0xBE;
+        case 0xA4:
+        case 0xA6:
+        case 0xA8:
+        case 0xB4:
+        case 0xB8:
+        case 0xBC:
+        case 0xBD:
+        case 0xBE:
+            return -1;
+        default:
+            return cp <= 0xFF ? static_cast<int>(cp) : -1;
     }
 }
 
@@ -60,14 +77,14 @@ std::size_t printable_run(std::string_view s) {
 
 // Latin Extended-A (U+0100 to U+017F), letter by letter.
 constexpr std::string_view kExtendedA[128] = {
-    "A", "a", "A", "a", "A", "a", "C", "c", "C", "c", "C", "c", "C", "c", "D", "d",  // U+0100
-    "D", "d", "E", "e", "E", "e", "E", "e", "E", "e", "E", "e", "G", "g", "G", "g",  // U+0110
-    "G", "g", "G", "g", "H", "h", "H", "h", "I", "i", "I", "i", "I", "i", "I", "i",  // U+0120
+    "A", "a", "A",  "a",  "A", "a", "C", "c", "C", "c", "C", "c", "C", "c", "D", "d",  // U+0100
+    "D", "d", "E",  "e",  "E", "e", "E", "e", "E", "e", "E", "e", "G", "g", "G", "g",  // U+0110
+    "G", "g", "G",  "g",  "H", "h", "H", "h", "I", "i", "I", "i", "I", "i", "I", "i",  // U+0120
     "I", "i", "IJ", "ij", "J", "j", "K", "k", "k", "L", "l", "L", "l", "L", "l", "L",  // U+0130
-    "l", "L", "l", "N", "n", "N", "n", "N", "n", "n", "N", "n", "O", "o", "O", "o",  // U+0140
+    "l", "L", "l",  "N",  "n", "N", "n", "N", "n", "n", "N", "n", "O", "o", "O", "o",  // U+0140
     "O", "o", "OE", "oe", "R", "r", "R", "r", "R", "r", "S", "s", "S", "s", "S", "s",  // U+0150
-    "S", "s", "T", "t", "T", "t", "T", "t", "U", "u", "U", "u", "U", "u", "U", "u",  // U+0160
-    "U", "u", "U", "u", "W", "w", "Y", "y", "Y", "Z", "z", "Z", "z", "Z", "z", "s",  // U+0170
+    "S", "s", "T",  "t",  "T", "t", "T", "t", "U", "u", "U", "u", "U", "u", "U", "u",  // U+0160
+    "U", "u", "U",  "u",  "W", "w", "Y", "y", "Y", "Z", "z", "Z", "z", "Z", "z", "s",  // U+0170
 };
 
 bool ascii_equal_nocase(std::string_view a, std::string_view b) {
@@ -83,19 +100,43 @@ bool ascii_equal_nocase(std::string_view a, std::string_view b) {
 std::string_view substitute(char32_t c) {
     if (c >= 0x100 && c < 0x180) return kExtendedA[c - 0x100];
     switch (c) {
-        case 0x0218: return "S";  // Ș
-        case 0x0219: return "s";
-        case 0x021A: return "T";  // Ț
-        case 0x021B: return "t";
-        case 0x20AC: return "EUR";
-        case 0x2018: case 0x2019: case 0x201A: case 0x201B: return "'";
-        case 0x201C: case 0x201D: case 0x201E: case 0x201F: return "\"";
-        case 0x2010: case 0x2011: case 0x2012: case 0x2013: case 0x2014: case 0x2212: return "-";
-        case 0x2026: return "...";
-        case 0x00BC: return "1/4";
-        case 0x00BD: return "1/2";
-        case 0x00BE: return "3/4";
-        default: return {};
+        case 0x0218:
+            return "S";  // Ș
+        case 0x0219:
+            return "s";
+        case 0x021A:
+            return "T";  // Ț
+        case 0x021B:
+            return "t";
+        case 0x20AC:
+            return "EUR";
+        case 0x2018:
+        case 0x2019:
+        case 0x201A:
+        case 0x201B:
+            return "'";
+        case 0x201C:
+        case 0x201D:
+        case 0x201E:
+        case 0x201F:
+            return "\"";
+        case 0x2010:
+        case 0x2011:
+        case 0x2012:
+        case 0x2013:
+        case 0x2014:
+        case 0x2212:
+            return "-";
+        case 0x2026:
+            return "...";
+        case 0x00BC:
+            return "1/4";
+        case 0x00BD:
+            return "1/2";
+        case 0x00BE:
+            return "3/4";
+        default:
+            return {};
     }
 }
 
@@ -118,9 +159,12 @@ std::optional<Encoding> parse_encoding(std::string_view name) {
 
 const char* encoding_name(Encoding e) {
     switch (e) {
-        case Encoding::Latin1: return "ISO-8859-1";
-        case Encoding::Latin9: return "ISO-8859-15";
-        default: return "UTF-8";
+        case Encoding::Latin1:
+            return "ISO-8859-1";
+        case Encoding::Latin9:
+            return "ISO-8859-15";
+        default:
+            return "UTF-8";
     }
 }
 

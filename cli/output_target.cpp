@@ -40,9 +40,7 @@ struct Identity {
     std::string canonical;
 };
 
-Identity identity_of_existing(const struct stat& s) {
-    return {true, s.st_dev, s.st_ino, S_ISCHR(s.st_mode), {}};
-}
+Identity identity_of_existing(const struct stat& s) { return {true, s.st_dev, s.st_ino, S_ISCHR(s.st_mode), {}}; }
 
 Identity identity_of_path(const std::string& path) {
     struct stat s {};

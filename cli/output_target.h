@@ -12,8 +12,8 @@ namespace tamrel::cli {
 
 struct OutputTarget {
     enum Kind { NewFile, ReplaceFile, Direct, Stdout } kind = NewFile;
-    std::string given;  // the path as the user wrote it
-    std::string real;   // the file to create or replace, links followed; the device or pipe for Direct
+    std::string given;   // the path as the user wrote it
+    std::string real;    // the file to create or replace, links followed; the device or pipe for Direct
     mode_t mode = 0644;  // of the file written
     uid_t uid = 0;       // of a replaced file, kept where the process may
     gid_t gid = 0;

@@ -47,8 +47,10 @@ auto run(const Where& where, F&& step) -> decltype(step()) {
 
 // The texts of an XML report are checked for markup before it is built.
 void check_frame_markup(const FrameValues& f) {
-    const std::pair<const char*, const std::string*> texts[] = {{"strBNRAb", &f.strBNRAb}, {"strBNREm", &f.strBNREm},
-                                                                {"strDatum", &f.strDatum}, {"strFileNr", &f.strFileNr},
+    const std::pair<const char*, const std::string*> texts[] = {{"strBNRAb", &f.strBNRAb},
+                                                                {"strBNREm", &f.strBNREm},
+                                                                {"strDatum", &f.strDatum},
+                                                                {"strFileNr", &f.strFileNr},
                                                                 {"strFirma", &f.strFirma}};
     for (const auto& [name, value] : texts)
         if (xml::holds_markup(*value))
@@ -136,13 +138,13 @@ private:
         std::string held = where_held(f.character, runner);
         if (f.control) {
             return held + "the control character " + unicode_name(f.character) + " (at position " +
-                   std::to_string(f.position) +
-                   ") cannot be written in a transfer file";
+                   std::to_string(f.position) + ") cannot be written in a transfer file";
         }
         return held + "\"" + std::string(f.character) + "\" (at position " + std::to_string(f.position) +
                ") cannot be written in " + encoding_name(settings_.encoding) +
-               (substitute(f.code).empty() ? std::string()
-                : "; --transliterate writes it as \"" + std::string(substitute(f.code)) + "\"");
+               (substitute(f.code).empty()
+                    ? std::string()
+                    : "; --transliterate writes it as \"" + std::string(substitute(f.code)) + "\"");
     }
     std::string substitutions(const ReportRunner* runner) const {
         std::string t;

@@ -38,10 +38,14 @@ ObjectTests parse_tests(const json& j) {
     if (!j.is_object()) throw RequestError("tests: expected an object");
     ObjectTests t;
     for (const auto& [k, v] : j.items()) {
-        if (k == "NameTest") t.NameTest = list_test(v, k);
-        else if (k == "EmpfBknTest1") t.EmpfBknTest1 = list_test(v, k);
-        else if (k == "EmpfBknTest2") t.EmpfBknTest2 = list_test(v, k);
-        else throw RequestError("tests." + k + ": unknown test");
+        if (k == "NameTest")
+            t.NameTest = list_test(v, k);
+        else if (k == "EmpfBknTest1")
+            t.EmpfBknTest1 = list_test(v, k);
+        else if (k == "EmpfBknTest2")
+            t.EmpfBknTest2 = list_test(v, k);
+        else
+            throw RequestError("tests." + k + ": unknown test");
     }
     return t;
 }
@@ -64,8 +68,7 @@ ordered_json with_id(const json& request) {
 
 }  // namespace
 
-CallSession::CallSession(const json* now, const json* tests)
-    : lines_(std::make_shared<std::vector<std::string>>()) {
+CallSession::CallSession(const json* now, const json* tests) : lines_(std::make_shared<std::vector<std::string>>()) {
     host_.log = [lines = lines_](std::string_view l) { lines->emplace_back(l); };
     if (now) {
         Date fixed = parse_now(*now);

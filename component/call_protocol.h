@@ -3,8 +3,8 @@
 #pragma once
 #include <memory>
 #include <string>
-#include <vector>
 #include <string_view>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 

@@ -20,11 +20,11 @@ public:
     Invocation(const nlohmann::json& args, const Host& host) : args_(args), host_(host) {}
 
     const Host& host() const { return host_; }
-    std::string str(const char* name) const;           // String parameter
-    std::string opt_str(const char* name) const;       // optional String
-    Date date(const char* name) const;                 // optional Date
-    std::int32_t verf(const char* name) const;         // VerfMerkmal
-    std::int32_t enm(const char* name) const;          // other enumerations
+    std::string str(const char* name) const;      // String parameter
+    std::string opt_str(const char* name) const;  // optional String
+    Date date(const char* name) const;            // optional Date
+    std::int32_t verf(const char* name) const;    // VerfMerkmal
+    std::int32_t enm(const char* name) const;     // other enumerations
     bool boolean(const char* name) const;
     template <class T>
     T object(std::string_view name) const {

@@ -71,8 +71,7 @@ std::unique_ptr<ReportRunner> runner(const ProcedureDescriptor& p, const RunnerS
 // The descriptor of generator class `Gen` with data object `Obj`; `Proto` is
 // its clsProtoEntry method (named `protoMethod`), or nullptr.
 template <class Gen, class Obj, FrameForm F, DataForm D, auto Proto>
-constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view objParam,
-                                       std::string_view protoMethod) {
+constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view objParam, std::string_view protoMethod) {
     using Frames = describing::FrameCalls<Gen, F>;
     ProcedureDescriptor d{cls, objParam, protoMethod, F, D};
     d.GenVOSZ = &Frames::vosz;

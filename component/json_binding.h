@@ -8,11 +8,11 @@
 #include <cstdint>
 #include <limits>
 #include <map>
-#include <utility>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -56,7 +56,9 @@ template <class T>
 struct Binding;
 
 template <class T>
-concept Bound = requires { Binding<T>::fields; };
+concept Bound = requires {
+    Binding<T>::fields;
+};
 
 // Where a value sits ("args.objMeldung.Vorgang.PLZ"), kept as a chain of
 // pieces and turned into text only when a request error is reported.
@@ -131,8 +133,7 @@ void read(const V& v, bool& out, const Path& path) {
 }
 
 template <class V, class I>
-    requires(std::is_integral_v<I> && !std::is_same_v<I, bool>)
-void read(const V& v, I& out, const Path& path) {
+requires(std::is_integral_v<I> && !std::is_same_v<I, bool>) void read(const V& v, I& out, const Path& path) {
     if (!v.is_integer()) fail(path, "expected an integer");
     std::int64_t x = 0;
     if (!v.integer(std::numeric_limits<I>::min(), std::numeric_limits<I>::max(), x))
@@ -258,7 +259,8 @@ struct Dispatch {
         for (std::size_t h = name_hash(key) & mask;; h = (h + 1) & mask) {
             const int i = slots[h];
             if (i < 0) return nullptr;
-            if (bytes::equal(entries[static_cast<std::size_t>(i)].name, key)) return &entries[static_cast<std::size_t>(i)];
+            if (bytes::equal(entries[static_cast<std::size_t>(i)].name, key))
+                return &entries[static_cast<std::size_t>(i)];
         }
     }
 };
@@ -281,7 +283,8 @@ Dispatch<O, V> make_dispatch(std::index_sequence<I...>) {
     auto add = [&](const auto& f, auto reader) {
         if constexpr (requires { f.name; }) d.entries.push_back({f.name, reader});
     };
-    (add(std::get<I>(Binding<O>::fields),
+    (add(
+         std::get<I>(Binding<O>::fields),
          +[](const V& v, O& out, const Path& path) {
              const auto& f = std::get<I>(Binding<O>::fields);
              if constexpr (requires { f.name; }) read(v, out.*(f.member), path);
@@ -315,7 +318,7 @@ template <class V, Bound T>
 void read(const V& v, T& out, const Path& path) {
     if (!v.is_object()) fail(path, "expected an object");
     const auto& table = dispatch<T, V>();
-    constexpr bool tracks = requires(T& t, const Present<T, V>& p) { Binding<T>::finish(t, p); };
+    constexpr bool tracks = requires(T & t, const Present<T, V>& p) { Binding<T>::finish(t, p); };
     Present<T, V> present{table};
     v.each_member([&](std::string_view key, const V& value) {
         const Path here{&path, key};

@@ -20,12 +20,16 @@ void check_bounds(std::string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
         if (in_string) {
-            if (c == '\\') ++i;
-            else if (c == '"') in_string = false;
+            if (c == '\\')
+                ++i;
+            else if (c == '"')
+                in_string = false;
             continue;
         }
         switch (c) {
-            case '"': in_string = true; break;
+            case '"':
+                in_string = true;
+                break;
             case '[':
             case '{':
                 if (++depth > kMaxJsonDepth)
@@ -36,8 +40,11 @@ void check_bounds(std::string_view text) {
                     throw json_binding::RequestError("more than " + std::to_string(kMaxJsonValues) + " values");
                 break;
             case ']':
-            case '}': --depth; break;
-            default: break;
+            case '}':
+                --depth;
+                break;
+            default:
+                break;
         }
     }
 }

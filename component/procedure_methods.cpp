@@ -74,9 +74,12 @@ Method ncsz(const ProcedureDescriptor& p) {
 std::vector<std::string> data_params(const ProcedureDescriptor& p) {
     const std::string obj(p.objParam);
     switch (p.data) {
-        case DataForm::BeitrNachw: return {obj, "strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"};
-        case DataForm::WithVerfahren: return {obj, "udtDatensatzData", "enmVerfahren"};
-        case DataForm::Common: break;
+        case DataForm::BeitrNachw:
+            return {obj, "strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"};
+        case DataForm::WithVerfahren:
+            return {obj, "udtDatensatzData", "enmVerfahren"};
+        case DataForm::Common:
+            break;
     }
     return {obj, "udtDatensatzData"};
 }
@@ -116,10 +119,9 @@ void add_methods(Registry& r, const ProcedureDescriptor& p) {
     t["GenNCSZ"] = ncsz(p);
     t["GenData"] = {data_params(p), {"datDate"}, [&p](Invocation& inv) { return p.GenData(p, inv); }};
     if (p.CreateProto)
-        r["clsProtoEntry"][std::string(p.protoMethod)] = {
-            {std::string(p.objParam), "blnError"}, {"strErrText"}, [&p](Invocation& inv) {
-                return p.CreateProto(p, inv);
-            }};
+        r["clsProtoEntry"][std::string(p.protoMethod)] = {{std::string(p.objParam), "blnError"},
+                                                          {"strErrText"},
+                                                          [&p](Invocation& inv) { return p.CreateProto(p, inv); }};
 }
 
 }  // namespace tamrel

@@ -21,10 +21,7 @@ inline std::string child(const std::string& path, std::string_view name) {
 }
 
 template <class T>
-    requires(!Bound<T>)
-bool each_text(const T&, const std::string&, const TextVisitor&) {
-    return false;
-}
+requires(!Bound<T>) bool each_text(const T&, const std::string&, const TextVisitor&) { return false; }
 inline bool each_text(const std::string& v, const std::string& path, const TextVisitor& f) { return f(path, v); }
 template <Bound T>
 bool each_text(const T& v, const std::string& path, const TextVisitor& f, std::string_view prefix = {});

@@ -62,8 +62,10 @@ public:
     void read(const nlohmann::json& report) override { read_value(json_binding::NlohmannValue{report}); }
     std::string data() override { return call_gen_data<D>(gen_, obj_, settings_); }
     std::string protocol(bool error, std::string_view text) override {
-        if constexpr (Proto == nullptr) return {};
-        else return (proto_entry_.*Proto)(obj_, error, text);
+        if constexpr (Proto == nullptr)
+            return {};
+        else
+            return (proto_entry_.*Proto)(obj_, error, text);
     }
     void clear() override {
         static const Obj empty{};

@@ -14,8 +14,8 @@ bool all_of(std::string_view s, char c) {
 
 // The walk of the amount encoders: digits, signs, separators. Returns the
 // sign character seen last (0 when none).
-char split_amount(std::string_view value, std::string& vor, std::string& nach, bool sign_allowed,
-                  const char* source, int& line) {
+char split_amount(std::string_view value, std::string& vor, std::string& nach, bool sign_allowed, const char* source,
+                  int& line) {
     bool separator_seen = false;
     char sign = 0;
     for (char c : value) {
@@ -67,15 +67,21 @@ char* detail::PutAmountGeneral(char* d, std::string_view value, int intVor, int 
     for (std::size_t i = 0; ok && i < value.size(); ++i) {
         const char c = value[i];
         if (c >= '0' && c <= '9') {
-            if (separator_seen ? nn == kMax : nv == kMax) ok = false;
-            else if (separator_seen) nach[nn++] = c;
-            else vor[nv++] = c;
+            if (separator_seen ? nn == kMax : nv == kMax)
+                ok = false;
+            else if (separator_seen)
+                nach[nn++] = c;
+            else
+                vor[nv++] = c;
         } else if (c == '+' || c == '-') {
-            if (with_sign) sign = c;
-            else ok = c == '+';
+            if (with_sign)
+                sign = c;
+            else
+                ok = c == '+';
         } else if (c == ',' || c == '.') {
             if (separator_seen) {
-                if (nv + nn > kMax) ok = false;
+                if (nv + nn > kMax)
+                    ok = false;
                 else {
                     std::memcpy(vor + nv, nach, nn);
                     nv += nn;

@@ -5,8 +5,8 @@
 
 namespace tamrel {
 
-void AppendContactBlock(std::string& out, std::string_view id, ContactView ap, const Arbeitgeber& ag,
-                        bool& hasData, std::string_view context) {
+void AppendContactBlock(std::string& out, std::string_view id, ContactView ap, const Arbeitgeber& ag, bool& hasData,
+                        std::string_view context) {
     routine(context, [&](int& line) {
         hasData = false;
         Writer w(out, line, hasData);

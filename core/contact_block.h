@@ -24,7 +24,7 @@ struct ContactView {
 
 // Appends the 321-character block named `id`; `hasData` is set when any
 // field holds data. `context` is the calling routine's name for the log line.
-void AppendContactBlock(std::string& out, std::string_view id, ContactView ap, const Arbeitgeber& ag,
-                        bool& hasData, std::string_view context);
+void AppendContactBlock(std::string& out, std::string_view id, ContactView ap, const Arbeitgeber& ag, bool& hasData,
+                        std::string_view context);
 
 }  // namespace tamrel

@@ -25,7 +25,8 @@ int days_in_month(int y, int m) {
 
 constexpr auto kDigitPairs = [] {
     std::array<char, 200> pairs{};
-    for (int v = 0; v < 100; ++v) pairs[2 * v] = static_cast<char>('0' + v / 10), pairs[2 * v + 1] = static_cast<char>('0' + v % 10);
+    for (int v = 0; v < 100; ++v)
+        pairs[2 * v] = static_cast<char>('0' + v / 10), pairs[2 * v + 1] = static_cast<char>('0' + v % 10);
     return pairs;
 }();
 

@@ -11,7 +11,9 @@ struct Date {
     int year = 0, month = 0, day = 0;
     int hour = 0, minute = 0, second = 0;
 
-    bool is_empty() const noexcept { return year == 0 && month == 0 && day == 0 && hour == 0 && minute == 0 && second == 0; }
+    bool is_empty() const noexcept {
+        return year == 0 && month == 0 && day == 0 && hour == 0 && minute == 0 && second == 0;
+    }
     bool operator==(const Date&) const = default;
     auto operator<=>(const Date&) const = default;
 };

@@ -57,7 +57,9 @@ CurrDate::CurrDate(std::string_view dateText, int format, const Date& date) {
     const std::string_view year = ascii ? t.substr(0, 4) : text::left(t, 4);
     const auto add = [this](std::string_view piece) { pieces_[count_++] = piece; };
     switch (format) {
-        case 0: add(year), add(month), add(day); break;
+        case 0:
+            add(year), add(month), add(day);
+            break;
         case 1:
             add(year), add(month), add(day);
             if (chars >= 14)
@@ -65,8 +67,11 @@ CurrDate::CurrDate(std::string_view dateText, int format, const Date& date) {
             else
                 add({own_ + 8, static_cast<std::size_t>(put_hhnnss(own_ + 8, date) - (own_ + 8))});
             break;
-        case 2: add(day), add(month), add(year); break;
-        default: break;
+        case 2:
+            add(day), add(month), add(year);
+            break;
+        default:
+            break;
     }
 }
 

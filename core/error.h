@@ -10,12 +10,12 @@ namespace tamrel {
 
 // Numbers above the object-error base (hexadecimal 80040000).
 inline constexpr std::int32_t kObjectErrorBase = static_cast<std::int32_t>(0x80040000u);
-inline constexpr std::int32_t kErrLength = kObjectErrorBase + 8301;     // CheckLength
-inline constexpr std::int32_t kErrReason = kObjectErrorBase + 8302;     // DEUEV reason not in table
-inline constexpr std::int32_t kErrDbksKind = kObjectErrorBase + 8303;   // DBKS for a wrong report kind
-inline constexpr std::int32_t kErrAmount = kObjectErrorBase + 8304;     // amounts, DM
-inline constexpr std::int32_t kErrText = kObjectErrorBase + 8305;       // text that is not UTF-8
-inline constexpr std::int32_t kErrOverflow = 6;                          // runtime overflow
+inline constexpr std::int32_t kErrLength = kObjectErrorBase + 8301;    // CheckLength
+inline constexpr std::int32_t kErrReason = kObjectErrorBase + 8302;    // DEUEV reason not in table
+inline constexpr std::int32_t kErrDbksKind = kObjectErrorBase + 8303;  // DBKS for a wrong report kind
+inline constexpr std::int32_t kErrAmount = kObjectErrorBase + 8304;    // amounts, DM
+inline constexpr std::int32_t kErrText = kObjectErrorBase + 8305;      // text that is not UTF-8
+inline constexpr std::int32_t kErrOverflow = 6;                        // runtime overflow
 
 inline constexpr const char* kComponentName = "TamrelFile26";
 

@@ -1,73 +1,66 @@
 #include "core/frames.h"
 
-#include "core/routine.h"
-#include "core/writer.h"
-#include "core/text_fields.h"
 #include "core/check_length.h"
 #include "core/date_fields.h"
+#include "core/routine.h"
+#include "core/text_fields.h"
+#include "core/writer.h"
 
 namespace tamrel::mlGen {
 
 std::string GenVOSZHead(std::string_view code, std::string_view sender, std::string_view receiver,
                         std::string_view fileNr, std::string_view dateText) {
-    return routine(with_args("mlGen.GenVOSZHead(", code, sender, receiver, fileNr, dateText),
+    return routine(with_args("mlGen.GenVOSZHead(", code, sender, receiver, fileNr, dateText), [&](int& line) {
+        std::string out;
+        Writer w(out, line);
+        w.lit("VOSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6);
+        w.end();
+        return out;
+    });
+}
+
+std::string GenVOSZ(std::string_view code, std::string_view sender, std::string_view receiver, std::string_view fileNr,
+                    std::string_view senderName, std::string& dateText, const Date& date, std::string_view version) {
+    return routine(with_args("mlGen.GenVOSZ(", code, sender, receiver, fileNr, senderName, dateText, date, version),
                    [&](int& line) {
-                       std::string out;
-                       Writer w(out, line);
-                       w.lit("VOSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6);
-                       w.end();
+                       line = 1;
+                       Date d = GetDate(date);
+                       line = 2;
+                       if (dateText.empty()) dateText = mlGlobal::GetCurrDate({}, 0, d);
+                       line = 3;
+                       std::string out = GenVOSZHead(code, sender, receiver, fileNr, dateText);
+                       bool filled = false;
+                       AppendAn(out, senderName, 50, filled);
+                       AppendN(out, version, 2, filled);
+                       line = 4;
+                       CheckLength(out, 105, "VOSZ");
                        return out;
                    });
 }
 
-std::string GenVOSZ(std::string_view code, std::string_view sender, std::string_view receiver,
-                    std::string_view fileNr, std::string_view senderName, std::string& dateText, const Date& date,
-                    std::string_view version) {
-    return routine(
-        with_args("mlGen.GenVOSZ(", code, sender, receiver, fileNr, senderName, dateText, date, version),
-        [&](int& line) {
-            line = 1;
-            Date d = GetDate(date);
-            line = 2;
-            if (dateText.empty()) dateText = mlGlobal::GetCurrDate({}, 0, d);
-            line = 3;
-            std::string out = GenVOSZHead(code, sender, receiver, fileNr, dateText);
-            bool filled = false;
-            AppendAn(out, senderName, 50, filled);
-            AppendN(out, version, 2, filled);
-            line = 4;
-            CheckLength(out, 105, "VOSZ");
-            return out;
-        });
-}
-
 std::string GenNCSZHead(std::string_view code, std::string_view sender, std::string_view receiver,
                         std::string_view fileNr, std::string_view count, std::string_view dateText) {
-    return routine(
-        with_args("mlGen.GenNCSZHead(", code, sender, receiver, fileNr, count, dateText),
-        [&](int& line) {
-            std::string out;
-            Writer w(out, line);
-            w.lit("NCSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6).n(count, 8);
-            w.end();
-            return out;
-        });
+    return routine(with_args("mlGen.GenNCSZHead(", code, sender, receiver, fileNr, count, dateText), [&](int& line) {
+        std::string out;
+        Writer w(out, line);
+        w.lit("NCSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6).n(count, 8);
+        w.end();
+        return out;
+    });
 }
 
-std::string GenNCSZ(std::string_view code, std::string_view sender, std::string_view receiver,
-                    std::string_view fileNr, std::string_view count, const Date& date, std::string_view version) {
-    return routine(
-        with_args("mlGen.GenNCSZ(", code, sender, receiver, fileNr, count, date, version),
-        [&](int& line) {
-            line = 1;
-            std::string dateText = mlGlobal::GetCurrDate({}, 0, GetDate(date));
-            line = 2;
-            std::string out = GenNCSZHead(code, sender, receiver, fileNr, count, dateText);
-            out += version;
-            line = 3;
-            CheckLength(out, 63, "NCSZ");
-            return out;
-        });
+std::string GenNCSZ(std::string_view code, std::string_view sender, std::string_view receiver, std::string_view fileNr,
+                    std::string_view count, const Date& date, std::string_view version) {
+    return routine(with_args("mlGen.GenNCSZ(", code, sender, receiver, fileNr, count, date, version), [&](int& line) {
+        line = 1;
+        std::string dateText = mlGlobal::GetCurrDate({}, 0, GetDate(date));
+        line = 2;
+        std::string out = GenNCSZHead(code, sender, receiver, fileNr, count, dateText);
+        out += version;
+        line = 3;
+        CheckLength(out, 63, "NCSZ");
+        return out;
+    });
 }
 
 std::string GenDSKO(DSKOData& data, std::string_view code, const Date& date) {

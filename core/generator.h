@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "core/date.h"
-#include "core/host.h"
 #include "core/date_fields.h"
+#include "core/host.h"
 #include "core/objects.h"
 #include "core/routine.h"
 

@@ -39,8 +39,7 @@ void append_arg(std::string& out, bool v);
 void append_arg(std::string& out, const Date& v);
 void append_arg(std::string& out, std::int64_t v);
 template <std::integral I>
-    requires(!std::same_as<I, bool>)
-void append_arg(std::string& out, I v) {
+requires(!std::same_as<I, bool>) void append_arg(std::string& out, I v) {
     append_arg(out, static_cast<std::int64_t>(v));
 }
 }  // namespace detail
@@ -62,9 +61,8 @@ std::string call_text(std::string_view head, const A&... args) {
 // expression that runs the routine.
 template <class... A>
 auto with_args(std::string_view head, const A&... args) {
-    return [head, &args...] {
-        return !head.empty() && head.back() == '(' ? call_text(head, args...) : std::string(head);
-    };
+    return
+        [head, &args...] { return !head.empty() && head.back() == '(' ? call_text(head, args...) : std::string(head); };
 }
 
 template <class Ctx, class Body>

@@ -14,8 +14,11 @@ std::string GenDBAN(const Vorgang& vorgang, bool& filled);
 struct NameView {
     std::string_view familienname, vorname, vorsatzwort, namenszusatz, titel;
     explicit NameView(const Vorgang& v)
-        : familienname(v.Familienname), vorname(v.Vorname), vorsatzwort(v.Vorsatzwort),
-          namenszusatz(v.Namenszusatz), titel(v.Titel) {}
+        : familienname(v.Familienname),
+          vorname(v.Vorname),
+          vorsatzwort(v.Vorsatzwort),
+          namenszusatz(v.Namenszusatz),
+          titel(v.Titel) {}
 };
 
 // The layouts behind the shared blocks: the marker character of DBNA and

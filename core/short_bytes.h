@@ -8,7 +8,6 @@
 #include <cstring>
 #include <string_view>
 
-
 namespace tamrel::bytes {
 
 // Scratch a field's writer leaves behind the field (see pad_field).
@@ -80,7 +79,9 @@ struct Survey {
 
 // The high bit of every byte below 0x0E: bytes of 0x0E or more have the
 // high bit of (their low seven bits + 0x72) or their own. Exact per byte.
-inline std::uint64_t below_0e(std::uint64_t x) noexcept { return ~(((x & ~kHigh) + (0x80 - 0x0E) * kOnes) | x) & kHigh; }
+inline std::uint64_t below_0e(std::uint64_t x) noexcept {
+    return ~(((x & ~kHigh) + (0x80 - 0x0E) * kOnes) | x) & kHigh;
+}
 
 // Whether any of the n bytes at s is below 0x0E (CR, LF and TAB among them).
 inline bool any_below_0e(const char* s, std::size_t n) noexcept {
@@ -159,7 +160,8 @@ inline ShortText survey_short_text(const char* s, std::size_t n) noexcept {
     const auto lead = [](std::uint64_t x) { return x & (x << 1) & kHigh; };
     const std::uint64_t cont_lo = cont(w.lo), cont_hi = cont(w.hi);
     const std::uint64_t lead_lo = lead(w.lo), lead_hi = lead(w.hi);
-    const bool pairs = (lead_lo << 8) == cont_lo && ((lead_hi << 8) | (lead_lo >> 56)) == cont_hi && (lead_hi >> 56) == 0;
+    const bool pairs =
+        (lead_lo << 8) == cont_lo && ((lead_hi << 8) | (lead_lo >> 56)) == cont_hi && (lead_hi >> 56) == 0;
     // Among the leads: those of three or more bytes (111xxxxx) and the
     // overlong C0 and C1 (bits 1-4 clear, which adding 0x7E leaves below 0x80).
     const auto bad_lead = [](std::uint64_t x, std::uint64_t leads) {

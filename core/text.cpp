@@ -20,7 +20,10 @@ bool is_valid_utf8(std::string_view s) noexcept {
             }
         }
         unsigned char c = *p;
-        if (c < 0x80) { ++p; continue; }
+        if (c < 0x80) {
+            ++p;
+            continue;
+        }
         if (c >= 0xC2 && c <= 0xDF) {  // two bytes: most letters of Latin scripts
             if (end - p < 2 || (p[1] & 0xC0) != 0x80) return false;
             p += 2;
@@ -28,16 +31,20 @@ bool is_valid_utf8(std::string_view s) noexcept {
         }
         std::size_t n;
         char32_t cp;
-        if ((c >> 4) == 0xE) { n = 2; cp = c & 0x0F; }
-        else if (c >= 0xF0 && c <= 0xF4) { n = 3; cp = c & 0x07; }
-        else return false;
+        if ((c >> 4) == 0xE) {
+            n = 2;
+            cp = c & 0x0F;
+        } else if (c >= 0xF0 && c <= 0xF4) {
+            n = 3;
+            cp = c & 0x07;
+        } else
+            return false;
         if (static_cast<std::size_t>(end - p) <= n) return false;
         for (std::size_t i = 1; i <= n; ++i) {
             if ((p[i] & 0xC0) != 0x80) return false;
             cp = (cp << 6) | (p[i] & 0x3F);
         }
-        if ((n == 2 && (cp < 0x800 || (cp >= 0xD800 && cp <= 0xDFFF))) ||
-            (n == 3 && (cp < 0x10000 || cp > 0x10FFFF)))
+        if ((n == 2 && (cp < 0x800 || (cp >= 0xD800 && cp <= 0xDFFF))) || (n == 3 && (cp < 0x10000 || cp > 0x10FFFF)))
             return false;
         p += n + 1;
     }
@@ -79,9 +86,7 @@ std::size_t byte_offset(std::string_view s, std::size_t n) noexcept {
     return i < s.size() ? i : s.size();
 }
 
-std::string_view left(std::string_view s, std::size_t n) noexcept {
-    return s.substr(0, byte_offset(s, n));
-}
+std::string_view left(std::string_view s, std::size_t n) noexcept { return s.substr(0, byte_offset(s, n)); }
 
 std::string_view right(std::string_view s, std::size_t n) noexcept {
     std::size_t total = char_count(s);

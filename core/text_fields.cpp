@@ -6,8 +6,8 @@
 #include "core/error.h"
 #include "core/joined.h"
 #include "core/routine.h"
-#include "core/text_fields.h"
 #include "core/text.h"
+#include "core/text_fields.h"
 
 namespace tamrel::mlGen {
 namespace {
@@ -17,7 +17,6 @@ void require_utf8(std::string_view value, const char* routine_name) {
     if (!text::is_valid_utf8(value))
         raise(kErrText, std::string("mlGen.") + routine_name, "Der Text ist kein g\xC3\xBCltiges UTF-8.");
 }
-
 
 }  // namespace
 

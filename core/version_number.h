@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/text_fields.h"
 #include "core/decimal.h"
+#include "core/text_fields.h"
 
 namespace tamrel {
 

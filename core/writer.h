@@ -9,16 +9,16 @@
 #include <string_view>
 #include <type_traits>
 
-#include "core/joined.h"
-#include "core/text_fields.h"
 #include "core/amounts.h"
-#include "core/flags.h"
 #include "core/check_length.h"
-#include "core/decimal.h"
 #include "core/date_fields.h"
+#include "core/decimal.h"
+#include "core/flags.h"
+#include "core/joined.h"
 #include "core/record_buffer.h"
 #include "core/routine.h"
 #include "core/text.h"
+#include "core/text_fields.h"
 
 namespace tamrel {
 
@@ -90,7 +90,7 @@ public:
     // As above, for a length that is computed (in 16 bits) by the check's
     // own statement: an overflow there is the check's.
     template <class Length>
-        requires std::is_invocable_r_v<int, Length>
+    requires std::is_invocable_r_v<int, Length>
     [[gnu::always_inline]] void check(Length&& length, std::string_view name) {
         ++line_;
         close(length(), name);

@@ -1,9 +1,9 @@
 #include "core/xml_encoders.h"
 
-#include "core/joined.h"
-#include "core/text_fields.h"
 #include "core/date_fields.h"
+#include "core/joined.h"
 #include "core/text.h"
+#include "core/text_fields.h"
 
 namespace tamrel::mlGen {
 

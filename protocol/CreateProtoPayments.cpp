@@ -8,19 +8,18 @@
 namespace tamrel {
 
 std::string clsProtoEntry::CreateProtoErst(const Erst& e, bool blnError, std::string_view strErrText) const {
-    return call(with_args("clsProtoEntry.CreateProtoErst(", ObjArg{"objErst"}, blnError, strErrText),
-                [&](int& line) {
-                    line = 1;
-                    const Vorgang& v = e.Vorgang;
-                    proto::Line l;
-                    l.raw(mlGen::Decimal(e.ErstattungsId)).q(v.Versicherungsnummer).q(v.Aktenzeichen);
-                    l.q(v.Familienname).q(v.Vorname).raw(v.Geburtsdatum).q(v.Arbeitgeber.Betriebsnummer);
-                    l.q(e.Empfaenger.Betriebsnummer).raw(mlGen::Decimal(e.Erstattungsgrund));
-                    l.raw(mlGen::Decimal(e.Leistungsart)).raw(e.ErstDatum).raw(e.ZeitraumBeginn).raw(e.ZeitraumEnde);
-                    l.amount(e.Betrag1).amount(e.Betrag2).amount(e.Betrag3).amount(e.Betrag4).amount(e.Betrag5);
-                    l.amount(e.Betrag6).q(e.IBAN);
-                    return l.finish(blnError, strErrText);
-                });
+    return call(with_args("clsProtoEntry.CreateProtoErst(", ObjArg{"objErst"}, blnError, strErrText), [&](int& line) {
+        line = 1;
+        const Vorgang& v = e.Vorgang;
+        proto::Line l;
+        l.raw(mlGen::Decimal(e.ErstattungsId)).q(v.Versicherungsnummer).q(v.Aktenzeichen);
+        l.q(v.Familienname).q(v.Vorname).raw(v.Geburtsdatum).q(v.Arbeitgeber.Betriebsnummer);
+        l.q(e.Empfaenger.Betriebsnummer).raw(mlGen::Decimal(e.Erstattungsgrund));
+        l.raw(mlGen::Decimal(e.Leistungsart)).raw(e.ErstDatum).raw(e.ZeitraumBeginn).raw(e.ZeitraumEnde);
+        l.amount(e.Betrag1).amount(e.Betrag2).amount(e.Betrag3).amount(e.Betrag4).amount(e.Betrag5);
+        l.amount(e.Betrag6).q(e.IBAN);
+        return l.finish(blnError, strErrText);
+    });
 }
 
 std::string clsProtoEntry::CreateProtoZahl(const Zahl& z, bool blnError, std::string_view strErrText) const {

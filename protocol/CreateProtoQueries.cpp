@@ -1,13 +1,13 @@
 // Protocol lines of the master data, the insurance-number query and the two
 // accident-insurance procedures.
 #include "core/decimal.h"
+#include "core/int16.h"
 #include "protocol/clsProtoEntry.h"
 #include "protocol/proto_fields.h"
 #include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV.h"
 #include "queries/clsGenAbfrVers/AbfrVers.h"
 #include "queries/clsGenBetrieb/Betrieb.h"
 #include "queries/clsGenLohnnachweis/Lohnnachweis.h"
-#include "core/int16.h"
 
 namespace tamrel {
 
@@ -28,8 +28,7 @@ std::string clsProtoEntry::CreateProtoBetrieb(const Betrieb& b, bool blnError, s
 
 std::string clsProtoEntry::CreateProtoAbfrVers(const AbfrVers& a, bool blnError, std::string_view strErrText) const {
     return call(
-        with_args("clsProtoEntry.CreateProtoAbfrVers(", ObjArg{"objAbfrVers"}, blnError, strErrText),
-        [&](int& line) {
+        with_args("clsProtoEntry.CreateProtoAbfrVers(", ObjArg{"objAbfrVers"}, blnError, strErrText), [&](int& line) {
             line = 1;
             const Vorgang& v = a.Vorgang;
             const Arbeitgeber& ag = v.Arbeitgeber;

@@ -26,7 +26,8 @@ class clsProtoEntry : public Generator {
 public:
     explicit clsProtoEntry(Host host = default_host()) : Generator(std::move(host)) {}
 
-    std::string CreateProtoBeitr(const BeitrNachw& objBeitrNachw, bool blnError, std::string_view strErrText = {}) const;
+    std::string CreateProtoBeitr(const BeitrNachw& objBeitrNachw, bool blnError,
+                                 std::string_view strErrText = {}) const;
     std::string CreateProtoMeld(const Meldung& objMeldung, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoBeitrErh(const BeitrErh& objBeitrErh, bool blnError, std::string_view strErrText = {}) const;
     std::string CreateProtoErst(const Erst& objErst, bool blnError, std::string_view strErrText = {}) const;

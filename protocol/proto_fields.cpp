@@ -20,7 +20,6 @@ void append_field(std::string& out, std::string_view value, bool quoted, bool fi
     if (quoted) out += '"';
 }
 
-
 std::string_view ja_nein(std::int32_t v) { return v == 1 ? "J" : v == 2 ? "N" : ""; }
 
 }  // namespace
@@ -52,11 +51,26 @@ std::string CorrectErrText(std::string_view text) {
     return s;
 }
 
-Line& Line::first(std::string_view v) { append_field(out_, v, true, true, false); return *this; }
-Line& Line::q(std::string_view v) { append_field(out_, v, true, false, false); return *this; }
-Line& Line::raw(std::string_view v) { append_field(out_, v, false, false, false); return *this; }
-Line& Line::amount(std::string_view v) { append_field(out_, v, true, false, true); return *this; }
-Line& Line::jn(std::int32_t v) { append_field(out_, ja_nein(v), true, false, false); return *this; }
+Line& Line::first(std::string_view v) {
+    append_field(out_, v, true, true, false);
+    return *this;
+}
+Line& Line::q(std::string_view v) {
+    append_field(out_, v, true, false, false);
+    return *this;
+}
+Line& Line::raw(std::string_view v) {
+    append_field(out_, v, false, false, false);
+    return *this;
+}
+Line& Line::amount(std::string_view v) {
+    append_field(out_, v, true, false, true);
+    return *this;
+}
+Line& Line::jn(std::int32_t v) {
+    append_field(out_, ja_nein(v), true, false, false);
+    return *this;
+}
 
 std::string Line::finish(bool error, std::string_view errText) {
     append_field(out_, error ? "1" : "0", false, false, false);

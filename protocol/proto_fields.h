@@ -14,9 +14,9 @@ std::string CorrectErrText(std::string_view text);
 
 class Line {
 public:
-    Line& first(std::string_view v);  // quoted, no separator in front
-    Line& q(std::string_view v);      // quoted
-    Line& raw(std::string_view v);    // unquoted (dates, counts)
+    Line& first(std::string_view v);   // quoted, no separator in front
+    Line& q(std::string_view v);       // quoted
+    Line& raw(std::string_view v);     // unquoted (dates, counts)
     Line& amount(std::string_view v);  // quoted, amount-normalised
     Line& jn(std::int32_t v);
     Line& jn(bool v) { return q(v ? "J" : "N"); }

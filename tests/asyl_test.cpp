@@ -23,9 +23,9 @@ std::string nils(std::initializer_list<const char*> names) {
     return s;
 }
 
-const std::string kPersonNils = nils({"fmna", "vona", "vosa", "nazu", "titel", "plz", "ort", "str", "nr", "adrzu",
-                                      "tel", "email", "gbna", "gbvosa", "gbnazu", "gbdt", "ge", "gbot", "gbld",
-                                      "aktenzeichen", "kvnr", "vsnr", "sasc"});
+const std::string kPersonNils =
+    nils({"fmna", "vona",   "vosa",   "nazu", "titel", "plz",  "ort",  "str",          "nr",   "adrzu", "tel", "email",
+          "gbna", "gbvosa", "gbnazu", "gbdt", "ge",    "gbot", "gbld", "aktenzeichen", "kvnr", "vsnr",  "sasc"});
 
 TEST(Asyl, FramesCarryKotkvAndHandBackTheDate) {
     RecordingHost host;
@@ -45,12 +45,13 @@ TEST(Asyl, EmptyReportStillHasEveryBlock) {
     clsGenAsyl gen(host.host);
     Asyl a;
     DatensatzData dd{"", "", "V1", "", "", "", "bild.png"};
-    EXPECT_EQ(gen.GenData(a, dd, kDate),
-              "<daten><skek><vfmm>DS264</vfmm>" + nils({"bbnrab", "bbnrep"}) +
-                  "<vernr>01</vernr><ed>2024-03-01T10:11:12.000000</ed>" + nils({"bbnrvu", "ikko", "gd", "rg"}) +
-                  "<ds-id>V1        0000000000</ds-id></skek><bmgd>" + kPersonNils + "</bmgd>" +
-                  nils({"bang", "bzrm", "bbtr"}) + "<bapk>" + nils({"anr-ap", "name-ap", "tel-ap", "fax-ap", "email-ap"}) +
-                  "</bapk>" + nils({"bzgk", "bimg"}) + "</daten>");
+    EXPECT_EQ(gen.GenData(a, dd, kDate), "<daten><skek><vfmm>DS264</vfmm>" + nils({"bbnrab", "bbnrep"}) +
+                                             "<vernr>01</vernr><ed>2024-03-01T10:11:12.000000</ed>" +
+                                             nils({"bbnrvu", "ikko", "gd", "rg"}) +
+                                             "<ds-id>V1        0000000000</ds-id></skek><bmgd>" + kPersonNils +
+                                             "</bmgd>" + nils({"bang", "bzrm", "bbtr"}) + "<bapk>" +
+                                             nils({"anr-ap", "name-ap", "tel-ap", "fax-ap", "email-ap"}) + "</bapk>" +
+                                             nils({"bzgk", "bimg"}) + "</daten>");
 }
 
 TEST(Asyl, NilRulesOfTheOptionalBlocks) {

@@ -32,28 +32,36 @@ std::string gen_data(const std::string& object) {
 }
 
 TEST(BadInput, EachKindOfBadRequestGetsARequestErrorNamingIt) {
-    const std::string positions = R"({"class":"clsGenLohnnachweis","method":"GenData","args":{"objLohnnachweis":{"Position":[)" +
-                                  repeat("{},", 40000) + R"({}]},"udtDatensatzData":{}}})";
+    const std::string positions =
+        R"({"class":"clsGenLohnnachweis","method":"GenData","args":{"objLohnnachweis":{"Position":[)" +
+        repeat("{},", 40000) + R"({}]},"udtDatensatzData":{}}})";
     const struct {
         const char* kind;
         std::string line;
         std::string error;  // the whole text, or its start when it ends with "…"
     } cases[] = {
-        {"invalid JSON", R"({"class":)", "not valid JSON: [json.exception.parse_error.101] parse error at line 1, column 10…"},
+        {"invalid JSON", R"({"class":)",
+         "not valid JSON: [json.exception.parse_error.101] parse error at line 1, column 10…"},
         {"not an object", "[1]", "request: expected a JSON object"},
         {"wrong type", gen_data(R"({"Laufnummer":"7"})"), "args.objMeldung.Laufnummer: expected an integer"},
-        {"fraction for an integer", gen_data(R"({"Meldungsart":1.5})"), "args.objMeldung.Meldungsart: expected an integer"},
-        {"16-bit range", gen_data(R"({"UvErster":40000})"), "args.objMeldung.UvErster: integer out of the 16-bit range"},
-        {"32-bit range", gen_data(R"({"Laufnummer":-2147483649})"), "args.objMeldung.Laufnummer: integer out of the 32-bit range"},
+        {"fraction for an integer", gen_data(R"({"Meldungsart":1.5})"),
+         "args.objMeldung.Meldungsart: expected an integer"},
+        {"16-bit range", gen_data(R"({"UvErster":40000})"),
+         "args.objMeldung.UvErster: integer out of the 16-bit range"},
+        {"32-bit range", gen_data(R"({"Laufnummer":-2147483649})"),
+         "args.objMeldung.Laufnummer: integer out of the 32-bit range"},
         {"unknown property", gen_data(R"({"Vorgang":{"Gebursdatum":"19800101"}})"),
          "args.objMeldung.Vorgang.Gebursdatum: unknown property"},
         {"unknown parameter", R"({"class":"clsGenMeldung","method":"GenNCSZ","args":{"strCnt":"1"}})",
          "args.strCnt: unknown parameter"},
         {"invalid UTF-8", gen_data("{\"Meldegrund\":\"1\xFF\"}"),
-         "not valid JSON: [json.exception.parse_error.101] parse error at line 1, column 82: syntax error while parsing value - invalid string: ill-formed UTF-8 byte…"},
-        {"malformed date", R"({"class":"clsGenBetrieb","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strCount":"1","datDate":"2024-02-30"}})",
+         "not valid JSON: [json.exception.parse_error.101] parse error at line 1, column 82: syntax error while "
+         "parsing value - invalid string: ill-formed UTF-8 byte…"},
+        {"malformed date",
+         R"({"class":"clsGenBetrieb","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strCount":"1","datDate":"2024-02-30"}})",
          "args.datDate: expected \"YYYY-MM-DD\" or \"YYYY-MM-DDTHH:MM:SS\""},
-        {"deep nesting", "{\"id\":" + repeat("[", 100000) + repeat("]", 100000) + "}", "request: nested deeper than 32 levels"},
+        {"deep nesting", "{\"id\":" + repeat("[", 100000) + repeat("]", 100000) + "}",
+         "request: nested deeper than 32 levels"},
         {"too many items", positions, "args.objLohnnachweis.Position: more than 32767 items"},
         {"line of many megabytes", gen_data("{\"Meldegrund\":\"" + std::string(3 << 20, '1') + "\"}"),
          "request: line of 3145851 bytes or more, longer than the limit of 1048576 bytes"},
@@ -130,13 +138,17 @@ TEST(BadInput, EachKindOfBadReportLineFailsNamingTheReport) {
         std::string line;
         std::string failure;
     } cases[] = {
-        {"invalid JSON", R"({"Meldegrund":)", "report 2 (line 3): not valid JSON: The JSON document has an improper structure: missing or superfluous commas, braces, missing keys, etc."},
+        {"invalid JSON", R"({"Meldegrund":)",
+         "report 2 (line 3): not valid JSON: The JSON document has an improper structure: missing or superfluous "
+         "commas, braces, missing keys, etc."},
         {"wrong type", R"({"Meldegrund":62})", "report 2 (line 3): args.objMeldung.Meldegrund: expected a string"},
         {"unknown property", R"({"Meldgrund":"62"})", "report 2 (line 3): args.objMeldung.Meldgrund: unknown property"},
-        {"out-of-range integer", R"({"KsLetzter":32768})", "report 2 (line 3): args.objMeldung.KsLetzter: integer out of the 16-bit range"},
+        {"out-of-range integer", R"({"KsLetzter":32768})",
+         "report 2 (line 3): args.objMeldung.KsLetzter: integer out of the 16-bit range"},
         {"too many entries", R"({"KsZeileA":[)" + repeat("\"A\",", 40000) + R"("A"]})",
          "report 2 (line 3): args.objMeldung.KsZeileA: more than 32767 entries"},
-        {"invalid UTF-8", "{\"Meldegrund\":\"6\xC3\"}", "report 2 (line 3): not valid JSON: The input is not valid UTF-8"},
+        {"invalid UTF-8", "{\"Meldegrund\":\"6\xC3\"}",
+         "report 2 (line 3): not valid JSON: The input is not valid UTF-8"},
         {"deep nesting", "{\"Vorgang\":" + repeat("[", 5000) + repeat("]", 5000) + "}",
          "report 2 (line 3): not valid JSON: The JSON document was too deep (too many nested objects and arrays)"},
         {"not in the encoding", R"({"Meldegrund":"62","Meldungsart":1,"Vorgang":{"Aktenzeichen":"Жук"}})",
@@ -188,14 +200,16 @@ TEST(BadInput, EachKindOfBadJobValueIsAFaultOfTheJob) {
     } cases[] = {
         {"now", "2024-13-45T99:00:00", "job: now: expected \"YYYY-MM-DDTHH:MM:SS\""},
         {"datDate", 20240301, "job: datDate: expected a date text"},
-        {"enmVerfahren", "vmEilig", "job: enmVerfahren: expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\""},
+        {"enmVerfahren", "vmEilig",
+         "job: enmVerfahren: expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\""},
         {"udtDSKOData", json{{"strName", "x"}}, "job: udtDSKOData.strName: unknown property"},
         {"udtDatensatzData", json::array(), "job: udtDatensatzData: expected an object"},
         {"strFirma", 7, "job: strFirma: expected a string"},
         {"tests", json{{"NameTest", "x"}}, "job: tests.NameTest: expected a list of texts"},
     };
     for (const auto& c : cases) {
-        json j = json::parse(R"({"class":"clsGenMeldung","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","reports":[]})");
+        json j = json::parse(
+            R"({"class":"clsGenMeldung","strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","reports":[]})");
         j[c.key] = c.value;
         try {
             cli::parse_job(j, "job", ".");

@@ -43,8 +43,7 @@ TEST(BeitrNachw, RecordOfEachKind) {
     const std::string z = amount("");
     const Case cases[] = {
         {0, "BW02BWNAC", "", "K", amount("750"), z, ""},
-        {1, "BW02BWNAC", "", "K", z, amount("2300"),
-         z + z + z + z + amount("750") + z + amount("2300") + z},
+        {1, "BW02BWNAC", "", "K", z, amount("2300"), z + z + z + z + amount("750") + z + amount("2300") + z},
         {4, "BW03BWBNV", "10700000", " ", amount("750"), z, ""},
     };
     for (const auto& c : cases) {
@@ -82,8 +81,10 @@ TEST(BeitrNachw, DmIsRejectedAfterPosition645) {
     EXPECT_EQ(e.number(), -2147213200);
     EXPECT_EQ(e.source(), "clsGenBeitrNachw.GenData");
     EXPECT_EQ(e.description(), "Die Angabe von DM ist nicht mehr zul\xC3\xA4ssig.");
-    EXPECT_EQ(host.lines, std::vector<std::string>{
-                              "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 60): clsGenBeitrNachw.GenData(<objBeitrNachw>, 1, , , , 2024-03-01 10:11:12) -> Die Angabe von DM ist nicht mehr zul\xC3\xA4ssig."});
+    EXPECT_EQ(host.lines,
+              std::vector<std::string>{
+                  "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 60): clsGenBeitrNachw.GenData(<objBeitrNachw>, 1, , "
+                  ", , 2024-03-01 10:11:12) -> Die Angabe von DM ist nicht mehr zul\xC3\xA4ssig."});
 }
 
 BeitrErh collection() {
@@ -114,12 +115,19 @@ TEST(BeitrErh, RecordWithDbmiAndOptionalDbhb) {
     clsGenBeitrErh gen(host.host);
     DatensatzData dd{"33333333", "44444444", "V", "7", "P", "M", ""};
     BeitrErh b = collection();
-    std::string dsbe = "DSBE" "02" "01" "00" "BVBEI" + an("33333333", 15) + an("22222222", 15) + "20240301101112" +
-                       "000007" + "00" "N" + an("P", 7) + an("M", 8) + an("V", 10) + n("9", 10) + blanks(12) +
-                       n("", 20) + an("Firma", 30) + blanks(60) + blanks(33 + 9) + "34567" + blanks(34) + an("V", 10) +
-                       n("9", 10) + an("11111111", 15) + an("44444444", 15) + an("22222222", 15) + an("ERSATZ", 17) +
-                       "202312" + "202401" + "K" + "+12" + "-00000350" + "1" + "+000000000" + "+00000000" + "2" +
-                       "+00000000";
+    std::string dsbe =
+        "DSBE"
+        "02"
+        "01"
+        "00"
+        "BVBEI" +
+        an("33333333", 15) + an("22222222", 15) + "20240301101112" + "000007" +
+        "00"
+        "N" +
+        an("P", 7) + an("M", 8) + an("V", 10) + n("9", 10) + blanks(12) + n("", 20) + an("Firma", 30) + blanks(60) +
+        blanks(33 + 9) + "34567" + blanks(34) + an("V", 10) + n("9", 10) + an("11111111", 15) + an("44444444", 15) +
+        an("22222222", 15) + an("ERSATZ", 17) + "202312" + "202401" + "K" + "+12" + "-00000350" + "1" + "+000000000" +
+        "+00000000" + "2" + "+00000000";
     std::string dbmi = "DBMI" + an("AZ", 20) + an("Meier", 30) + an("Eva", 30) + blanks(60) + "W" + "19900101";
     EXPECT_EQ(gen.GenData(b, dd, kDate), dsbe + "JN  " + dbmi);
 
@@ -131,7 +139,9 @@ TEST(BeitrErh, RecordWithDbmiAndOptionalDbhb) {
     EXPECT_EQ(out.substr(371, 17), an("BZK", 17));
     EXPECT_EQ(out.substr(433, 1), "0");
     EXPECT_EQ(out.substr(443, 2), "JJ");
-    EXPECT_EQ(out.substr(600), "DBHB" "+00123450");
+    EXPECT_EQ(out.substr(600),
+              "DBHB"
+              "+00123450");
 }
 
 }  // namespace

@@ -41,7 +41,8 @@ TEST(CallProtocol, RequestErrorsNameWhatIsWrong) {
 // Nothing a request says may be dropped silently: a key given twice, an index
 // spelt otherwise than in canonical decimal, null for a String.
 TEST(CallProtocol, NoValueIsEverDropped) {
-    const std::string meldung = R"({"class":"clsGenMeldung","method":"GenData","args":{"udtDatensatzData":{},"enmVerfahren":0,"objMeldung":)";
+    const std::string meldung =
+        R"({"class":"clsGenMeldung","method":"GenData","args":{"udtDatensatzData":{},"enmVerfahren":0,"objMeldung":)";
     const std::pair<std::string, const char*> cases[] = {
         {meldung + R"({"KsZeileA":{"1":"AB","01":"XY"}}}})",
          "args.objMeldung.KsZeileA.01: expected an index from 0 to 32767 in decimal, without sign or leading zeros"},
@@ -69,26 +70,32 @@ TEST(CallProtocol, NoValueIsEverDropped) {
 }
 
 TEST(CallProtocol, InOutDateIndexedListsAndTests) {
-    json r = call(R"({"id":"a","class":"clsGenBetrieb","method":"GenVOSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","enmVerfahren":0},"now":"2024-03-05T08:00:00"})");
+    json r = call(
+        R"({"id":"a","class":"clsGenBetrieb","method":"GenVOSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strFirma":"F","enmVerfahren":0},"now":"2024-03-05T08:00:00"})");
     EXPECT_EQ(r["id"], "a");
     EXPECT_EQ(r["out"]["strDatum"], "20240305");
     EXPECT_EQ(r["result"].get<std::string>().substr(39, 8), "20240305");
     EXPECT_EQ(r["log"], json::array());
 
     // Indexed lists as object or array; bounds follow the indices given.
-    const char* ks_object = R"({"1":"AB","2":"CD","3":"","4":"","5":"","6":"","7":"","8":"","9":"","10":"","11":"","12":"EF"})";
-    std::string request = std::string(R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"Meldegrund":"30","Meldungsart":1,"KsZeileA":)") +
-                          ks_object + R"(},"udtDatensatzData":{},"enmVerfahren":0,"datDate":"2024-03-01"}})";
+    const char* ks_object =
+        R"({"1":"AB","2":"CD","3":"","4":"","5":"","6":"","7":"","8":"","9":"","10":"","11":"","12":"EF"})";
+    std::string request =
+        std::string(
+            R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"Meldegrund":"30","Meldungsart":1,"KsZeileA":)") +
+        ks_object + R"(},"udtDatensatzData":{},"enmVerfahren":0,"datDate":"2024-03-01"}})";
     std::string dbks = call(request)["result"].get<std::string>().substr(559 + 147);
     EXPECT_EQ(dbks.substr(0, 30), "DBKSK AB          CD          ");
     EXPECT_EQ(dbks.size(), 220u);
 
-    json named = call(R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"Meldegrund":"62","Meldungsart":8,"Vorgang":{"Bezugskennung":"K1"}},"udtDatensatzData":{},"enmVerfahren":0,"datDate":"2024-03-01"},"tests":{"NameTest":["K1"]}})");
+    json named = call(
+        R"({"class":"clsGenMeldung","method":"GenData","args":{"objMeldung":{"Meldegrund":"62","Meldungsart":8,"Vorgang":{"Bezugskennung":"K1"}},"udtDatensatzData":{},"enmVerfahren":0,"datDate":"2024-03-01"},"tests":{"NameTest":["K1"]}})");
     EXPECT_EQ(named["result"].get<std::string>().substr(171, 1), "J");
 }
 
 TEST(CallProtocol, CInterfaceRoundTrip) {
-    char* response = tamrel_call(R"({"class":"clsGenZahl","method":"GenDSKO","args":{"udtDSKOData":{}},"now":"2024-03-05T08:00:00"})");
+    char* response = tamrel_call(
+        R"({"class":"clsGenZahl","method":"GenDSKO","args":{"udtDSKOData":{}},"now":"2024-03-05T08:00:00"})");
     ASSERT_NE(response, nullptr);
     json r = json::parse(response);
     tamrel_free(response);

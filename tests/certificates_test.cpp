@@ -30,8 +30,8 @@ ArbeitsBesch certificate(std::int16_t verfahren) {
 
 std::string head(const char* name, char dbab) {
     return std::string(name) + "03" + "ALG  " + an("33333333", 15) + "20240301101112" + "000007" + "00" +
-           an("12010180M123", 12) + an("11111111", 15) + an("AZ", 20) + an("44444444", 15) + an("V", 10) +
-           n("12", 10) + blanks(20) + "20200101" + "JJJ" + dbab;
+           an("12010180M123", 12) + an("11111111", 15) + an("AZ", 20) + an("44444444", 15) + an("V", 10) + n("12", 10) +
+           blanks(20) + "20200101" + "JJJ" + dbab;
 }
 
 // The block identifiers after the record, in order.
@@ -55,10 +55,34 @@ TEST(ArbeitsBesch, RecordsAndBlockSequenceOfEachProcedure) {
         std::vector<std::string> blocks;
     };
     const Case cases[] = {
-        {15, head("DSAB", 'N') + "00" "00" "J" "00" "00" "00" "00" "N" "J",
+        {15,
+         head("DSAB", 'N') + "00"
+                             "00"
+                             "J"
+                             "00"
+                             "00"
+                             "00"
+                             "00"
+                             "N"
+                             "J",
          {"DBNA", "DBAN", "DBAG", "DBSA", "DBKE"}},
-        {16, head("DSEU", 'N') + "00" "00" "J" "00" "00" "00" "00" "J", {"DBNA", "DBAN", "DBAG", "DBSA", "DBKU"}},
-        {17, head("DSNE", 'N') + "J" "00" "J" "J" "N", {"DBNA", "DBAN", "DBAG", "DBNE", "DBSA", "DBNB"}},
+        {16,
+         head("DSEU", 'N') + "00"
+                             "00"
+                             "J"
+                             "00"
+                             "00"
+                             "00"
+                             "00"
+                             "J",
+         {"DBNA", "DBAN", "DBAG", "DBSA", "DBKU"}},
+        {17,
+         head("DSNE", 'N') + "J"
+                             "00"
+                             "J"
+                             "J"
+                             "N",
+         {"DBNA", "DBAN", "DBAG", "DBNE", "DBSA", "DBNB"}},
     };
     for (const auto& c : cases) {
         RecordingHost host;
@@ -88,14 +112,36 @@ TEST(ArbeitsBesch, GroupsAndOptionalBlocks) {
     a.DBSB = {{"20240101", "1111", "101"}};
     a.AnzahlDBSB = 1;
     std::string out = gen.GenData(a, dd, kDate);
-    EXPECT_EQ(out.substr(161, 16), "J" "01" "00" "J" "01" "02" "00" "01" "J" "J");
+    EXPECT_EQ(out.substr(161, 16),
+              "J"
+              "01"
+              "00"
+              "J"
+              "01"
+              "02"
+              "00"
+              "01"
+              "J"
+              "J");
     EXPECT_EQ(block_ids(out, 177), (std::vector<std::string>{"DBNA", "DBAN", "DBAG", "DBAB", "DBSE", "DBSA", "DBSB",
                                                              "DBAZ", "DBAZ", "DBFZ", "DBHA", "DBKE"}));
     const std::size_t dbab = 177 + 125 + 133 + 533;
     EXPECT_EQ(out.substr(dbab, 51), "DBAB" + blanks(13) + an("Hamburg", 34));
-    EXPECT_EQ(out.substr(dbab + 51, 20), "DBSE" "1" "0500" "015" "20240101");
-    EXPECT_EQ(out.substr(dbab + 51 + 20 + 29 + 19, 22), "DBAZ" "4000" "0000" "00" "00000000");
-    EXPECT_EQ(out.substr(out.size() - 175 - 7, 7), "DBHA" "012");
+    EXPECT_EQ(out.substr(dbab + 51, 20),
+              "DBSE"
+              "1"
+              "0500"
+              "015"
+              "20240101");
+    EXPECT_EQ(out.substr(dbab + 51 + 20 + 29 + 19, 22),
+              "DBAZ"
+              "4000"
+              "0000"
+              "00"
+              "00000000");
+    EXPECT_EQ(out.substr(out.size() - 175 - 7, 7),
+              "DBHA"
+              "012");
 
     ArbeitsBesch ne = certificate(17);
     ne.AnzahlDBSE = 3;  // DSNE writes no DBSE or DBSB, whatever the counts
@@ -103,7 +149,10 @@ TEST(ArbeitsBesch, GroupsAndOptionalBlocks) {
     ne.DBHN.HEIMARBABL = "20240220";
     out = gen.GenData(ne, dd, kDate);
     EXPECT_EQ(block_ids(out, 168), (std::vector<std::string>{"DBNA", "DBAN", "DBAG", "DBNE", "DBSA", "DBNB", "DBHN"}));
-    EXPECT_EQ(out.substr(out.size() - 20), "DBHN" "00000000" "20240220");
+    EXPECT_EQ(out.substr(out.size() - 20),
+              "DBHN"
+              "00000000"
+              "20240220");
 }
 
 TEST(ArbeitsBesch, UnknownProcedureAndCounterOverflow) {
@@ -124,7 +173,9 @@ TEST(ArbeitsBesch, UnknownProcedureAndCounterOverflow) {
     a.AnzahlDBFZ = 32767;
     Error e = expect_error([&] { gen.GenData(a, dd, kDate); });
     EXPECT_EQ(e.number(), 6);
-    EXPECT_EQ(e.description(), "\xC3\x9C" "berlauf");
+    EXPECT_EQ(e.description(),
+              "\xC3\x9C"
+              "berlauf");
 }
 
 TEST(Entgelt, DslwWithAndWithoutOptionalBlocks) {
@@ -140,10 +191,15 @@ TEST(Entgelt, DslwWithAndWithoutOptionalBlocks) {
     e.Vorgang.Geburtsdatum = "19800101";
     e.Vorgang.Arbeitgeber.Betriebsnummer = "11111111";
     e.Empfaenger.Betriebsnummer = "22222222";
-    const std::string head = "DSLW" "LEIST" + an("33333333", 15) + an("22222222", 15) + "10" + "20240301101112" +
-                             "000007" + "00" + an("12010180M123", 12) + "19800101" + an("11111111", 15) +
-                             an("V         0000000003", 32) + an("P", 7) + an("M", 8) + n("", 20) + blanks(2) +
-                             an("22222222", 15) + an("44444444", 15) + "N" "01" "N";
+    const std::string head =
+        "DSLW"
+        "LEIST" +
+        an("33333333", 15) + an("22222222", 15) + "10" + "20240301101112" + "000007" + "00" + an("12010180M123", 12) +
+        "19800101" + an("11111111", 15) + an("V         0000000003", 32) + an("P", 7) + an("M", 8) + n("", 20) +
+        blanks(2) + an("22222222", 15) + an("44444444", 15) +
+        "N"
+        "01"
+        "N";
     std::string out = gen.GenData(e, dd, kDate);
     EXPECT_EQ(out, head + "JNNNNNNNNNNNNNNNNN" + "DBNA" + blanks(121));
 
@@ -156,8 +212,14 @@ TEST(Entgelt, DslwWithAndWithoutOptionalBlocks) {
     EXPECT_EQ(out.substr(167, 15), an("55555555", 15));
     EXPECT_EQ(out.substr(201, 18), "JNNJNNNNNNJNNNNNNJ");
     EXPECT_EQ(out.size(), 219u + 125u + 165u + 74u + 44u);
-    EXPECT_EQ(out.substr(219 + 125 + 165, 74), "DBVO" "1" + n("", 17) + "01" + "20240101" "20240105" "1" + n("", 16) +
-                                                    "1" + n("", 16));
+    EXPECT_EQ(out.substr(219 + 125 + 165, 74),
+              "DBVO"
+              "1" +
+                  n("", 17) + "01" +
+                  "20240101"
+                  "20240105"
+                  "1" +
+                  n("", 16) + "1" + n("", 16));
     EXPECT_EQ(out.substr(out.size() - 44), "DBID" + an("SV-1", 20) + blanks(20));
 }
 

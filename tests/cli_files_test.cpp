@@ -1,12 +1,12 @@
 // tamrel generate never leaves a partial transfer file: not when the disk
 // fills (here: a file-size limit), not when the run is interrupted, not when
 // the job is too large; an existing file is replaced only by a complete one.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -28,8 +28,13 @@ class GenerateFiles : public ::testing::Test {
 protected:
     void SetUp() override {
         dir_ = tamrel::testing::fresh_folder("files");
-        json job = {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"}, {"strFileNr", "1"},
-                    {"strFirma", "F"},          {"datDate", "2024-03-01T10:11:12"}, {"reports_file", "reports.ndjson"}};
+        json job = {{"class", "clsGenMeldung"},
+                    {"strBNRAb", "1"},
+                    {"strBNREm", "2"},
+                    {"strFileNr", "1"},
+                    {"strFirma", "F"},
+                    {"datDate", "2024-03-01T10:11:12"},
+                    {"reports_file", "reports.ndjson"}};
         std::ofstream(dir_ / "job.json") << job.dump();
         std::ofstream(dir_ / "out.txt") << "previous content";
     }
@@ -107,8 +112,8 @@ TEST_F(GenerateFiles, AnInterruptedRunLeavesTheOldFileAndNoPartialOne) {
 }
 
 TEST_F(GenerateFiles, AJobTooLargeIsRefusedBeforeAnythingIsWritten) {
-    json job = {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"}, {"strFileNr", "1"},
-                {"strFirma", "F"},          {"reports", json::array()}};
+    json job = {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"},
+                {"strFileNr", "1"},         {"strFirma", "F"}, {"reports", json::array()}};
     json report = json::parse(kReport);
     report["Vorgang"]["Aktenzeichen"] = std::string(1 << 20, 'M');
     for (int i = 0; i < 17; ++i) job["reports"].push_back(report);

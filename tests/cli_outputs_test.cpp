@@ -45,7 +45,8 @@ protected:
 
     static json report(const std::string& name) {
         // The file reference is written in the record, the family name in the protocol line.
-        return {{"Meldegrund", "62"}, {"Meldungsart", 1}, {"Vorgang", {{"Aktenzeichen", name}, {"Familienname", name}}}};
+        return {
+            {"Meldegrund", "62"}, {"Meldungsart", 1}, {"Vorgang", {{"Aktenzeichen", name}, {"Familienname", name}}}};
     }
     void write_job(const json& reports) const {
         const json job = {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"},
@@ -56,8 +57,8 @@ protected:
     // Runs tamrel in the test's folder with `args`, under `umask`.
     Outcome run(const std::string& args, const char* umask = "022") const {
         const std::string err = (dir_ / "stderr").string();
-        const std::string cmd = "cd " + dir_.string() + " && umask " + umask + " && " + TAMREL_EXE + " " + args +
-                                " 2>" + err;
+        const std::string cmd =
+            "cd " + dir_.string() + " && umask " + umask + " && " + TAMREL_EXE + " " + args + " 2>" + err;
         FILE* p = popen(cmd.c_str(), "r");
         std::string out;
         char buf[4096];
@@ -97,8 +98,8 @@ TEST_F(Outputs, TwoOutputsThatAreOneFileAreRefusedBeforeAnythingIsWritten) {
 TEST_F(Outputs, AnOutputThatCannotBeWrittenIsRefusedBeforeAnythingIsWritten) {
     put("out.txt", "previous");
     fs::create_directories(dir_ / "folder");
-    for (const char* args : {"-o out.txt --protocol folder", "-o folder", "-o missing/out.txt",
-                             "-o out.txt --protocol missing/p.txt"}) {
+    for (const char* args :
+         {"-o out.txt --protocol folder", "-o folder", "-o missing/out.txt", "-o out.txt --protocol missing/p.txt"}) {
         const Outcome r = run(std::string("generate job.json ") + args);
         EXPECT_EQ(r.status, 2) << args << ": " << r.err;
     }
@@ -170,9 +171,10 @@ TEST_F(Outputs, TransliterationWritesTheUsualSubstitutesAndSaysSo) {
     const Outcome r = run("generate job.json -o out.txt --transliterate --encoding latin1");
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_NE(file("out.txt").find("Lukasz G\xFCgel oe "), std::string::npos);
-    EXPECT_NE(r.err.find("report 1: Vorgang.Aktenzeichen \"\xC5\x81ukasz G\xC3\xBC\xC4\x9F\x65l \xC5\x93\": \"\xC5\x81\" "
-                         "(U+0141) written as \"L\""),
-              std::string::npos)
+    EXPECT_NE(
+        r.err.find("report 1: Vorgang.Aktenzeichen \"\xC5\x81ukasz G\xC3\xBC\xC4\x9F\x65l \xC5\x93\": \"\xC5\x81\" "
+                   "(U+0141) written as \"L\""),
+        std::string::npos)
         << r.err;
     // The protocol line records them as its text, in its own encoding.
     ASSERT_EQ(run("generate job.json -o out.txt --protocol p.txt --transliterate").status, 0);

@@ -40,9 +40,7 @@ std::string slurp(const fs::path& p) {
 
 class Cli : public ::testing::Test {
 protected:
-    void SetUp() override {
-        dir_ = tamrel::testing::fresh_folder("cli");
-    }
+    void SetUp() override { dir_ = tamrel::testing::fresh_folder("cli"); }
     void TearDown() override { fs::remove_all(dir_); }
 
     // A report whose file reference carries `name`; reason "99" fails.
@@ -53,8 +51,13 @@ protected:
                 {"Vorgang", {{"Aktenzeichen", name}, {"Versicherungsnummer", "X"}}}};
     }
     json job(json reports) const {
-        return {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"}, {"strFileNr", "1"},
-                {"strFirma", "F"},          {"datDate", "2024-03-01T10:11:12"},    {"reports", std::move(reports)}};
+        return {{"class", "clsGenMeldung"},
+                {"strBNRAb", "1"},
+                {"strBNREm", "2"},
+                {"strFileNr", "1"},
+                {"strFirma", "F"},
+                {"datDate", "2024-03-01T10:11:12"},
+                {"reports", std::move(reports)}};
     }
     fs::path write(const std::string& name, const std::string& text) const {
         std::ofstream(dir_ / name, std::ios::binary) << text;
@@ -98,7 +101,9 @@ TEST_F(Cli, EncodingsAndLineEndings) {
     EXPECT_EQ(latin1.status, 1);
     EXPECT_FALSE(fs::exists(dir_ / "a.txt"));
 
-    ASSERT_EQ(run("generate " + jobFile.string() + " --encoding ISO-8859-15 --crlf -o " + (dir_ / "b.txt").string()).status, 0);
+    ASSERT_EQ(
+        run("generate " + jobFile.string() + " --encoding ISO-8859-15 --crlf -o " + (dir_ / "b.txt").string()).status,
+        0);
     std::string expected = expected_utf8({"\xE2\x82\xAC uro"}, 2, "\r\n");
     expected.replace(expected.find("\xE2\x82\xAC"), 3, "\xA4");
     EXPECT_EQ(slurp(dir_ / "b.txt"), expected);
@@ -114,8 +119,8 @@ TEST_F(Cli, FailureLeavesNothingAndKeepGoingLeavesTheReportOut) {
     EXPECT_EQ(stop.status, 1);
     EXPECT_EQ(slurp(dir_ / "out.txt"), "previous content");
 
-    Result keep = run("generate " + jobFile.string() + " --keep-going --protocol " + (dir_ / "p.txt").string() + " -o " +
-                   (dir_ / "out.txt").string());
+    Result keep = run("generate " + jobFile.string() + " --keep-going --protocol " + (dir_ / "p.txt").string() +
+                      " -o " + (dir_ / "out.txt").string());
     EXPECT_EQ(keep.status, 3);
     std::string written = slurp(dir_ / "out.txt");
     std::string expected = expected_utf8({"A", "C"}, 3, "\n");
@@ -123,9 +128,11 @@ TEST_F(Cli, FailureLeavesNothingAndKeepGoingLeavesTheReportOut) {
     EXPECT_EQ(written, expected);
     std::string protocol = slurp(dir_ / "p.txt");
     EXPECT_EQ(std::count(protocol.begin(), protocol.end(), '\n'), 3);
-    EXPECT_NE(protocol.find(";1;\"report 2: error -2147213202, clsGenMeldung.GenDSME: Datenbausteine konnten zum Meldegrund 99 nicht ermittelt werden\""),
+    EXPECT_NE(protocol.find(";1;\"report 2: error -2147213202, clsGenMeldung.GenDSME: Datenbausteine konnten zum "
+                            "Meldegrund 99 nicht ermittelt werden\""),
               std::string::npos);
-    for (const auto& e : fs::directory_iterator(dir_)) EXPECT_EQ(e.path().filename().string().find(".tmp-"), std::string::npos);
+    for (const auto& e : fs::directory_iterator(dir_))
+        EXPECT_EQ(e.path().filename().string().find(".tmp-"), std::string::npos);
 
     // A report that cannot be read at all is left out as well.
     json unreadable = report("X");
@@ -141,7 +148,9 @@ TEST_F(Cli, ReportsFromNdjson) {
     auto jobFile = write("job.json", job(json::array()).dump());
     write("reports.ndjson", report("A").dump() + "\n\n" + report("B").dump() + "\n");
     ASSERT_EQ(run("generate " + jobFile.string() + " --reports " + (dir_ / "reports.ndjson").string() + " -o " +
-                  (dir_ / "out.txt").string()).status, 0);
+                  (dir_ / "out.txt").string())
+                  .status,
+              0);
     EXPECT_EQ(slurp(dir_ / "out.txt"), expected_utf8({"A", "B"}, 3, "\n"));
 }
 
@@ -163,10 +172,13 @@ TEST_F(Cli, BadJobsAreRefused) {
 }
 
 TEST_F(Cli, CallAnswersEveryLineInOrder) {
-    auto f = write("req.ndjson",
-                   R"({"id":1,"class":"clsGenMeldung","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strCount":"3","enmVerfahren":"vmBV","datDate":"2024-03-01"}})"
-                   "\n\n{broken\n" + std::string(3 << 20, ' ') + "\n" +
-                   R"({"id":3,"class":"clsGenAsyl","method":"GenDSKO","args":{}})" "\n");
+    auto f = write(
+        "req.ndjson",
+        R"({"id":1,"class":"clsGenMeldung","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"1","strCount":"3","enmVerfahren":"vmBV","datDate":"2024-03-01"}})"
+        "\n\n{broken\n" +
+            std::string(3 << 20, ' ') + "\n" +
+            R"({"id":3,"class":"clsGenAsyl","method":"GenDSKO","args":{}})"
+            "\n");
     Result r = run("call " + f.string());
     EXPECT_EQ(r.status, 2);
     std::istringstream lines(r.out);
@@ -192,8 +204,9 @@ namespace {
 TEST_F(Cli, EveryExampleJobGenerates) {
     for (const auto& e : fs::directory_iterator(fs::path(TAMREL_SOURCE_DIR) / "examples")) {
         if (e.path().extension() != ".json") continue;
-        std::string proto = std::string(e.path().filename().string()).starts_with("xml-") ? "" :
-                            " --protocol " + (dir_ / "p.txt").string();
+        std::string proto = std::string(e.path().filename().string()).starts_with("xml-")
+                                ? ""
+                                : " --protocol " + (dir_ / "p.txt").string();
         Result r = run("generate " + e.path().string() + proto + " -o " + (dir_ / "o.txt").string());
         EXPECT_EQ(r.status, 0) << e.path();
         std::string file = slurp(dir_ / "o.txt");

@@ -98,7 +98,8 @@ TEST(ContextTexts, EveryPublicMethodNamesItsArguments) {
              clsGenBeitrNachw(h).GenData(b, "12345678", "87654321", "V1", "000001", kMidnight);
          },
          "clsGenBeitrNachw.GenData(<objBeitrNachw>, 12345678, 87654321, V1, 000001, 2024-03-01)"},
-        {data<clsGenEntgelt, Entgelt>(), "clsGenEntgelt.GenData(<objEntgelt>, <udtDatensatzData>, 2024-03-01 10:11:12)"},
+        {data<clsGenEntgelt, Entgelt>(),
+         "clsGenEntgelt.GenData(<objEntgelt>, <udtDatensatzData>, 2024-03-01 10:11:12)"},
         {data<clsGenAbfrVers, AbfrVers>(),
          "clsGenAbfrVers.GenData(<objAbfrVers>, <udtDatensatzData>, 2024-03-01 10:11:12)"},
         {data<clsGenAbfrStammdatenUV, AbfrStammdatenUV>(),
@@ -170,11 +171,16 @@ TEST(StatementNumbers, ListLoopsDoNotCountTheirPasses) {
         int line;
     };
     const Case cases[] = {
-        {positions(548), "clsGenLohnnachweis.GenDSLN", 42},  {positions(600), "clsGenLohnnachweis.GenDSLN", 42},
-        {positions(1000), "clsGenLohnnachweis.GenDSLN", 42}, {positions(32767), "clsGenLohnnachweis.GenDSLN", 41},
-        {positions(-1), "mlGen.CheckLength", 1},             {positions(-1), "clsGenLohnnachweis.GenDSLN", 42},
-        {illnesses(656), "clsGenEntgelt.GenDBVO", 15},       {illnesses(1000), "clsGenEntgelt.GenDBVO", 15},
-        {uv_entries(462), "clsGenMeldung.GenDBUV", 10},      {uv_entries(32767), "clsGenMeldung.GenDBUV", 10},
+        {positions(548), "clsGenLohnnachweis.GenDSLN", 42},
+        {positions(600), "clsGenLohnnachweis.GenDSLN", 42},
+        {positions(1000), "clsGenLohnnachweis.GenDSLN", 42},
+        {positions(32767), "clsGenLohnnachweis.GenDSLN", 41},
+        {positions(-1), "mlGen.CheckLength", 1},
+        {positions(-1), "clsGenLohnnachweis.GenDSLN", 42},
+        {illnesses(656), "clsGenEntgelt.GenDBVO", 15},
+        {illnesses(1000), "clsGenEntgelt.GenDBVO", 15},
+        {uv_entries(462), "clsGenMeldung.GenDBUV", 10},
+        {uv_entries(32767), "clsGenMeldung.GenDBUV", 10},
     };
     for (const Case& c : cases) {
         RecordingHost host;

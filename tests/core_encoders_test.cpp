@@ -3,15 +3,15 @@
 #include <string>
 #include <string_view>
 
-#include "core/text_fields.h"
 #include "core/amounts.h"
 #include "core/check_length.h"
-#include "core/establishment_number.h"
 #include "core/date_fields.h"
-#include "core/xml_encoders.h"
-#include "tests/encoder_forms.h"
+#include "core/establishment_number.h"
+#include "core/text_fields.h"
 #include "core/writer.h"
+#include "core/xml_encoders.h"
 #include "test_support.h"
+#include "tests/encoder_forms.h"
 
 using namespace tamrel;
 using tamrel::testing::expect_error;
@@ -44,8 +44,16 @@ TEST(TextEncoders, StrToAnCutsPadsAndDropsControlCharacters) {
 
 TEST(TextEncoders, StrToNCutsOnTheLeftWithoutCheckingDigits) {
     const TextCase cases[] = {
-        {"1234567", 5, "34567", true}, {"", 3, "000", false},     {"ab", 4, "00ab", true},
-        {"000", 3, "000", false},      {"\xC3\xA4" "1", 3, "0\xC3\xA4" "1", true},
+        {"1234567", 5, "34567", true},
+        {"", 3, "000", false},
+        {"ab", 4, "00ab", true},
+        {"000", 3, "000", false},
+        {"\xC3\xA4"
+         "1",
+         3,
+         "0\xC3\xA4"
+         "1",
+         true},
         {"12\r", 3, "12\r", true},
     };
     for (const auto& c : cases) {
@@ -77,21 +85,56 @@ TEST(TextEncoders, InvalidUtf8IsRefused) {
 // every kind of value that has to leave it.
 TEST(TextEncoders, FastPathAgreesWithTheGeneralWalk) {
     const std::string values[] = {
-        "", " ", "  ", "A", "AB", "ABC", "ABCD", "ABCDEFG", "ABCDEFGH", "ABCDEFGHI", "0", "000", "00000000",
-        "0000000000000000", "0000000000000001", std::string(16, 'x'), std::string(17, 'y'), std::string(33, 'z'),
-        "  A ", "M\xC3\xBCller", "\xC3\xBC", "Stra\xC3\x9F" "e 12345678", "a\tb", "a\r\nb", "\x01\x02", "12\x0D",
-        "\x0E\x1F~", "abcdefgh\n", std::string(40, ' '),
+        "",
+        " ",
+        "  ",
+        "A",
+        "AB",
+        "ABC",
+        "ABCD",
+        "ABCDEFG",
+        "ABCDEFGH",
+        "ABCDEFGHI",
+        "0",
+        "000",
+        "00000000",
+        "0000000000000000",
+        "0000000000000001",
+        std::string(16, 'x'),
+        std::string(17, 'y'),
+        std::string(33, 'z'),
+        "  A ",
+        "M\xC3\xBCller",
+        "\xC3\xBC",
+        "Stra\xC3\x9F"
+        "e 12345678",
+        "a\tb",
+        "a\r\nb",
+        "\x01\x02",
+        "12\x0D",
+        "\x0E\x1F~",
+        "abcdefgh\n",
+        std::string(40, ' '),
         // Two-byte sequences around the word boundaries of the short-text path.
-        "abcdefg\xC3\xA4", "abcdefgh\xC3\xA4", "abcdefghijklmn\xC3\xA4", "abcdefghijklmno\xC3\xA4",
-        "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F\xC3\x84\xC3\x96\xC3\x9C\xC2\xA0", "\xC2\x80", "\xDF\xBF",
-        "\xE2\x82\xAC 5", "\xF0\x9F\x98\x80", "K\xC3\xB6ln\t", "\xC3\xA4\x7F",
+        "abcdefg\xC3\xA4",
+        "abcdefgh\xC3\xA4",
+        "abcdefghijklmn\xC3\xA4",
+        "abcdefghijklmno\xC3\xA4",
+        "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F\xC3\x84\xC3\x96\xC3\x9C\xC2\xA0",
+        "\xC2\x80",
+        "\xDF\xBF",
+        "\xE2\x82\xAC 5",
+        "\xF0\x9F\x98\x80",
+        "K\xC3\xB6ln\t",
+        "\xC3\xA4\x7F",
     };
     for (const std::string& v : values) {
         for (std::size_t w : {0u, 1u, 2u, 3u, 4u, 7u, 8u, 9u, 16u, 17u, 31u, 32u, 33u, 40u}) {
             for (bool numeric : {false, true}) {
                 char fast[4 * 40 + mlGen::kPutSlack], general[4 * 40 + mlGen::kPutSlack];
                 bool fast_filled = false, general_filled = false;
-                const char* fast_end = numeric ? mlGen::PutN(fast, v, w, fast_filled) : mlGen::PutAn(fast, v, w, fast_filled);
+                const char* fast_end =
+                    numeric ? mlGen::PutN(fast, v, w, fast_filled) : mlGen::PutAn(fast, v, w, fast_filled);
                 const char* general_end = numeric ? mlGen::detail::PutNGeneral(general, v, w, general_filled)
                                                   : mlGen::detail::PutAnGeneral(general, v, w, general_filled);
                 EXPECT_EQ(std::string_view(fast, fast_end), std::string_view(general, general_end))
@@ -106,8 +149,20 @@ TEST(TextEncoders, FastPathAgreesWithTheGeneralWalk) {
 TEST(TextEncoders, EveryPathRefusesMalformedText) {
     RecordingHost host;
     const std::string values[] = {
-        "\xC3", "a\x80", "\xC0\x80", "\xC1\xBF", "\xC3\xA4\xC3", "abcdefghijklmno\xC3", "abcdefg\xC3",
-        "abcdefgh\x80" "b", "\xC3\xC3\xA4", "\xE2\x82", "\xED\xA0\x80", "\xF5\x80\x80\x80", "\xFF",
+        "\xC3",
+        "a\x80",
+        "\xC0\x80",
+        "\xC1\xBF",
+        "\xC3\xA4\xC3",
+        "abcdefghijklmno\xC3",
+        "abcdefg\xC3",
+        "abcdefgh\x80"
+        "b",
+        "\xC3\xC3\xA4",
+        "\xE2\x82",
+        "\xED\xA0\x80",
+        "\xF5\x80\x80\x80",
+        "\xFF",
     };
     for (const std::string& v : values) {
         char buf[4 * 40 + mlGen::kPutSlack];
@@ -126,9 +181,8 @@ struct AmountCase {
 
 TEST(AmountEncoders, StrToPBLastSeparatorIsTheDecimalOne) {
     const AmountCase cases[] = {
-        {"1.234,5", 8, 2, "0000123450", true}, {"1,234.56", 6, 2, "00123456", true},
-        {"1.234", 3, 3, "001234", true},       {"+12", 3, 2, "01200", true},
-        {"", 6, 2, "00000000", false},         {"0,00", 2, 2, "0000", false},
+        {"1.234,5", 8, 2, "0000123450", true}, {"1,234.56", 6, 2, "00123456", true}, {"1.234", 3, 3, "001234", true},
+        {"+12", 3, 2, "01200", true},          {"", 6, 2, "00000000", false},        {"0,00", 2, 2, "0000", false},
         {"1.2.3,45", 5, 2, "0012345", true},   {"007", 3, 0, "007", true},
     };
     for (const auto& c : cases) {
@@ -160,20 +214,45 @@ TEST(AmountEncoders, ErrorsCarryNumberSourceDescriptionAndLogTheRoutes) {
         std::vector<std::string> log;
     };
     const Case cases[] = {
-        {"-1", false, 5, 2, "mlGen.StrToPB", "Der Betrag darf nicht negativ sein.",
+        {"-1",
+         false,
+         5,
+         2,
+         "mlGen.StrToPB",
+         "Der Betrag darf nicht negativ sein.",
          {"Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 7): mlGen.StrToPB -> Der Betrag darf nicht negativ sein."}},
-        {"1 000", false, 5, 2, "mlGen.StrToPB", "Der Betrag enth\xC3\xA4lt ung\xC3\xBCltige Zeichen.",
+        {"1 000",
+         false,
+         5,
+         2,
+         "mlGen.StrToPB",
+         "Der Betrag enth\xC3\xA4lt ung\xC3\xBCltige Zeichen.",
          {"Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 9): mlGen.StrToPB -> Der Betrag enth\xC3\xA4lt "
           "ung\xC3\xBCltige Zeichen."}},
-        {"1x", true, 5, 2, "mlGen.StrToBG", "Der Betrag enth\xC3\xA4lt ung\xC3\xBCltige Zeichen.",
+        {"1x",
+         true,
+         5,
+         2,
+         "mlGen.StrToBG",
+         "Der Betrag enth\xC3\xA4lt ung\xC3\xBCltige Zeichen.",
          {"Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 9): mlGen.StrToBG -> Der Betrag enth\xC3\xA4lt "
           "ung\xC3\xBCltige Zeichen."}},
-        {"12,345", false, 5, 2, "mlGen.EnhanceVorNachk", "345 enth\xC3\xA4lt mehr Nachkommastellen als 2.",
+        {"12,345",
+         false,
+         5,
+         2,
+         "mlGen.EnhanceVorNachk",
+         "345 enth\xC3\xA4lt mehr Nachkommastellen als 2.",
          {"Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 3): mlGen.EnhanceVorNachk -> 345 enth\xC3\xA4lt mehr "
           "Nachkommastellen als 2.",
           "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 10): mlGen.StrToPB -> 345 enth\xC3\xA4lt mehr "
           "Nachkommastellen als 2."}},
-        {"123456", true, 5, 0, "mlGen.EnhanceVorNachk", "123456 enth\xC3\xA4lt mehr Vorkommastellen als 5.",
+        {"123456",
+         true,
+         5,
+         0,
+         "mlGen.EnhanceVorNachk",
+         "123456 enth\xC3\xA4lt mehr Vorkommastellen als 5.",
          {"Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 1): mlGen.EnhanceVorNachk -> 123456 enth\xC3\xA4lt mehr "
           "Vorkommastellen als 5.",
           "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 10): mlGen.StrToBG -> 123456 enth\xC3\xA4lt mehr "
@@ -207,9 +286,18 @@ TEST(Checks, EnmToJNAndCheckLength) {
 
 TEST(Checks, ConvertBNRStRemovesTheRangeAndAnyPieceOfTheList) {
     const std::pair<const char*, const char*> cases[] = {
-        {"10700000", ""}, {"80000031", ""}, {"12345678", "12345678"}, {"8000", ""}, {"0,8", ""},
-        {"", ""},         {"107", ""},      {"10600000", ""},          {"10899999", ""},
-        {"10599999", "10599999"},           {"10900000", "10900000"}, {"99999994", "99999994"},
+        {"10700000", ""},
+        {"80000031", ""},
+        {"12345678", "12345678"},
+        {"8000", ""},
+        {"0,8", ""},
+        {"", ""},
+        {"107", ""},
+        {"10600000", ""},
+        {"10899999", ""},
+        {"10599999", "10599999"},
+        {"10900000", "10900000"},
+        {"99999994", "99999994"},
     };
     for (const auto& [in, out] : cases) EXPECT_EQ(mlGen::ConvertBNRSt(in), out) << in;
 }
@@ -222,9 +310,14 @@ TEST(Dates, GetCurrDateTakesTheDayFromTheRightEnd) {
         const char* expected;
     };
     const Case cases[] = {
-        {"", 0, "20240229"},         {"", 1, "20240229130509"},          {"20240229", 2, "29022024"},
-        {"20240131", 1, "20240131130509"}, {"20240131235959", 1, "20240159235959"},
-        {"20240131235959", 0, "20240159"}, {"1234567", 0, "20240229"},   {"20240131", 3, ""},
+        {"", 0, "20240229"},
+        {"", 1, "20240229130509"},
+        {"20240229", 2, "29022024"},
+        {"20240131", 1, "20240131130509"},
+        {"20240131235959", 1, "20240159235959"},
+        {"20240131235959", 0, "20240159"},
+        {"1234567", 0, "20240229"},
+        {"20240131", 3, ""},
     };
     for (const auto& c : cases) EXPECT_EQ(mlGlobal::GetCurrDate(c.text, c.format, date), c.expected) << c.text;
     // Stray continuation bytes make "the last two characters" a long piece; it is kept whole.
@@ -235,8 +328,11 @@ TEST(Dates, GetCurrDateTakesTheDayFromTheRightEnd) {
 // The writer's date stamp (written straight from the date when no text is
 // given) is GetCurrDate's text as a numeric field, filled flag included.
 TEST(Dates, WriterStampIsGetCurrDateAsANumericField) {
-    const Date dates[] = {{2024, 2, 29, 13, 5, 9}, {1999, 12, 31, 0, 0, 0}, {0, 0, 0, 0, 0, 0},
-                          {12345, 1, 2, 3, 4, 5},  {2000, 1, 1, 23, 59, 59}};
+    const Date dates[] = {{2024, 2, 29, 13, 5, 9},
+                          {1999, 12, 31, 0, 0, 0},
+                          {0, 0, 0, 0, 0, 0},
+                          {12345, 1, 2, 3, 4, 5},
+                          {2000, 1, 1, 23, 59, 59}};
     for (const Date& date : dates) {
         for (const std::string_view text : {"", "20240131", "20240131235959"}) {
             for (int width : {14, 12, 16}) {
@@ -248,7 +344,8 @@ TEST(Dates, WriterStampIsGetCurrDateAsANumericField) {
                     w.stamp(text, 1, date, width).end();
                 }
                 bool expected_filled = false;
-                const std::string expected = mlGen::StrToN(mlGlobal::GetCurrDate(text, 1, date), width, expected_filled);
+                const std::string expected =
+                    mlGen::StrToN(mlGlobal::GetCurrDate(text, 1, date), width, expected_filled);
                 EXPECT_EQ(out, expected) << text << " width " << width << " year " << date.year;
                 EXPECT_EQ(filled, expected_filled) << text << " width " << width << " year " << date.year;
             }

@@ -14,9 +14,13 @@ namespace {
 TEST(Frames, VOSZHandsBackTheComputedDate) {
     RecordingHost host;
     std::string datum;
-    std::string vosz = mlGen::GenVOSZ("AGDEU", "12345678", "87654321", "1", "Firma Zwanzig Zeichen", datum, Date{}, "01");
-    EXPECT_EQ(vosz, "VOSZ" "AGDEU" + an("12345678", 15) + an("87654321", 15) + "20240305" + "000001" +
-                        an("Firma Zwanzig Zeichen", 50) + "01");
+    std::string vosz =
+        mlGen::GenVOSZ("AGDEU", "12345678", "87654321", "1", "Firma Zwanzig Zeichen", datum, Date{}, "01");
+    EXPECT_EQ(vosz,
+              "VOSZ"
+              "AGDEU" +
+                  an("12345678", 15) + an("87654321", 15) + "20240305" + "000001" + an("Firma Zwanzig Zeichen", 50) +
+                  "01");
     EXPECT_EQ(datum, "20240305");
 
     std::string given = "20231231";
@@ -28,7 +32,9 @@ TEST(Frames, VOSZHandsBackTheComputedDate) {
 TEST(Frames, NCSZAlwaysComputesItsDate) {
     RecordingHost host;
     EXPECT_EQ(mlGen::GenNCSZ("BWNAC", "1", "2", "1", "123", Date{2024, 3, 1, 10, 0, 0}, "01"),
-              "NCSZ" "BWNAC" + an("1", 15) + an("2", 15) + "20240301" + "000001" + "00000123" + "01");
+              "NCSZ"
+              "BWNAC" +
+                  an("1", 15) + an("2", 15) + "20240301" + "000001" + "00000123" + "01");
     EXPECT_EQ(mlGen::GenNCSZ("BWNAC", "1", "2", "1", "0", Date{}, "01").substr(39, 8), "20240305");
 }
 
@@ -36,12 +42,16 @@ TEST(Frames, DSKOWithEmptyDataIsStillComplete) {
     RecordingHost host;
     DSKOData empty;
     EXPECT_EQ(mlGen::GenDSKO(empty, "ALG", Date{2024, 3, 1, 10, 11, 12}),
-              "DSKO" "ALG  " + blanks(30) + "04" + "20240301101112" + "000000" + "00" + blanks(15 + 7 + 8 + 90) +
+              "DSKO"
+              "ALG  " +
+                  blanks(30) + "04" + "20240301101112" + "000000" + "00" + blanks(15 + 7 + 8 + 90) +
                   blanks(10 + 34 + 33 + 9) + blanks(1 + 30 + 20 + 20 + 70) + blanks(5));
-    DSKOData d{"11111111", "22222222", "42",    "PROD1",    "MOD1",   "Name1", "Name2", "Name3", "Strasse",
-               "7a",       "12345",    "Ort",   "W",        "Anna",   "0301",  "0302",  "a@b.de"};
+    DSKOData d{"11111111", "22222222", "42",  "PROD1", "MOD1", "Name1", "Name2", "Name3", "Strasse",
+               "7a",       "12345",    "Ort", "W",     "Anna", "0301",  "0302",  "a@b.de"};
     EXPECT_EQ(mlGen::GenDSKO(d, "DEUEV", Date{2024, 3, 1, 10, 11, 12}),
-              "DSKO" "DEUEV" + an("11111111", 15) + an("22222222", 15) + "04" + "20240301101112" + "000042" + "00" +
+              "DSKO"
+              "DEUEV" +
+                  an("11111111", 15) + an("22222222", 15) + "04" + "20240301101112" + "000042" + "00" +
                   an("11111111", 15) + an("PROD1", 7) + an("MOD1", 8) + an("Name1", 30) + an("Name2", 30) +
                   an("Name3", 30) + an("12345", 10) + an("Ort", 34) + an("Strasse", 33) + an("7a", 9) + "W" +
                   an("Anna", 30) + an("0301", 20) + an("0302", 20) + an("a@b.de", 70) + blanks(5));
@@ -82,9 +92,13 @@ TEST(SharedBlocks, NameAddressAndBirth) {
     EXPECT_EQ(mlGen::GenDBAN(v, filled), "DBAN" + blanks(129));
     EXPECT_FALSE(filled);
     v.Land = "A";
-    EXPECT_EQ(mlGen::GenDBAN(v, filled), "DBAN" "A  " + blanks(126));
+    EXPECT_EQ(mlGen::GenDBAN(v, filled),
+              "DBAN"
+              "A  " +
+                  blanks(126));
     EXPECT_TRUE(filled);
-    EXPECT_EQ(appended([&](std::string& out) { mlGen::AppendDBGB(out, v); }), "DBGB" + blanks(70) + "01980101" + "M" + blanks(34));
+    EXPECT_EQ(appended([&](std::string& out) { mlGen::AppendDBGB(out, v); }),
+              "DBGB" + blanks(70) + "01980101" + "M" + blanks(34));
 }
 
 TEST(XmlEncoders, NilTrimAndDates) {

@@ -42,7 +42,8 @@ inline nlohmann::json gen_data_request(const ExampleJob& e, const nlohmann::json
         args["udtDatensatzData"] = job["udtDatensatzData"];
     }
     if (e.info->data == DataForm::WithVerfahren) args["enmVerfahren"] = job["enmVerfahren"];
-    nlohmann::json request = {{"class", std::string(e.info->cls)}, {"method", "GenData"}, {"args", args}, {"now", job["now"]}};
+    nlohmann::json request = {
+        {"class", std::string(e.info->cls)}, {"method", "GenData"}, {"args", args}, {"now", job["now"]}};
     if (job.contains("tests")) request["tests"] = job["tests"];
     return request;
 }

@@ -53,7 +53,9 @@ DatensatzData datensatz() {
 
 std::string dsme(const std::string& kind, const std::string& reference, const std::string& group_reason,
                  const std::string& flags, char sofort, char kv) {
-    return "DSME" "DEUEV" + an("33333333", 15) + an("22222222", 15) + "03" + "20240301101112" + "000123" + "0" + "0" +
+    return "DSME"
+           "DEUEV" +
+           an("33333333", 15) + an("22222222", 15) + "03" + "20240301101112" + "000123" + "0" + "0" +
            an("12010180M123", 12) + kind + an("11111111", 15) + an("P-7", 20) + an("22222222", 15) + an(reference, 20) +
            blanks(15) + group_reason + blanks(3) + flags + " 5 " + sofort + " " + blanks(3) + kv + " " + n("", 20) +
            "01" + an("PROD", 7) + an("MOD", 8) + an("V1        0000000042", 32) + blanks(100) + "N" + blanks(199);
@@ -67,11 +69,31 @@ TEST(Meldung, RegistrationWithNameBirthAddressAndKsBlocks) {
     std::string out = gen.GenData(m, dd, vmNormal, kDate);
 
     std::string expected = dsme("0C", "V1        0000000042", "10110", "JJJJNNJNNN", 'N', 'N');
-    expected += "DBME" "N" " " "20240101" "00000000" "00" " " "001234" "1111" + blanks(9) + " " "N" "0" + blanks(100);
+    expected +=
+        "DBME"
+        "N"
+        " "
+        "20240101"
+        "00000000"
+        "00"
+        " "
+        "001234"
+        "1111" +
+        blanks(9) +
+        " "
+        "N"
+        "0" +
+        blanks(100);
     expected += "DBNA" + an("M\xC3\xBCller", 31) + an("Hans", 30) + blanks(60) + " ";
     expected += "DBGB" + blanks(70) + "19800101" + " " + blanks(34);
-    expected += "DBAN" "   " + an("10115", 10) + an("Berlin", 34) + blanks(33 + 9 + 40);
-    std::string ks = "DBKS" "K" " ";
+    expected +=
+        "DBAN"
+        "   " +
+        an("10115", 10) + an("Berlin", 34) + blanks(33 + 9 + 40);
+    std::string ks =
+        "DBKS"
+        "K"
+        " ";
     for (int i = 0; i < 12; ++i) ks += "A " + blanks(10);
     ks += blanks(10);
     for (int i = 0; i < 12; ++i) ks += "D ";
@@ -164,9 +186,25 @@ TEST(Meldung, ImmediateReportAppendsDbsoAndReason58Dbkv) {
     EXPECT_EQ(out[183], 'J');
     EXPECT_EQ(out[188], 'J');
     std::string tail = out.substr(out.size() - 163);
-    EXPECT_EQ(tail.substr(0, 13), "DBSO" "J" "20240101");
-    EXPECT_EQ(tail.substr(13), "DBKV" "J" "00" "03" "20240101" "00000000" "00000000" "00000700" + blanks(27) + "1111" +
-                                   " " "00123450" "00000000" "00000000" + blanks(53));
+    EXPECT_EQ(tail.substr(0, 13),
+              "DBSO"
+              "J"
+              "20240101");
+    EXPECT_EQ(tail.substr(13),
+              "DBKV"
+              "J"
+              "00"
+              "03"
+              "20240101"
+              "00000000"
+              "00000000"
+              "00000700" +
+                  blanks(27) + "1111" +
+                  " "
+                  "00123450"
+                  "00000000"
+                  "00000000" +
+                  blanks(53));
 }
 
 TEST(Meldung, DbuvCountsEntriesAndSkipsTheDroppedOnes) {
@@ -178,15 +216,20 @@ TEST(Meldung, DbuvCountsEntriesAndSkipsTheDroppedOnes) {
     m.UvEntfaellt.set(2, true);
     m.UvAngabe2.set(3, "B");
     bool produced = false;
-    EXPECT_EQ(appended([&](std::string& out) { clsGenMeldung::AppendDBUV(out, m, produced); }), "DBUV" "2" + blanks(15) + an("U1", 3) + blanks(58) + "000012" +
-                                                       blanks(4) + blanks(3) + an("B", 15) + blanks(43) + "000000" +
-                                                       blanks(4));
+    EXPECT_EQ(appended([&](std::string& out) { clsGenMeldung::AppendDBUV(out, m, produced); }),
+              "DBUV"
+              "2" +
+                  blanks(15) + an("U1", 3) + blanks(58) + "000012" + blanks(4) + blanks(3) + an("B", 15) + blanks(43) +
+                  "000000" + blanks(4));
     EXPECT_TRUE(produced);
 
     m.UvEntfaellt.set(1, true);
     m.UvEntfaellt.set(3, true);
     produced = false;
-    EXPECT_EQ(appended([&](std::string& out) { clsGenMeldung::AppendDBUV(out, m, produced); }), "DBUV" "0" + blanks(15));
+    EXPECT_EQ(appended([&](std::string& out) { clsGenMeldung::AppendDBUV(out, m, produced); }),
+              "DBUV"
+              "0" +
+                  blanks(15));
     EXPECT_FALSE(produced);
 }
 
@@ -218,10 +261,11 @@ TEST(Meldung, ErrorsOfTheProcedure) {
         EXPECT_EQ(e.source(), c.source);
         EXPECT_EQ(e.description(), c.description);
         ASSERT_EQ(host.lines.size(), c.lines);
-        EXPECT_EQ(host.lines.back(), "Fehler " + std::to_string(c.number) +
-                                         " in TamrelFile26 1.0.0 (Zeile " + (c.lines == 2 ? "1" : "3") +
+        EXPECT_EQ(host.lines.back(), "Fehler " + std::to_string(c.number) + " in TamrelFile26 1.0.0 (Zeile " +
+                                         (c.lines == 2 ? "1" : "3") +
                                          "): clsGenMeldung.GenData(<objMeldung>, <udtDatensatzData>, 0, "
-                                         "2024-03-01 10:11:12) -> " + c.description);
+                                         "2024-03-01 10:11:12) -> " +
+                                         c.description);
     }
     RecordingHost host;
     Meldung m = registration();
@@ -244,12 +288,14 @@ TEST(Meldung, NegativeAmountIsLoggedByEveryRoutineOnItsWay) {
     EXPECT_EQ(e.source(), "mlGen.StrToPB");
     EXPECT_EQ(e.description(), "Der Betrag darf nicht negativ sein.");
     ASSERT_EQ(host.lines.size(), 3u);
-    EXPECT_EQ(host.lines.front(),
-              "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 7): mlGen.StrToPB -> Der Betrag darf nicht negativ sein.");
+    EXPECT_EQ(
+        host.lines.front(),
+        "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 7): mlGen.StrToPB -> Der Betrag darf nicht negativ sein.");
     EXPECT_TRUE(host.lines[1].find("): clsGenMeldung.GenDBKV -> Der Betrag darf nicht negativ sein.") !=
                 std::string::npos);
-    EXPECT_EQ(host.lines.back(), "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 3): clsGenMeldung.GenData(<objMeldung>, "
-                                 "<udtDatensatzData>, 1, 2024-03-01 10:11:12) -> Der Betrag darf nicht negativ sein.");
+    EXPECT_EQ(host.lines.back(),
+              "Fehler -2147213200 in TamrelFile26 1.0.0 (Zeile 3): clsGenMeldung.GenData(<objMeldung>, "
+              "<udtDatensatzData>, 1, 2024-03-01 10:11:12) -> Der Betrag darf nicht negativ sein.");
 }
 
 TEST(Meldung, NameTestErrorReachesTheHostUnchanged) {

@@ -59,16 +59,23 @@ TEST(Erst, DserReasonCascadeAndIndependentFlags) {
         e.DBAAEntfaellt = c.entfaellt;
         DatensatzData dd{"33333333", "", "V", "123", "P", "M", ""};
         std::string out = gen.GenData(e, dd, kDate);
-        std::string dser = "DSER" "AAGER" + an("33333333", 15) + an("22222222", 15) + "05" + "20240301101112" +
-                           "000123" + "00" + an("12010180M123", 12) + "19800101" + an("11111111", 15) + blanks(40) +
-                           an("22222222", 15) + blanks(35) + c.reason + "20240201" + "2" + "M" + "2" + an("P", 7) +
-                           an("M", 8) + an("V         0000000077", 32) + blanks(100) + c.flags + blanks(101);
+        std::string dser =
+            "DSER"
+            "AAGER" +
+            an("33333333", 15) + an("22222222", 15) + "05" + "20240301101112" + "000123" + "00" +
+            an("12010180M123", 12) + "19800101" + an("11111111", 15) + blanks(40) + an("22222222", 15) + blanks(35) +
+            c.reason + "20240201" + "2" + "M" + "2" + an("P", 7) + an("M", 8) + an("V         0000000077", 32) +
+            blanks(100) + c.flags + blanks(101);
         EXPECT_EQ(out.substr(0, 455), dser) << c.reason;
         std::vector<std::string> ids;
         for (std::size_t pos = 455; pos < out.size();) {
             ids.push_back(out.substr(pos, 4));
-            pos += ids.back() == "DBAU" ? 202 : ids.back() == "DBBT" ? 180 : ids.back() == "DBZU" ? 191
-                   : ids.back() == "DBBV" ? 174 : ids.back() == "DBNA" ? 125 : 321;
+            pos += ids.back() == "DBAU"   ? 202
+                   : ids.back() == "DBBT" ? 180
+                   : ids.back() == "DBZU" ? 191
+                   : ids.back() == "DBBV" ? 174
+                   : ids.back() == "DBNA" ? 125
+                                          : 321;
         }
         EXPECT_EQ(ids, c.blocks) << c.reason;
     }
@@ -82,20 +89,45 @@ TEST(Erst, BlocksCompared) {
     e.MerkmalB = 1;
     std::string out;
     clsGenErst::GenDBAU(out, e);
-    EXPECT_EQ(out, "DBAU" "1" "20240101" "20240131" "1" "000123456" "2" "J" "00150" "3" "0000" "0000" "000010000" +
-                       n("", 9) + n("", 5) + n("", 9) + "1" " " + blanks(4) + n("", 8) + n("", 18) + blanks(91));
+    EXPECT_EQ(out,
+              "DBAU"
+              "1"
+              "20240101"
+              "20240131"
+              "1"
+              "000123456"
+              "2"
+              "J"
+              "00150"
+              "3"
+              "0000"
+              "0000"
+              "000010000" +
+                  n("", 9) + n("", 5) + n("", 9) +
+                  "1"
+                  " " +
+                  blanks(4) + n("", 8) + n("", 18) + blanks(91));
     out.clear();
     clsGenErst::GenDBBT(out, e);
-    EXPECT_EQ(out, "DBBT" "1" "20240101" "20240131" "1" + blanks(8) + "000010000" + n("", 9) + "10000" + n("", 9) +
-                       "0" + n("", 8 + 18) + blanks(91));
+    EXPECT_EQ(out,
+              "DBBT"
+              "1"
+              "20240101"
+              "20240131"
+              "1" +
+                  blanks(8) + "000010000" + n("", 9) + "10000" + n("", 9) + "0" + n("", 8 + 18) + blanks(91));
     out.clear();
     e.Satz3 = "2,5";
     e.Zusatzdatum = "20240115";
     clsGenErst::GenDBAU(out, e);
-    EXPECT_EQ(out.substr(81, 12), "0250" "20240115");
+    EXPECT_EQ(out.substr(81, 12),
+              "0250"
+              "20240115");
 
     const std::pair<Date, std::string> clocks[] = {
-        {Date{2013, 12, 31, 23, 59, 59}, "0000000123" "00000100"},
+        {Date{2013, 12, 31, 23, 59, 59},
+         "0000000123"
+         "00000100"},
         {Date{2014, 1, 1}, an("123", 10) + an("100", 8)},
     };
     for (const auto& [clock, fields] : clocks) {
@@ -103,7 +135,12 @@ TEST(Erst, BlocksCompared) {
         out.clear();
         e.Bankkennzeichen = 1;
         clsGenErst::GenDBBV(out, e);
-        EXPECT_EQ(out, "DBBV" "2" "0000" "00" + fields + blanks(145));
+        EXPECT_EQ(out,
+                  "DBBV"
+                  "2"
+                  "0000"
+                  "00" +
+                      fields + blanks(145));
     }
     Error err = expect_error([&] {
         e.Betrag2 = "-3";
@@ -143,17 +180,34 @@ TEST(Zahl, PlainAndPseudonymisedReports) {
         std::string insurance, zk, name;
     };
     const Case cases[] = {
-        {false, an("12010180M123", 12), "1" "J" "20240101" "00000000" "20240115", an("Meier", 30) + an("Eva", 30)},
-        {true, n("", 12), "2" "N" "20240101" "00000000" "20240506", an("Pseudoname", 30) + an("Pseudovorname", 30)},
+        {false, an("12010180M123", 12),
+         "1"
+         "J"
+         "20240101"
+         "00000000"
+         "20240115",
+         an("Meier", 30) + an("Eva", 30)},
+        {true, n("", 12),
+         "2"
+         "N"
+         "20240101"
+         "00000000"
+         "20240506",
+         an("Pseudoname", 30) + an("Pseudovorname", 30)},
     };
     for (const auto& c : cases) {
         Zahl z = pay_report(c.pseudonym);
         std::string out = gen.GenData(z, dd, kDate);
-        std::string dsvz = "DSVZ" "ZAHLS" + an("33333333", 15) + an("22222222", 15) + "02" + "20240301101112" +
-                           "000001" + "00" + an("K14", 14) + blanks(35) + an("22222222", 15) + an("V", 10) +
-                           n("5", 10) + an("10700000", 15) + blanks(3) + "01" + an("P", 7) + an("M", 8) + an("V", 10) +
-                           n("5", 10) + blanks(15) + "JJNNJN" + c.insurance + blanks(2);
-        std::string dbzk = "DBZK" "J" + c.zk + n("", 8 + 24) + "000000100050" + n("", 16);
+        std::string dsvz =
+            "DSVZ"
+            "ZAHLS" +
+            an("33333333", 15) + an("22222222", 15) + "02" + "20240301101112" + "000001" + "00" + an("K14", 14) +
+            blanks(35) + an("22222222", 15) + an("V", 10) + n("5", 10) + an("10700000", 15) + blanks(3) + "01" +
+            an("P", 7) + an("M", 8) + an("V", 10) + n("5", 10) + blanks(15) + "JJNNJN" + c.insurance + blanks(2);
+        std::string dbzk =
+            "DBZK"
+            "J" +
+            c.zk + n("", 8 + 24) + "000000100050" + n("", 16);
         std::string dbna = "DBNA" + c.name + blanks(61);
         std::string dban = "DBAN" + blanks(3) + an("10115", 10) + blanks(116);
         EXPECT_EQ(out, dsvz + dbzk + dbna + dban) << c.pseudonym;

@@ -36,12 +36,17 @@ TEST(Betrieb, DsbdWithAndWithoutSecondAddress) {
     b.Arbeitgeber = employer();
     b.Empfaenger.Betriebsnummer = "22222222";
     DatensatzData dd = kDD;
-    std::string dsbd = "DSBD" "BTRAG" + an("33333333", 15) + an("22222222", 15) + "01" + "20240229101112" + "000007" +
-                       "00" + an("11111111", 15) + blanks(11) + an("12345678", 15) + "07" + blanks(5) +
-                       an("Firma", 30) + blanks(60) + an("10115", 10) + an("Berlin", 34) + an("Weg", 33) + an("1", 9) +
-                       blanks(20) + "A" + blanks(15) + blanks(141) + blanks(20) + an("ABC", 10) + "0000000042" +
-                       an("22222222", 15) + blanks(15);
-    EXPECT_EQ(gen.GenData(b, dd, kDate), dsbd + "N" "N" + blanks(5));
+    std::string dsbd =
+        "DSBD"
+        "BTRAG" +
+        an("33333333", 15) + an("22222222", 15) + "01" + "20240229101112" + "000007" + "00" + an("11111111", 15) +
+        blanks(11) + an("12345678", 15) + "07" + blanks(5) + an("Firma", 30) + blanks(60) + an("10115", 10) +
+        an("Berlin", 34) + an("Weg", 33) + an("1", 9) + blanks(20) + "A" + blanks(15) + blanks(141) + blanks(20) +
+        an("ABC", 10) + "0000000042" + an("22222222", 15) + blanks(15);
+    EXPECT_EQ(gen.GenData(b, dd, kDate), dsbd +
+                                             "N"
+                                             "N" +
+                                             blanks(5));
 
     b.DbkaOrt = "Hamburg";
     b.KennzeichenR = true;
@@ -61,10 +66,13 @@ TEST(AbfrVers, QueryWithPersonBlocks) {
     a.Vorgang.Arbeitgeber.Betriebsnummer = "11111111";
     DatensatzData dd = kDD;
     std::string out = gen.GenData(a, dd, kDate);
-    EXPECT_EQ(out, "DSVV" "DEUEV" + an("33333333", 15) + an("66667777", 15) + "01" + "20240301101112" + "000007" +
-                       "00" + blanks(12) + "0" + " " + an("11111111", 15) + an("AZ", 20) + an("ABC", 10) +
-                       "0000000000" + blanks(14) + "5" + blanks(24) + "JJJ" + blanks(26) + "DBNA" + an("Meier", 120) +
-                       " " + "DBGB" + blanks(70) + "00000000" + blanks(35) + "DBAN" + blanks(129));
+    EXPECT_EQ(out,
+              "DSVV"
+              "DEUEV" +
+                  an("33333333", 15) + an("66667777", 15) + "01" + "20240301101112" + "000007" + "00" + blanks(12) +
+                  "0" + " " + an("11111111", 15) + an("AZ", 20) + an("ABC", 10) + "0000000000" + blanks(14) + "5" +
+                  blanks(24) + "JJJ" + blanks(26) + "DBNA" + an("Meier", 120) + " " + "DBGB" + blanks(70) + "00000000" +
+                  blanks(35) + "DBAN" + blanks(129));
 }
 
 AbfrStammdatenUV master_query() {
@@ -82,14 +90,27 @@ TEST(AbfrStammdatenUV, DbapOnlyWithContactData) {
     clsGenAbfrStammdatenUV gen(host.host);
     AbfrStammdatenUV a = master_query();
     DatensatzData dd = kDD;
-    std::string dsas = "DSAS" "UVSDD" + an("33333333", 15) + an("95783331", 15) + "01" "00" "00" + "20240301101112" +
-                       "000007" + "N00" + blanks(100) + an("PROD", 7) + an("MOD", 8) + an("ABC", 10) + n("3", 10) +
-                       blanks(12) + an("F216", 32) + "J" + blanks(32) + "5" + blanks(100) + blanks(35) + "00012" +
-                       "000" "0000" + an("11111111", 15) + blanks(15);
-    EXPECT_EQ(gen.GenData(a, dd, kDate), dsas + "N" "UV10");
+    std::string dsas =
+        "DSAS"
+        "UVSDD" +
+        an("33333333", 15) + an("95783331", 15) +
+        "01"
+        "00"
+        "00" +
+        "20240301101112" + "000007" + "N00" + blanks(100) + an("PROD", 7) + an("MOD", 8) + an("ABC", 10) + n("3", 10) +
+        blanks(12) + an("F216", 32) + "J" + blanks(32) + "5" + blanks(100) + blanks(35) + "00012" +
+        "000"
+        "0000" +
+        an("11111111", 15) + blanks(15);
+    EXPECT_EQ(gen.GenData(a, dd, kDate), dsas +
+                                             "N"
+                                             "UV10");
 
     a.ApEmail = "a@b.de";
-    EXPECT_EQ(gen.GenData(a, dd, kDate), dsas + "J" "UV10" + "DBAP" + blanks(71) + an("a@b.de", 70) + blanks(176));
+    EXPECT_EQ(gen.GenData(a, dd, kDate), dsas +
+                                             "J"
+                                             "UV10" +
+                                             "DBAP" + blanks(71) + an("a@b.de", 70) + blanks(176));
 }
 
 Lohnnachweis wage_statement(std::int16_t count) {
@@ -104,10 +125,19 @@ TEST(Lohnnachweis, PositionsCountsAndOverflow) {
     RecordingHost host;
     clsGenLohnnachweis gen(host.host);
     DatensatzData dd = kDD;
-    std::string fixed = "DSLN" "UVELN" + an("33333333", 15) + an("95783331", 15) + "01" "00" "00" + "20240301101112" +
-                        "000007" + n("", 20) + "N00" + blanks(100) + an("PROD", 7) + an("MOD", 8) + an("ABC", 10) +
-                        n("9", 10) + blanks(12) + blanks(32) + "N" + blanks(32) + "5" + blanks(100) + blanks(35) +
-                        "00000" "000" "0000" + blanks(30) + "N" + blanks(7) + "000000";
+    std::string fixed =
+        "DSLN"
+        "UVELN" +
+        an("33333333", 15) + an("95783331", 15) +
+        "01"
+        "00"
+        "00" +
+        "20240301101112" + "000007" + n("", 20) + "N00" + blanks(100) + an("PROD", 7) + an("MOD", 8) + an("ABC", 10) +
+        n("9", 10) + blanks(12) + blanks(32) + "N" + blanks(32) + "5" + blanks(100) + blanks(35) +
+        "00000"
+        "000"
+        "0000" +
+        blanks(30) + "N" + blanks(7) + "000000";
     EXPECT_EQ(gen.GenData(wage_statement(0), dd, kDate), fixed + "00");
     std::string three = gen.GenData(wage_statement(3), dd, kDate);
     EXPECT_EQ(three, fixed + "03" + an("P1", 15) + an("X", 8) + n("12", 15) + n("34", 15) + "000005" + an("P2", 23) +
@@ -120,9 +150,13 @@ TEST(Lohnnachweis, PositionsCountsAndOverflow) {
     Error e = expect_error([&] { gen.GenData(wage_statement(548), dd, kDate); });
     EXPECT_EQ(e.number(), 6);
     EXPECT_EQ(e.source(), "TamrelFile26");
-    EXPECT_EQ(e.description(), "\xC3\x9C" "berlauf");
+    EXPECT_EQ(e.description(),
+              "\xC3\x9C"
+              "berlauf");
     EXPECT_EQ(host.lines.size(), 2u);
-    EXPECT_NE(host.lines[0].find("clsGenLohnnachweis.GenDSLN -> \xC3\x9C" "berlauf"), std::string::npos);
+    EXPECT_NE(host.lines[0].find("clsGenLohnnachweis.GenDSLN -> \xC3\x9C"
+                                 "berlauf"),
+              std::string::npos);
 
     e = expect_error([&] { gen.GenData(wage_statement(-1), dd, kDate); });
     EXPECT_EQ(e.description(), "L\xC3\xA4nge DSLN ist nicht korrekt.");

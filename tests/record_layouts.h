@@ -97,10 +97,12 @@ inline std::string follows(const Procedure& p, std::string_view utf8) {
         const int times = a.kind == Announce::Flag ? (t[a.pos - 1] == U'J' ? 1 : 0) : number_at(t, a.pos, 2);
         if (times < 0) return "no count at " + std::to_string(a.pos);
         for (int i = 0; i < times; ++i) {
-            if (!next_is(a.block)) return std::string(a.block) + " announced at " + std::to_string(a.pos) + " is missing";
+            if (!next_is(a.block))
+                return std::string(a.block) + " announced at " + std::to_string(a.pos) + " is missing";
             if (auto e = take(a.block); !e.empty()) return e;
         }
-        if (next_is(a.block)) return std::string(a.block) + " sent though position " + std::to_string(a.pos) + " does not announce it";
+        if (next_is(a.block))
+            return std::string(a.block) + " sent though position " + std::to_string(a.pos) + " does not announce it";
     }
     if (at != t.size()) return "unexpected text after the blocks at character " + std::to_string(at + 1);
     return {};

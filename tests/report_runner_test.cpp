@@ -9,9 +9,9 @@
 #include "cli/job.h"
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
-#include "component/shared_bindings.h"
 #include "component/json_binding.h"
 #include "component/report_runner.h"
+#include "component/shared_bindings.h"
 #include "core/error.h"
 #include "core/indexed.h"
 #include "tests/example_jobs.h"
@@ -34,8 +34,7 @@ std::unique_ptr<ReportRunner> example_runner(const tamrel::testing::ExampleJob& 
                           {"datDate", job["datDate"]}};
     Invocation inv(settings_args, session.host());
     RunnerSettings settings{&session.host(), inv.object<DatensatzData>("udtDatensatzData"),
-                            e.info->integer_verfahren() ? inv.enm("enmVerfahren")
-                                                                       : inv.verf("enmVerfahren"),
+                            e.info->integer_verfahren() ? inv.enm("enmVerfahren") : inv.verf("enmVerfahren"),
                             inv.date("datDate")};
     return make_runner(e.info->cls, settings);
 }
@@ -84,9 +83,13 @@ TEST(ReportRunner, ScannerAgreesWithTheReferenceReader) {
         ASSERT_TRUE(runner) << e.info->cls;
         for (const json& report : e.job["reports"]) {
             const std::string compact = report.dump();
-            const std::string texts[] = {compact, report.dump(2), report.dump(-1, ' ', true),
-                                         " \t" + compact + "\r\n ", compact.substr(0, compact.size() - 1),
-                                         compact + "}", compact + " x"};
+            const std::string texts[] = {compact,
+                                         report.dump(2),
+                                         report.dump(-1, ' ', true),
+                                         " \t" + compact + "\r\n ",
+                                         compact.substr(0, compact.size() - 1),
+                                         compact + "}",
+                                         compact + " x"};
             for (const std::string& text : texts) {
                 const std::string reference = outcome(*runner, [&] { runner->read_text_reference(text); });
                 EXPECT_EQ(outcome(*runner, [&] { runner->read_text(text); }), reference) << e.path << "\n" << text;
@@ -104,22 +107,66 @@ TEST(ReportRunner, ScannerAgreesWithTheReferenceReaderOnEveryValueForm) {
     RunnerSettings settings{&session.host(), {}, 0, {}};
     auto runner = make_runner("clsGenMeldung", settings);
     const std::string base = R"({"Meldegrund":"10","Vorgang":{"Familienname":"Müller","PLZ":"12345"},"Laufnummer":)";
-    const char* laufnummer[] = {"7}", "-7}", "0}", "-0}", "07}", "1.0}", "1e2}", "2147483647}", "2147483648}",
-                                "-2147483648}", "123456789012345678}", "1234567890123456789}",
-                                "99999999999999999999999}", "null}", "\"7\"}", "7 }", "7,}", "}", "7", "7}}", "7} ", "true}", "- 7}", "+7}"};
-    const char* whole[] = {
-        R"({})", R"([])", R"("x")", "", " ", R"({"Storno":true,"Storno":false})", R"({"Storno":tru})",
-        R"({"Storno":truex})", R"({"Storno":false})", R"({"KsZeileA":["A","B",""]})", R"({"KsZeileA":[]})",
-        R"({"KsZeileA":["A",]})", R"({"KsZeileA":{"2":"B","-1":"C"}})", R"({"KsZeileA":{"2":"B","2":"D"}})",
-        R"({"KsZeileA":{}})", R"({"UvEntfaellt":{"1":true}})", R"({"UvEntfaellt":[true,false]})",
-        R"({"Meldegrund":"1\"0"})", R"({"Meldegrund":"\u0031\u0030"})", R"({"Meldegrund":"a/b\/c"})",
-        "{\"Meldegrund\":\"1\t0\"}", "{\"Meldegrund\":\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\"}",
-        "{\"Meldegrund\":\"\xC3\"}", "{\"Meldegrund\":\"\xED\xA0\x80\"}", "\xEF\xBB\xBF{\"Meldegrund\":\"10\"}",
-        R"({"Meldegrund" : "10" , "Laufnummer" : 3 })", R"({"Meldegrund":"10""Laufnummer":3})",
-        R"({"Meldegrund":"10",,"Laufnummer":3})", R"({"Meldegrund""10"})", R"({Meldegrund:"10"})",
-        R"({"":"10"})", R"({"Meldegrund":"12345678901234567890123456789012345678901234567890"})",
-        R"({"Vorgang":{"Arbeitgeber":{"Betriebsnummer":"1"}},"Empfaenger":{"Betriebsnummer":"2"}})",
-        R"({"Vorgang":{"Arbeitgeber":{"Betriebsnummer":"1"}})", R"({"Vorgang":[]})", R"({"Vorgang":null})"};
+    const char* laufnummer[] = {"7}",
+                                "-7}",
+                                "0}",
+                                "-0}",
+                                "07}",
+                                "1.0}",
+                                "1e2}",
+                                "2147483647}",
+                                "2147483648}",
+                                "-2147483648}",
+                                "123456789012345678}",
+                                "1234567890123456789}",
+                                "99999999999999999999999}",
+                                "null}",
+                                "\"7\"}",
+                                "7 }",
+                                "7,}",
+                                "}",
+                                "7",
+                                "7}}",
+                                "7} ",
+                                "true}",
+                                "- 7}",
+                                "+7}"};
+    const char* whole[] = {R"({})",
+                           R"([])",
+                           R"("x")",
+                           "",
+                           " ",
+                           R"({"Storno":true,"Storno":false})",
+                           R"({"Storno":tru})",
+                           R"({"Storno":truex})",
+                           R"({"Storno":false})",
+                           R"({"KsZeileA":["A","B",""]})",
+                           R"({"KsZeileA":[]})",
+                           R"({"KsZeileA":["A",]})",
+                           R"({"KsZeileA":{"2":"B","-1":"C"}})",
+                           R"({"KsZeileA":{"2":"B","2":"D"}})",
+                           R"({"KsZeileA":{}})",
+                           R"({"UvEntfaellt":{"1":true}})",
+                           R"({"UvEntfaellt":[true,false]})",
+                           R"({"Meldegrund":"1\"0"})",
+                           R"({"Meldegrund":"\u0031\u0030"})",
+                           R"({"Meldegrund":"a/b\/c"})",
+                           "{\"Meldegrund\":\"1\t0\"}",
+                           "{\"Meldegrund\":\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\"}",
+                           "{\"Meldegrund\":\"\xC3\"}",
+                           "{\"Meldegrund\":\"\xED\xA0\x80\"}",
+                           "\xEF\xBB\xBF{\"Meldegrund\":\"10\"}",
+                           R"({"Meldegrund" : "10" , "Laufnummer" : 3 })",
+                           R"({"Meldegrund":"10""Laufnummer":3})",
+                           R"({"Meldegrund":"10",,"Laufnummer":3})",
+                           R"({"Meldegrund""10"})",
+                           R"({Meldegrund:"10"})",
+                           R"({"":"10"})",
+                           R"({"Meldegrund":"12345678901234567890123456789012345678901234567890"})",
+                           R"({"Vorgang":{"Arbeitgeber":{"Betriebsnummer":"1"}},"Empfaenger":{"Betriebsnummer":"2"}})",
+                           R"({"Vorgang":{"Arbeitgeber":{"Betriebsnummer":"1"}})",
+                           R"({"Vorgang":[]})",
+                           R"({"Vorgang":null})"};
     std::vector<std::string> texts;
     for (const char* l : laufnummer) texts.push_back(base + l);
     texts.insert(texts.end(), std::begin(whole), std::end(whole));

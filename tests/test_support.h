@@ -60,9 +60,9 @@ namespace tamrel::testing {
 // A fresh, empty folder of the running test's own ("tamrel-KIND-PID-TEST"):
 // each test of a fixture that writes files works in its own.
 inline std::filesystem::path fresh_folder(const std::string& kind) {
-    const auto dir = std::filesystem::temp_directory_path() /
-                     ("tamrel-" + kind + "-" + std::to_string(::getpid()) + "-" +
-                      ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    const auto dir =
+        std::filesystem::temp_directory_path() / ("tamrel-" + kind + "-" + std::to_string(::getpid()) + "-" +
+                                                  ::testing::UnitTest::GetInstance()->current_test_info()->name());
     std::filesystem::remove_all(dir);
     std::filesystem::create_directories(dir);
     return dir;

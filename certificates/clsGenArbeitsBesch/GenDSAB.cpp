@@ -1,10 +1,10 @@
 // The records DSAB, DSEU and DSNE (common head, then each tail as its
 // layout table) and GenData, which appends the announced blocks in order.
 #include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
-#include "core/flag_reader.h"
-#include "core/writer.h"
 #include "core/date_fields.h"
+#include "core/flag_reader.h"
 #include "core/int16.h"
+#include "core/writer.h"
 
 namespace tamrel {
 namespace {
@@ -72,9 +72,15 @@ std::string clsGenArbeitsBesch::GenData(const ArbeitsBesch& a, DatensatzData& dd
         out.reserve(2048);
         line = 2;
         switch (a.Verfahren) {
-            case 15: GenDSAB(out, a, dd, date); break;
-            case 16: GenDSEU(out, a, dd, date); break;
-            case 17: GenDSNE(out, a, dd, date); break;
+            case 15:
+                GenDSAB(out, a, dd, date);
+                break;
+            case 16:
+                GenDSEU(out, a, dd, date);
+                break;
+            case 17:
+                GenDSNE(out, a, dd, date);
+                break;
             default:
                 raise(kObjectErrorBase, "clsGenArbeitsBesch.GetData",
                       "Verfahren ist f\xC3\xBCr Abeitsbescheinigung nicht zul\xC3\xA4ssig.");

@@ -32,12 +32,12 @@ bool GenDBAG(std::string& out, const ArbeitsBesch& a) {
 bool GenDBAB(std::string& out, const ArbeitsBesch& a) {
     const auto& b = a.DBAB;
     return write_block(out, "clsGenArbeitsBesch.GenDBAB", 51, "DBAB",
-                 [&](Writer& w) { w.an(b.BORTLDKZ, 3).an(b.BPLZ, 10).an(b.BORT, 34); });
+                       [&](Writer& w) { w.an(b.BORTLDKZ, 3).an(b.BPLZ, 10).an(b.BORT, 34); });
 }
 
 bool GenDBSE(std::string& out, const DBSE& i) {
     return write_block(out, "clsGenArbeitsBesch.GenDBSE", 20, "DBSE",
-                 [&](Writer& w) { w.n(i.STKL, 1).pb(i.FKT, 1, 3).pb(i.KINDFRB, 2, 1).n(i.AESTEDATBEG, 8); });
+                       [&](Writer& w) { w.n(i.STKL, 1).pb(i.FKT, 1, 3).pb(i.KINDFRB, 2, 1).n(i.AESTEDATBEG, 8); });
 }
 
 bool GenDBNE(std::string& out, const ArbeitsBesch& a) {
@@ -58,12 +58,12 @@ bool GenDBSA(std::string& out, const ArbeitsBesch& a) {
 
 bool GenDBSB(std::string& out, const DBSB& i) {
     return write_block(out, "clsGenArbeitsBesch.GenDBSB", 19, "DBSB",
-                 [&](Writer& w) { w.n(i.PERSBYGRBEG, 8).n(i.BYGRB, 4).n(i.PERSGRB, 3); });
+                       [&](Writer& w) { w.n(i.PERSBYGRBEG, 8).n(i.BYGRB, 4).n(i.PERSGRB, 3); });
 }
 
 bool GenDBAZ(std::string& out, const DBAZ& i) {
     return write_block(out, "clsGenArbeitsBesch.GenDBAZ", 22, "DBAZ",
-                 [&](Writer& w) { w.pb(i.AZWOECH, 2, 2).pb(i.AZVG, 2, 2).n(i.AZAEGR, 2).n(i.AZAEBEG, 8); });
+                       [&](Writer& w) { w.pb(i.AZWOECH, 2, 2).pb(i.AZVG, 2, 2).n(i.AZAEGR, 2).n(i.AZAEBEG, 8); });
 }
 
 bool GenDBEN(std::string& out, const DBEN& i) {
@@ -88,7 +88,7 @@ bool GenDBEE(std::string& out, const DBEE& i) {
 
 bool GenDBFZ(std::string& out, const DBFZ& i) {
     return write_block(out, "clsGenArbeitsBesch.GenDBFZ", 22, "DBFZ",
-                 [&](Writer& w) { w.n(i.FEHLBEG, 8).n(i.FEHLART, 2).n(i.FEHLEND, 8); });
+                       [&](Writer& w) { w.n(i.FEHLBEG, 8).n(i.FEHLART, 2).n(i.FEHLEND, 8); });
 }
 
 bool GenDBHA(std::string& out, const ArbeitsBesch& a) {
@@ -130,7 +130,7 @@ bool GenDBNB(std::string& out, const ArbeitsBesch& a) {
 
 bool GenDBHN(std::string& out, const ArbeitsBesch& a) {
     return write_block(out, "clsGenArbeitsBesch.GenDBHN", 20, "DBHN",
-                 [&](Writer& w) { w.n(a.DBHN.HEIMARBAUSG, 8).n(a.DBHN.HEIMARBABL, 8); });
+                       [&](Writer& w) { w.n(a.DBHN.HEIMARBAUSG, 8).n(a.DBHN.HEIMARBABL, 8); });
 }
 
 }  // namespace tamrel::bea

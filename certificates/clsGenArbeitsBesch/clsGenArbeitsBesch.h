@@ -12,7 +12,7 @@ class clsGenArbeitsBesch : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGTBA", "ALG", "clsGenEntgelt.GenVOSZ(", "clsGenErst.GenDSKO",
-                                           "clsGenEntgelt.GenNCSZ("};
+                                       "clsGenEntgelt.GenNCSZ("};
 
     explicit clsGenArbeitsBesch(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 

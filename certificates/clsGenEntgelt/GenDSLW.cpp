@@ -63,10 +63,10 @@ void clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzD
 std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Date& datDate) {
     return call(with_args("clsGenEntgelt.GenData(", ObjArg{"objEntgelt"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
-        return record_then_blocks(
-            line, datDate, 2048, [&](std::string& out, const Date& date) { GenDSLW(out, e, dd, date); },
-            [&](std::string& out) { out += blocks_; });
-    });
+                    return record_then_blocks(
+                        line, datDate, 2048, [&](std::string& out, const Date& date) { GenDSLW(out, e, dd, date); },
+                        [&](std::string& out) { out += blocks_; });
+                });
 }
 
 }  // namespace tamrel

@@ -2,11 +2,11 @@
 // (an = text, n = digits and dates, pb = amounts and decimal numbers).
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
 #include "core/contact_block.h"
+#include "core/int16.h"
 #include "core/list_loop.h"
 #include "core/routine.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
-#include "core/int16.h"
 
 namespace tamrel::eel {
 bool GenDBNA(std::string& out, const Entgelt& e) {
@@ -50,15 +50,14 @@ bool GenDBZA(std::string& out, const Entgelt& e) {
 
 bool GenDBEE(std::string& out, const Entgelt& e) {
     const auto& b = e.DBEE;
-    return write_block(out, "clsGenEntgelt.GenDBEE", 30, "DBEE", [&](Writer& w) {
-        w.n(b.EELABAG, 8).n(b.EELABSV, 8).n(b.EELENDE, 8).n(b.EELENDEGRUND, 2);
-    });
+    return write_block(out, "clsGenEntgelt.GenDBEE", 30, "DBEE",
+                       [&](Writer& w) { w.n(b.EELABAG, 8).n(b.EELABSV, 8).n(b.EELENDE, 8).n(b.EELENDEGRUND, 2); });
 }
 
 bool GenDBAW(std::string& out, const Entgelt& e) {
     const auto& b = e.DBAW;
     return write_block(out, "clsGenEntgelt.GenDBAW", 10, "DBAW",
-                 [&](Writer& w) { w.n(b.TAGE1, 2).n(b.TAGE2, 2).n(b.TAGE3, 2); });
+                       [&](Writer& w) { w.n(b.TAGE1, 2).n(b.TAGE2, 2).n(b.TAGE3, 2); });
 }
 
 bool GenDBFR(std::string& out, const Entgelt& e) {
@@ -115,13 +114,13 @@ bool GenDBVO(std::string& out, const Entgelt& e) {
 bool GenDBHE(std::string& out, const Entgelt& e) {
     const auto& b = e.DBHE;
     return write_block(out, "clsGenEntgelt.GenDBHE", 28, "DBHE",
-                 [&](Writer& w) { w.n(b.ZAHLBEGINN, 8).pb(b.EELBRUTTO, 6, 2).pb(b.EELNETTO, 6, 2); });
+                       [&](Writer& w) { w.n(b.ZAHLBEGINN, 8).pb(b.EELBRUTTO, 6, 2).pb(b.EELNETTO, 6, 2); });
 }
 
 bool GenDBBE(std::string& out, const Entgelt& e) {
     const auto& b = e.DBBE;
     return write_block(out, "clsGenEntgelt.GenDBBE", 28, "DBBE",
-                 [&](Writer& w) { w.n(b.ZAHLBEGINN, 8).pb(b.BEITRPFLBRUTTO, 6, 2).pb(b.BEITRPFLNETTO, 6, 2); });
+                       [&](Writer& w) { w.n(b.ZAHLBEGINN, 8).pb(b.BEITRPFLBRUTTO, 6, 2).pb(b.BEITRPFLNETTO, 6, 2); });
 }
 
 bool GenDBLT(std::string& out, const Entgelt& e) {
@@ -157,7 +156,7 @@ bool GenDBAP(std::string& out, const Entgelt& e) {
 
 bool GenDBID(std::string& out, const Entgelt& e) {
     return write_block(out, "clsGenEntgelt.GenDBID", 44, "DBID",
-                 [&](Writer& w) { w.an(e.AZSV, 20).an(e.Vorgang.Aktenzeichen, 20); });
+                       [&](Writer& w) { w.an(e.AZSV, 20).an(e.Vorgang.Aktenzeichen, 20); });
 }
 
 }  // namespace tamrel::eel

@@ -12,7 +12,7 @@ class clsGenEntgelt : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGEEL", "LEIST", "clsGenEntgelt.GenVOSZ(", "clsGenErst.GenDSKO",
-                                           "clsGenEntgelt.GenNCSZ("};
+                                       "clsGenEntgelt.GenNCSZ("};
 
     explicit clsGenEntgelt(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 

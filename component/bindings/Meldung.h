@@ -20,17 +20,17 @@ struct Binding<Meldung> {
         field("SchluesselAlt4", &M::SchluesselAlt4), field("SchluesselAlt5", &M::SchluesselAlt5),
         field("SchluesselNeu1", &M::SchluesselNeu1), field("SchluesselNeu2", &M::SchluesselNeu2),
         field("SchluesselNeu3", &M::SchluesselNeu3), field("KsKennzeichen", &M::KsKennzeichen),
-        field("Statuskennzeichen", &M::Statuskennzeichen), field("Entgelt", &M::Entgelt),
-        field("KvGrund", &M::KvGrund), field("KvBetrag1", &M::KvBetrag1), field("KvBetrag2", &M::KvBetrag2),
-        field("KvBetrag3", &M::KvBetrag3), field("KvBetrag4", &M::KvBetrag4), field("KsMerkmal", &M::KsMerkmal),
-        field("KsAngabe1", &M::KsAngabe1), field("KsAngabe2", &M::KsAngabe2), field("KsAngabe3", &M::KsAngabe3),
-        field("KsAngabe4", &M::KsAngabe4), field("KsSchluessel", &M::KsSchluessel), field("KsDatum", &M::KsDatum),
-        field("KsZeileA", &M::KsZeileA), field("KsZeileB", &M::KsZeileB), field("KsZeileC", &M::KsZeileC),
-        field("KsZeileD", &M::KsZeileD), field("UvAngabe1", &M::UvAngabe1), field("UvAngabe2", &M::UvAngabe2),
-        field("UvAngabe3", &M::UvAngabe3), field("UvAngabe4", &M::UvAngabe4), field("UvAngabe5", &M::UvAngabe5),
-        field("UvAngabe6", &M::UvAngabe6), field("KsLetzter", &M::KsLetzter), field("KsErster", &M::KsErster),
-        field("UvLetzter", &M::UvLetzter), field("UvErster", &M::UvErster), field("UvEntfaellt", &M::UvEntfaellt),
-        field("Vorgang", &M::Vorgang), field("Empfaenger", &M::Empfaenger));
+        field("Statuskennzeichen", &M::Statuskennzeichen), field("Entgelt", &M::Entgelt), field("KvGrund", &M::KvGrund),
+        field("KvBetrag1", &M::KvBetrag1), field("KvBetrag2", &M::KvBetrag2), field("KvBetrag3", &M::KvBetrag3),
+        field("KvBetrag4", &M::KvBetrag4), field("KsMerkmal", &M::KsMerkmal), field("KsAngabe1", &M::KsAngabe1),
+        field("KsAngabe2", &M::KsAngabe2), field("KsAngabe3", &M::KsAngabe3), field("KsAngabe4", &M::KsAngabe4),
+        field("KsSchluessel", &M::KsSchluessel), field("KsDatum", &M::KsDatum), field("KsZeileA", &M::KsZeileA),
+        field("KsZeileB", &M::KsZeileB), field("KsZeileC", &M::KsZeileC), field("KsZeileD", &M::KsZeileD),
+        field("UvAngabe1", &M::UvAngabe1), field("UvAngabe2", &M::UvAngabe2), field("UvAngabe3", &M::UvAngabe3),
+        field("UvAngabe4", &M::UvAngabe4), field("UvAngabe5", &M::UvAngabe5), field("UvAngabe6", &M::UvAngabe6),
+        field("KsLetzter", &M::KsLetzter), field("KsErster", &M::KsErster), field("UvLetzter", &M::UvLetzter),
+        field("UvErster", &M::UvErster), field("UvEntfaellt", &M::UvEntfaellt), field("Vorgang", &M::Vorgang),
+        field("Empfaenger", &M::Empfaenger));
 
     // An absent bound follows the indices given in its lists.
     template <class V>
@@ -38,13 +38,17 @@ struct Binding<Meldung> {
         auto lower = [](auto... lists) {
             std::int16_t v = 1;
             bool any = false;
-            ((lists->empty() ? void() : (v = any ? std::min(v, lists->smallest()) : lists->smallest(), any = true, void())), ...);
+            ((lists->empty() ? void()
+                             : (v = any ? std::min(v, lists->smallest()) : lists->smallest(), any = true, void())),
+             ...);
             return v;
         };
         auto upper = [](auto... lists) {
             std::int16_t v = 0;
             bool any = false;
-            ((lists->empty() ? void() : (v = any ? std::max(v, lists->largest()) : lists->largest(), any = true, void())), ...);
+            ((lists->empty() ? void()
+                             : (v = any ? std::max(v, lists->largest()) : lists->largest(), any = true, void())),
+             ...);
             return v;
         };
         if (!j.has("KsErster")) m.KsErster = lower(&m.KsZeileA, &m.KsZeileB, &m.KsZeileC, &m.KsZeileD);

@@ -25,42 +25,42 @@ struct Binding<Betrieb> {
 
 template <>
 struct Binding<AbfrVers> {
-    static constexpr auto fields = std::make_tuple(field("Kennzahl", &AbfrVers::Kennzahl),
-                                                   field("Datum", &AbfrVers::Datum), field("Vorgang", &AbfrVers::Vorgang));
+    static constexpr auto fields = std::make_tuple(
+        field("Kennzahl", &AbfrVers::Kennzahl), field("Datum", &AbfrVers::Datum), field("Vorgang", &AbfrVers::Vorgang));
 };
 
 template <>
 struct Binding<AbfrStammdatenUV> {
     using A = AbfrStammdatenUV;
-    static constexpr auto fields = std::make_tuple(
-        field("DatensatzNr", &A::DatensatzNr), field("Kennz248", &A::Kennz248), field("Feld216", &A::Feld216),
-        field("Feld444", &A::Feld444), field("ApAnrede", &A::ApAnrede), field("ApName", &A::ApName),
-        field("ApTel", &A::ApTel), field("ApFax", &A::ApFax), field("ApEmail", &A::ApEmail),
-        field("Feld382", &A::Feld382), field("Feld397", &A::Feld397), field("Feld417", &A::Feld417),
-        field("Feld422", &A::Feld422), field("Feld425", &A::Feld425), field("ErstellDatum", &A::ErstellDatum),
-        field("Arbeitgeber", &A::Arbeitgeber));
+    static constexpr auto fields =
+        std::make_tuple(field("DatensatzNr", &A::DatensatzNr), field("Kennz248", &A::Kennz248),
+                        field("Feld216", &A::Feld216), field("Feld444", &A::Feld444), field("ApAnrede", &A::ApAnrede),
+                        field("ApName", &A::ApName), field("ApTel", &A::ApTel), field("ApFax", &A::ApFax),
+                        field("ApEmail", &A::ApEmail), field("Feld382", &A::Feld382), field("Feld397", &A::Feld397),
+                        field("Feld417", &A::Feld417), field("Feld422", &A::Feld422), field("Feld425", &A::Feld425),
+                        field("ErstellDatum", &A::ErstellDatum), field("Arbeitgeber", &A::Arbeitgeber));
 };
 
 template <>
 struct Binding<LnPosition> {
     using P = LnPosition;
-    static constexpr auto fields =
-        std::make_tuple(field("PosFeld1", &P::PosFeld1), field("PosFeld2", &P::PosFeld2),
-                        field("PosFeld3", &P::PosFeld3), field("PosFeld4", &P::PosFeld4), field("PosFeld5", &P::PosFeld5));
+    static constexpr auto fields = std::make_tuple(field("PosFeld1", &P::PosFeld1), field("PosFeld2", &P::PosFeld2),
+                                                   field("PosFeld3", &P::PosFeld3), field("PosFeld4", &P::PosFeld4),
+                                                   field("PosFeld5", &P::PosFeld5));
 };
 
 template <>
 struct Binding<Lohnnachweis> {
     using L = Lohnnachweis;
-    static constexpr auto fields = std::make_tuple(
-        field("DatensatzNr", &L::DatensatzNr), field("Kennz268", &L::Kennz268), field("Feld464", &L::Feld464),
-        field("ApAnrede", &L::ApAnrede), field("ApName", &L::ApName), field("ApTel", &L::ApTel),
-        field("ApFax", &L::ApFax), field("ApEmail", &L::ApEmail), field("Feld402", &L::Feld402),
-        field("Feld417", &L::Feld417), field("Feld236", &L::Feld236), field("Feld437", &L::Feld437),
-        field("Feld442", &L::Feld442), field("Feld445", &L::Feld445), field("Feld480", &L::Feld480),
-        field("Feld484", &L::Feld484), field("Feld487", &L::Feld487), field("ErstellDatum", &L::ErstellDatum),
-        field("Position", &L::Positionen), field("AnzahlPositionen", &L::AnzahlPositionen),
-        field("Arbeitgeber", &L::Arbeitgeber));
+    static constexpr auto fields =
+        std::make_tuple(field("DatensatzNr", &L::DatensatzNr), field("Kennz268", &L::Kennz268),
+                        field("Feld464", &L::Feld464), field("ApAnrede", &L::ApAnrede), field("ApName", &L::ApName),
+                        field("ApTel", &L::ApTel), field("ApFax", &L::ApFax), field("ApEmail", &L::ApEmail),
+                        field("Feld402", &L::Feld402), field("Feld417", &L::Feld417), field("Feld236", &L::Feld236),
+                        field("Feld437", &L::Feld437), field("Feld442", &L::Feld442), field("Feld445", &L::Feld445),
+                        field("Feld480", &L::Feld480), field("Feld484", &L::Feld484), field("Feld487", &L::Feld487),
+                        field("ErstellDatum", &L::ErstellDatum), field("Position", &L::Positionen),
+                        field("AnzahlPositionen", &L::AnzahlPositionen), field("Arbeitgeber", &L::Arbeitgeber));
 
     // An absent count is the number of positions given.
     template <class V>

@@ -1,7 +1,7 @@
 // The employment and earnings certificates.
+#include "component/bindings/certificates.h"
 #include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
-#include "component/bindings/certificates.h"
 #include "component/describe.h"
 #include "component/procedures/families.h"
 
@@ -10,8 +10,8 @@ namespace tamrel::families {
 std::span<const ProcedureDescriptor> certificates() {
     using E = clsProtoEntry;
     static constexpr ProcedureDescriptor list[] = {
-        describe<clsGenArbeitsBesch, ArbeitsBesch, FrameForm::Common, DataForm::Common,
-                 &E::CreateProtoArbeitsBesch>("clsGenArbeitsBesch", "objArbeitsBesch", "CreateProtoArbeitsBesch"),
+        describe<clsGenArbeitsBesch, ArbeitsBesch, FrameForm::Common, DataForm::Common, &E::CreateProtoArbeitsBesch>(
+            "clsGenArbeitsBesch", "objArbeitsBesch", "CreateProtoArbeitsBesch"),
         describe<clsGenEntgelt, Entgelt, FrameForm::Common, DataForm::Common, &E::CreateProtoEntgelt>(
             "clsGenEntgelt", "objEntgelt", "CreateProtoEntgelt"),
     };

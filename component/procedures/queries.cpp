@@ -20,8 +20,8 @@ std::span<const ProcedureDescriptor> queries() {
         describe<clsGenAbfrStammdatenUV, AbfrStammdatenUV, FrameForm::Common, DataForm::Common,
                  &E::CreateProtoAbfrStammdatenUV>("clsGenAbfrStammdatenUV", "objAbfrStammdatenUV",
                                                   "CreateProtoAbfrStammdatenUV"),
-        describe<clsGenLohnnachweis, Lohnnachweis, FrameForm::Common, DataForm::Common,
-                 &E::CreateProtoLohnnachweis>("clsGenLohnnachweis", "objLohnnachweis", "CreateProtoLohnnachweis"),
+        describe<clsGenLohnnachweis, Lohnnachweis, FrameForm::Common, DataForm::Common, &E::CreateProtoLohnnachweis>(
+            "clsGenLohnnachweis", "objLohnnachweis", "CreateProtoLohnnachweis"),
     };
     return list;
 }

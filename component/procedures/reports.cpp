@@ -23,10 +23,10 @@ std::span<const ProcedureDescriptor> reports() {
             "clsGenBeitrErh", "objBeitrErh", "CreateProtoBeitrErh"),
         describe<clsGenMeldung, Meldung, FrameForm::Meldung, DataForm::WithVerfahren, &E::CreateProtoMeld>(
             "clsGenMeldung", "objMeldung", "CreateProtoMeld"),
-        describe<clsGenErst, Erst, FrameForm::Common, DataForm::Common, &E::CreateProtoErst>(
-            "clsGenErst", "objErst", "CreateProtoErst"),
-        describe<clsGenZahl, Zahl, FrameForm::Common, DataForm::Common, &E::CreateProtoZahl>(
-            "clsGenZahl", "objZahl", "CreateProtoZahl"),
+        describe<clsGenErst, Erst, FrameForm::Common, DataForm::Common, &E::CreateProtoErst>("clsGenErst", "objErst",
+                                                                                             "CreateProtoErst"),
+        describe<clsGenZahl, Zahl, FrameForm::Common, DataForm::Common, &E::CreateProtoZahl>("clsGenZahl", "objZahl",
+                                                                                             "CreateProtoZahl"),
     };
     return list;
 }

@@ -6,15 +6,15 @@
 namespace tamrel {
 
 std::string clsGenAbfrStammdatenUV::GenData(const AbfrStammdatenUV& a, DatensatzData& dd, const Date& datDate) {
-    return call(with_args("clsGenAbfrStammdatenUV.GenData(", ObjArg{"objAbfrStammdatenUV"},
-                          ObjArg{"udtDatensatzData"}, datDate),
+    return call(with_args("clsGenAbfrStammdatenUV.GenData(", ObjArg{"objAbfrStammdatenUV"}, ObjArg{"udtDatensatzData"},
+                          datDate),
                 [&](int& line) {
-        return record_then_blocks(
-            line, datDate, 784, [&](std::string& out, const Date& date) { GenDSAS(out, a, dd, date); },
-            [&](std::string& out) {
-                if (FlagReader(out).j(459)) out += dbap_;
-            });
-    });
+                    return record_then_blocks(
+                        line, datDate, 784, [&](std::string& out, const Date& date) { GenDSAS(out, a, dd, date); },
+                        [&](std::string& out) {
+                            if (FlagReader(out).j(459)) out += dbap_;
+                        });
+                });
 }
 
 void clsGenAbfrStammdatenUV::GenDSAS(std::string& out, const AbfrStammdatenUV& a, const DatensatzData& dd,

@@ -12,10 +12,9 @@ class clsGenAbfrStammdatenUV : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"UNUVS", "UVSDD", "clsGenAbfrStammdatenUV.GenVOSZ(",
-                                           "clsGenAbfrStammdatenUV.GenDSKO(", "clsGenAbfrStammdatenUV.GenNCSZ("};
+                                       "clsGenAbfrStammdatenUV.GenDSKO(", "clsGenAbfrStammdatenUV.GenNCSZ("};
 
-    explicit clsGenAbfrStammdatenUV(Host host = default_host())
-        : FrameGenerator(kFrames, std::move(host)) {}
+    explicit clsGenAbfrStammdatenUV(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const AbfrStammdatenUV& objAbfrStammdatenUV, DatensatzData& udtDatensatzData,
                         const Date& datDate = {});

@@ -8,15 +8,15 @@ namespace tamrel {
 std::string clsGenAbfrVers::GenData(const AbfrVers& a, DatensatzData& dd, const Date& datDate) const {
     return call(with_args("clsGenAbfrVers.GenData(", ObjArg{"objAbfrVers"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
-        return record_then_blocks(
-            line, datDate, 575, [&](std::string& out, const Date& date) { GenDSVV(out, a, dd, date); },
-            [&](std::string& out) {
-                mlGen::AppendDBNA(out, a.Vorgang, false);
-                mlGen::AppendDBGB(out, a.Vorgang);
-                bool filled = false;  // the three blocks are always sent
-                mlGen::AppendDBAN(out, a.Vorgang, filled);
-            });
-    });
+                    return record_then_blocks(
+                        line, datDate, 575, [&](std::string& out, const Date& date) { GenDSVV(out, a, dd, date); },
+                        [&](std::string& out) {
+                            mlGen::AppendDBNA(out, a.Vorgang, false);
+                            mlGen::AppendDBGB(out, a.Vorgang);
+                            bool filled = false;  // the three blocks are always sent
+                            mlGen::AppendDBAN(out, a.Vorgang, filled);
+                        });
+                });
 }
 
 void clsGenAbfrVers::GenDSVV(std::string& out, const AbfrVers& a, const DatensatzData& dd, const Date& date) {

@@ -11,7 +11,7 @@ class clsGenAbfrVers : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGTRV", "DEUEV", "clsGenAbfrVers.GenVOSZ(", "clsGenAbfrVers.GenDSKO(",
-                                           "clsGenEntgelt.GenNCSZ("};
+                                       "clsGenEntgelt.GenNCSZ("};
 
     explicit clsGenAbfrVers(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 

@@ -1,21 +1,20 @@
 // The DSBD record and its second-address block DBKA, each as its layout table.
+#include "core/establishment_number.h"
 #include "core/flag_reader.h"
 #include "core/writer.h"
 #include "queries/clsGenBetrieb/clsGenBetrieb.h"
-#include "core/establishment_number.h"
 
 namespace tamrel {
 
 std::string clsGenBetrieb::GenData(const Betrieb& b, DatensatzData& dd, const Date& datDate) {
-    return call(
-        with_args("clsGenBetrieb.GenData(", ObjArg{"objBetrieb"}, ObjArg{"udtDatensatzData"}, datDate),
-        [&](int& line) {
-            return record_then_blocks(
-                line, datDate, 749, [&](std::string& out, const Date& date) { GenDSBD(out, b, dd, date); },
-                [&](std::string& out) {
-                    if (FlagReader(out).j(535)) out += dbka_;
+    return call(with_args("clsGenBetrieb.GenData(", ObjArg{"objBetrieb"}, ObjArg{"udtDatensatzData"}, datDate),
+                [&](int& line) {
+                    return record_then_blocks(
+                        line, datDate, 749, [&](std::string& out, const Date& date) { GenDSBD(out, b, dd, date); },
+                        [&](std::string& out) {
+                            if (FlagReader(out).j(535)) out += dbka_;
+                        });
                 });
-        });
 }
 
 void clsGenBetrieb::GenDSBD(std::string& out, const Betrieb& b, const DatensatzData& dd, const Date& date) {

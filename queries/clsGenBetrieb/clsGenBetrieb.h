@@ -12,7 +12,7 @@ class clsGenBetrieb : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGDEU", "DEUEV", "clsGenBetrieb.GenVOSZ(", "clsGenBetrieb.GenDSKO(",
-                                           "clsGenBetrieb.GenNCSZ("};
+                                       "clsGenBetrieb.GenNCSZ("};
 
     explicit clsGenBetrieb(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 

@@ -1,25 +1,25 @@
 // The DSLN record: the fixed part as its layout table, then one 59-character
 // group per position.
 #include "core/flag_reader.h"
+#include "core/int16.h"
 #include "core/list_loop.h"
 #include "core/writer.h"
 #include "queries/clsGenLohnnachweis/clsGenLohnnachweis.h"
-#include "core/int16.h"
 
 namespace tamrel {
 
 std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd, const Date& datDate) {
     const std::size_t positions = l.AnzahlPositionen > 0 ? static_cast<std::size_t>(l.AnzahlPositionen) : 0;
-    return call(with_args("clsGenLohnnachweis.GenData(", ObjArg{"objLohnnachweis"},
-                          ObjArg{"udtDatensatzData"}, datDate),
-                [&](int& line) {
-        return record_then_blocks(
-            line, datDate, 494 + 321 + 59 * positions,
-            [&](std::string& out, const Date& date) { GenDSLN(out, l, dd, date); },
-            [&](std::string& out) {
-                if (FlagReader(out).j(479)) out += dbap_;
-            });
-    });
+    return call(
+        with_args("clsGenLohnnachweis.GenData(", ObjArg{"objLohnnachweis"}, ObjArg{"udtDatensatzData"}, datDate),
+        [&](int& line) {
+            return record_then_blocks(
+                line, datDate, 494 + 321 + 59 * positions,
+                [&](std::string& out, const Date& date) { GenDSLN(out, l, dd, date); },
+                [&](std::string& out) {
+                    if (FlagReader(out).j(479)) out += dbap_;
+                });
+        });
 }
 
 void clsGenLohnnachweis::GenDSLN(std::string& out, const Lohnnachweis& l, const DatensatzData& dd, const Date& date) {

@@ -27,7 +27,7 @@ struct Lohnnachweis : ContactPerson {
     // the list reads as an empty position.
     LnPosition Position(std::int16_t index) const {
         return index >= 1 && static_cast<std::size_t>(index) <= Positionen.size() ? Positionen[index - 1]
-                                                                                 : LnPosition{};
+                                                                                  : LnPosition{};
     }
 };
 

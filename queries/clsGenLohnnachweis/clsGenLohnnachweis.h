@@ -11,8 +11,8 @@ namespace tamrel {
 class clsGenLohnnachweis : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
-    static constexpr FrameSpec kFrames{"UNUVL", "UVELN", "clsGenLohnnachweis.GenVOSZ(",
-                                           "clsGenLohnnachweis.GenDSKO(", "clsGenLohnnachweis.GenNCSZ("};
+    static constexpr FrameSpec kFrames{"UNUVL", "UVELN", "clsGenLohnnachweis.GenVOSZ(", "clsGenLohnnachweis.GenDSKO(",
+                                       "clsGenLohnnachweis.GenNCSZ("};
 
     explicit clsGenLohnnachweis(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 

@@ -1,10 +1,10 @@
 // The DSBE record and its blocks DBMI and DBHB, each as its layout table.
+#include "core/date_fields.h"
+#include "core/establishment_number.h"
 #include "core/flag_reader.h"
 #include "core/writer.h"
 #include "reports/clsGenBeitrErh/BeitrErh.h"
 #include "reports/clsGenBeitrErh/clsGenBeitrErh.h"
-#include "core/establishment_number.h"
-#include "core/date_fields.h"
 
 namespace tamrel {
 namespace {
@@ -20,7 +20,13 @@ void GENDSBE(std::string& out, const BeitrErh& b, const DatensatzData& dd, const
         const Vorgang& v = b.Vorgang;
         const Arbeitgeber& ag = v.Arbeitgeber;
         Writer w(out, line);
-        w.lit("DSBE").lit("02").lit("01").lit("00").lit("BVBEI").an(dd.strBNRAb, 15).an(b.Empfaenger.Betriebsnummer, 15);
+        w.lit("DSBE")
+            .lit("02")
+            .lit("01")
+            .lit("00")
+            .lit("BVBEI")
+            .an(dd.strBNRAb, 15)
+            .an(b.Empfaenger.Betriebsnummer, 15);
         w.stamp(b.Zeitpunkt, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0").lit("N");
         w.an(dd.strProdID, 7).an(dd.strModID, 8).an(dd.strVersion, 10).n(b.Laufnummer, 10).blank(12).zeros(20);
         w.an(ag.Name1, 30).an(ag.Name2, 30).an(ag.Name3, 30).an(ag.Strasse, 33).an(ag.Hausnummer, 9).n(ag.PLZ, 5);
@@ -58,18 +64,18 @@ void GenDBHB(std::string& out, const BeitrErh& b) {
 std::string clsGenBeitrErh::GenData(const BeitrErh& b, DatensatzData& dd, const Date& datDate) const {
     return call(with_args("clsGenBeitrErh.GenData(", ObjArg{"objBeitrErh"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
-            std::string out;
-            out.reserve(613);
-            line = 1;
-            GENDSBE(out, b, dd, mlGen::GetDate(datDate));
-            FlagReader flags(out);
-            const bool dbmi = flags.j(444), dbhb = flags.j(445);
-            line = 2;
-            if (dbmi) GenDBMI(out, b);
-            line = 3;
-            if (dbhb) GenDBHB(out, b);
-            return out;
-    });
+                    std::string out;
+                    out.reserve(613);
+                    line = 1;
+                    GENDSBE(out, b, dd, mlGen::GetDate(datDate));
+                    FlagReader flags(out);
+                    const bool dbmi = flags.j(444), dbhb = flags.j(445);
+                    line = 2;
+                    if (dbmi) GenDBMI(out, b);
+                    line = 3;
+                    if (dbhb) GenDBHB(out, b);
+                    return out;
+                });
 }
 
 }  // namespace tamrel

@@ -7,19 +7,18 @@ namespace {
 std::string_view frame_code(std::int32_t enmVerfahren) { return enmVerfahren == bnBNV ? "BWBNV" : "BWNAC"; }
 }  // namespace
 
-std::string clsGenBeitrNachw::GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm,
-                                      std::string_view strFileNr, std::int32_t enmVerfahren,
-                                      std::string_view strFirma, std::string& strDatum, const Date& datDate) const {
-    return call(
-        with_args("clsGenBeitrNachw.GenVOSZ(", strBNRAb, strBNREm, strFileNr, enmVerfahren, strFirma, strDatum,
-                  datDate),
-        [&](int& line) {
-            line = 1;
-            if (enmVerfahren == bnEmpfBkn) IsEmpfBkn(strBNREm);  // consulted; the code depends on 4 alone
-            line = 2;
-            return mlGen::GenVOSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strFirma, strDatum, datDate,
-                                  "01");
-        });
+std::string clsGenBeitrNachw::GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                                      std::int32_t enmVerfahren, std::string_view strFirma, std::string& strDatum,
+                                      const Date& datDate) const {
+    return call(with_args("clsGenBeitrNachw.GenVOSZ(", strBNRAb, strBNREm, strFileNr, enmVerfahren, strFirma, strDatum,
+                          datDate),
+                [&](int& line) {
+                    line = 1;
+                    if (enmVerfahren == bnEmpfBkn) IsEmpfBkn(strBNREm);  // consulted; the code depends on 4 alone
+                    line = 2;
+                    return mlGen::GenVOSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strFirma, strDatum,
+                                          datDate, "01");
+                });
 }
 
 std::string clsGenBeitrNachw::GenDSKO(DSKOData& udtDSKOData, std::int32_t enmVerfahren, const Date& datDate) const {
@@ -29,15 +28,14 @@ std::string clsGenBeitrNachw::GenDSKO(DSKOData& udtDSKOData, std::int32_t enmVer
     });
 }
 
-std::string clsGenBeitrNachw::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm,
-                                      std::string_view strFileNr, std::string_view strCount,
-                                      std::int32_t enmVerfahren, const Date& datDate) const {
-    return call(
-        with_args("clsGenBeitrNachw.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren, datDate),
-        [&](int& line) {
-            line = 1;
-            return mlGen::GenNCSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strCount, datDate, "01");
-        });
+std::string clsGenBeitrNachw::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
+                                      std::string_view strCount, std::int32_t enmVerfahren, const Date& datDate) const {
+    return call(with_args("clsGenBeitrNachw.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren, datDate),
+                [&](int& line) {
+                    line = 1;
+                    return mlGen::GenNCSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strCount, datDate,
+                                          "01");
+                });
 }
 
 bool clsGenBeitrNachw::IsEmpfBkn(std::string_view strBNR) const {

@@ -1,10 +1,10 @@
 // The DSER record, left to right as its layout table.
+#include "core/date_fields.h"
+#include "core/establishment_number.h"
 #include "core/flag_reader.h"
 #include "core/version_number.h"
 #include "core/writer.h"
 #include "reports/clsGenErst/clsGenErst.h"
-#include "core/establishment_number.h"
-#include "core/date_fields.h"
 
 namespace tamrel {
 namespace {

@@ -104,8 +104,8 @@ void clsGenErst::GenDBNA(std::string& out, const Erst& e) {
 
 void clsGenErst::GenDBAA(std::string& out, const Erst& e) {
     bool hasData = false;
-    AppendContactBlock(out, "DBAA", {e.AnGeschl, e.AnName, e.AnTel, e.AnFax, e.AnEMail}, e.Vorgang.Arbeitgeber,
-                       hasData, "clsGenErst.GenDBAA");
+    AppendContactBlock(out, "DBAA", {e.AnGeschl, e.AnName, e.AnTel, e.AnFax, e.AnEMail}, e.Vorgang.Arbeitgeber, hasData,
+                       "clsGenErst.GenDBAA");
 }
 
 }  // namespace tamrel

@@ -11,7 +11,8 @@ namespace tamrel {
 class clsGenErst : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
-    static constexpr FrameSpec kFrames{"AGAAG", "AAGER", "clsGenErst.GenVOSZ(", "clsGenErst.GenDSKO(", "clsGenErst.GenNCSZ("};
+    static constexpr FrameSpec kFrames{"AGAAG", "AAGER", "clsGenErst.GenVOSZ(", "clsGenErst.GenDSKO(",
+                                       "clsGenErst.GenNCSZ("};
 
     explicit clsGenErst(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 

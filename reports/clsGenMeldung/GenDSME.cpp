@@ -1,9 +1,9 @@
 // The DSME record, left to right as its layout table.
+#include "core/date_fields.h"
+#include "core/establishment_number.h"
 #include "core/host.h"
 #include "core/writer.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
-#include "core/establishment_number.h"
-#include "core/date_fields.h"
 
 namespace tamrel {
 namespace {
@@ -87,7 +87,12 @@ void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzD
             w.an(m.Vorgang.Laenderschluessel, 3);
             w.an(flag_text(*this, m, enmVerfahren, dbuv_), 10);
             w.blank(1).lit("5").blank(1).flag(enmVerfahren == vmSofort).an(m.Zusatzmerkmal, 1).blank(3);
-            w.flag(std::string_view(m.Meldegrund) == "58").blank(1).zeros(20).lit("01").an(dd.strProdID, 7).an(dd.strModID, 8);
+            w.flag(std::string_view(m.Meldegrund) == "58")
+                .blank(1)
+                .zeros(20)
+                .lit("01")
+                .an(dd.strProdID, 7)
+                .an(dd.strModID, 8);
             reference(w, dd, m.Laufnummer, 32);
             w.blank(100).lit("N").blank(199);
             w.check(559, "DSME");

@@ -1,11 +1,11 @@
 // The DEUEV report's own blocks DBME, DBEU, DBUV, DBKS, DBSO and DBKV.
-#include "core/joined.h"
-#include "core/list_loop.h"
-#include "core/writer.h"
-#include "reports/clsGenMeldung/clsGenMeldung.h"
-#include "core/text_fields.h"
 #include "core/decimal.h"
 #include "core/int16.h"
+#include "core/joined.h"
+#include "core/list_loop.h"
+#include "core/text_fields.h"
+#include "core/writer.h"
+#include "reports/clsGenMeldung/clsGenMeldung.h"
 
 namespace tamrel {
 
@@ -20,7 +20,8 @@ void clsGenMeldung::GenDBME(std::string& out, const Meldung& m) {
         if (!m.SchluesselNeu1.empty())
             w.an(Joined{m.SchluesselNeu1, m.SchluesselNeu3, m.SchluesselNeu2}, 9);
         else
-            w.an(m.SchluesselAlt1, 5).an(Joined{m.SchluesselAlt2, m.SchluesselAlt3, m.SchluesselAlt4, m.SchluesselAlt5}, 4);
+            w.an(m.SchluesselAlt1, 5)
+                .an(Joined{m.SchluesselAlt2, m.SchluesselAlt3, m.SchluesselAlt4, m.SchluesselAlt5}, 4);
         w.an(m.Vorgang.Arbeitgeber.Kennzeichen, 1).flag(m.Sonderkennzeichen).zeros(1).blank(100);
         w.check(147, "DBME");
     });

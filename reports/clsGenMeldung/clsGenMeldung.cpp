@@ -10,10 +10,14 @@ namespace {
 
 std::string_view frame_code(std::int32_t enmVerfahren) {
     switch (enmVerfahren) {
-        case vmNormal: return "AGDEU";
-        case vmSofort: return "AGTRV";
-        case vmBV: return "AGBVD";
-        default: return "";
+        case vmNormal:
+            return "AGDEU";
+        case vmSofort:
+            return "AGTRV";
+        case vmBV:
+            return "AGBVD";
+        default:
+            return "";
     }
 }
 
@@ -26,8 +30,8 @@ std::string clsGenMeldung::GenVOSZ(std::string_view strBNRAb, std::string_view s
         with_args("clsGenMeldung.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren, strDatum, datDate),
         [&](int& line) {
             line = 1;
-            return mlGen::GenVOSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strFirma, strDatum,
-                                  datDate, "01");
+            return mlGen::GenVOSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strFirma, strDatum, datDate,
+                                  "01");
         });
 }
 
@@ -40,12 +44,12 @@ std::string clsGenMeldung::GenDSKO(DSKOData& udtDSKOData, const Date& datDate) c
 
 std::string clsGenMeldung::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                    std::string_view strCount, std::int32_t enmVerfahren, const Date& datDate) const {
-    return call(
-        with_args("clsGenMeldung.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren, datDate),
-        [&](int& line) {
-            line = 1;
-            return mlGen::GenNCSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strCount, datDate, "01");
-        });
+    return call(with_args("clsGenMeldung.GenNCSZ(", strBNRAb, strBNREm, strFileNr, strCount, enmVerfahren, datDate),
+                [&](int& line) {
+                    line = 1;
+                    return mlGen::GenNCSZ(frame_code(enmVerfahren), strBNRAb, strBNREm, strFileNr, strCount, datDate,
+                                          "01");
+                });
 }
 
 std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int32_t enmVerfahren,

@@ -1,10 +1,10 @@
 // The DSVZ record and its blocks DBZK, DBNA, DBGA and DBAN.
+#include "core/date_fields.h"
 #include "core/flag_reader.h"
 #include "core/host.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
 #include "reports/clsGenZahl/clsGenZahl.h"
-#include "core/date_fields.h"
 
 namespace tamrel {
 
@@ -29,27 +29,26 @@ std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& da
 }
 
 void clsGenZahl::GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date) {
-    routine(with_args("clsGenZahl.GenDSVZ(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, date),
-            [&](int& line) {
-                const Vorgang& v = z.Vorgang;
-                Writer w(out, line);
-                w.lit("DSVZ").lit("ZAHLS").an(dd.strBNRAb, 15).an(z.Empfaenger.Betriebsnummer, 15).lit("02");
-                w.stamp(z.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0").an(v.Kennung14, 14);
-                w.an(v.Arbeitgeber.Betriebsnummer, 15).an(v.Aktenzeichen, 20).an(z.Empfaenger.Betriebsnummer, 15);
-                w.an(dd.strVersion, 10).n(z.ZahlId, 10).an(dd.strBNRSt, 15).blank(3).lit("01").an(dd.strProdID, 7);
-                w.an(dd.strModID, 8).an(dd.strVersion, 10).n(z.ZahlId, 10).blank(12).blank(3).lit("J").lit("J");
-                bool dbga = false, dban = false;
-                dbga_ = GenDBGA(z, dbga);
-                w.flag(dbga).lit("N");
-                dban_ = GenDBAN(z, dban);
-                w.flag(dban).lit("N");
-                if (z.Pseudonym)
-                    w.zeros(12);
-                else
-                    w.an(v.Versicherungsnummer, 12);
-                w.blank(2);
-                w.check(237, "DSVZ");
-            });
+    routine(with_args("clsGenZahl.GenDSVZ(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, date), [&](int& line) {
+        const Vorgang& v = z.Vorgang;
+        Writer w(out, line);
+        w.lit("DSVZ").lit("ZAHLS").an(dd.strBNRAb, 15).an(z.Empfaenger.Betriebsnummer, 15).lit("02");
+        w.stamp(z.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0").an(v.Kennung14, 14);
+        w.an(v.Arbeitgeber.Betriebsnummer, 15).an(v.Aktenzeichen, 20).an(z.Empfaenger.Betriebsnummer, 15);
+        w.an(dd.strVersion, 10).n(z.ZahlId, 10).an(dd.strBNRSt, 15).blank(3).lit("01").an(dd.strProdID, 7);
+        w.an(dd.strModID, 8).an(dd.strVersion, 10).n(z.ZahlId, 10).blank(12).blank(3).lit("J").lit("J");
+        bool dbga = false, dban = false;
+        dbga_ = GenDBGA(z, dbga);
+        w.flag(dbga).lit("N");
+        dban_ = GenDBAN(z, dban);
+        w.flag(dban).lit("N");
+        if (z.Pseudonym)
+            w.zeros(12);
+        else
+            w.an(v.Versicherungsnummer, 12);
+        w.blank(2);
+        w.check(237, "DSVZ");
+    });
 }
 
 void clsGenZahl::GenDBZK(std::string& out, const Zahl& z) {

@@ -11,7 +11,8 @@ namespace tamrel {
 class clsGenZahl : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
-    static constexpr FrameSpec kFrames{"AGDAZ", "ZAHLS", "clsGenZahl.GenVOSZ(", "clsGenZahl.GenDSKO(", "clsGenZahl.GenNCSZ("};
+    static constexpr FrameSpec kFrames{"AGDAZ", "ZAHLS", "clsGenZahl.GenVOSZ(", "clsGenZahl.GenDSKO(",
+                                       "clsGenZahl.GenNCSZ("};
 
     explicit clsGenZahl(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 

@@ -6,16 +6,16 @@
 #include <memory>
 #include <string>
 
-#include "core/error.h"
-#include "core/host.h"
-#include "core/text_fields.h"
 #include "core/amounts.h"
 #include "core/check_length.h"
-#include "core/establishment_number.h"
 #include "core/date_fields.h"
-#include "tests/encoder_forms.h"
+#include "core/error.h"
+#include "core/establishment_number.h"
+#include "core/host.h"
 #include "core/text.h"
+#include "core/text_fields.h"
 #include "core/xml_encoders.h"
+#include "tests/encoder_forms.h"
 #include "tests/fuzz/fuzz_invariants.h"
 
 namespace {
@@ -42,18 +42,15 @@ Outcome attempt(F&& f) {
     return o;
 }
 
-bool all_digits(std::string_view s) {
-    return s.find_first_not_of("0123456789") == std::string_view::npos;
-}
+bool all_digits(std::string_view s) { return s.find_first_not_of("0123456789") == std::string_view::npos; }
 
 void fixed_width(FuzzedDataProvider& in) {
     const bool numeric = in.ConsumeBool();
     const int width = in.ConsumeIntegralInRange<int>(-2, 600);
     const std::string value = in.ConsumeRandomLengthString(2000);
     bool filled = false, filled_put = false;
-    const Outcome o = attempt([&] {
-        return numeric ? mlGen::StrToN(value, width, filled) : mlGen::StrToAn(value, width, filled);
-    });
+    const Outcome o =
+        attempt([&] { return numeric ? mlGen::StrToN(value, width, filled) : mlGen::StrToAn(value, width, filled); });
     const std::size_t w = width < 0 ? 0 : static_cast<std::size_t>(width);
     // The fast path (behind the returning form) against the general walk.
     bool filled_general = false;
@@ -65,7 +62,8 @@ void fixed_width(FuzzedDataProvider& in) {
     });
     const Outcome put = attempt([&] {
         auto buf = std::make_unique<char[]>(4 * w + mlGen::kPutSlack);
-        char* end = numeric ? mlGen::PutN(buf.get(), value, w, filled_put) : mlGen::PutAn(buf.get(), value, w, filled_put);
+        char* end =
+            numeric ? mlGen::PutN(buf.get(), value, w, filled_put) : mlGen::PutAn(buf.get(), value, w, filled_put);
         return std::string(buf.get(), end);
     });
     FUZZ_REQUIRE(o.raised == put.raised && o.text == put.text && filled == filled_put);
@@ -134,9 +132,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     HostScope scope(quiet);
     FuzzedDataProvider in(data, size);
     switch (in.ConsumeIntegralInRange<int>(0, 2)) {
-        case 0: fixed_width(in); break;
-        case 1: amount(in); break;
-        default: checks(in); break;
+        case 0:
+            fixed_width(in);
+            break;
+        case 1:
+            amount(in);
+            break;
+        default:
+            checks(in);
+            break;
     }
     return 0;
 }

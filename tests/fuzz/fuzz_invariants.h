@@ -7,10 +7,10 @@
 
 #include "core/error.h"
 
-#define FUZZ_REQUIRE(cond)                                                       \
-    do {                                                                         \
-        if (!(cond)) {                                                           \
+#define FUZZ_REQUIRE(cond)                                                                     \
+    do {                                                                                       \
+        if (!(cond)) {                                                                         \
             std::fprintf(stderr, "invariant failed: %s (%s:%d)\n", #cond, __FILE__, __LINE__); \
-            std::abort();                                                        \
-        }                                                                        \
+            std::abort();                                                                      \
+        }                                                                                      \
     } while (0)

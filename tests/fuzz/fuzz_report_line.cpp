@@ -19,10 +19,9 @@ namespace {
 using namespace tamrel;
 
 // The first byte of an input chooses the class, in this order.
-constexpr const char* kClasses[] = {"clsGenMeldung",   "clsGenBeitrNachw",       "clsGenBeitrErh",
-                                    "clsGenErst",      "clsGenZahl",             "clsGenBetrieb",
-                                    "clsGenArbeitsBesch", "clsGenEntgelt",       "clsGenAbfrVers",
-                                    "clsGenAbfrStammdatenUV", "clsGenLohnnachweis", "clsGenAsyl"};
+constexpr const char* kClasses[] = {"clsGenMeldung",  "clsGenBeitrNachw",       "clsGenBeitrErh",     "clsGenErst",
+                                    "clsGenZahl",     "clsGenBetrieb",          "clsGenArbeitsBesch", "clsGenEntgelt",
+                                    "clsGenAbfrVers", "clsGenAbfrStammdatenUV", "clsGenLohnnachweis", "clsGenAsyl"};
 constexpr std::size_t kClassCount = std::size(kClasses);
 
 struct Runners {
@@ -43,7 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ReportRunner& runner = *all.runners[data[0] % kClassCount];
     const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
     const auto library_error = [](const Error& e) { FUZZ_REQUIRE(is_library_error(e.number())); };
-    const std::string reference = testing::outcome(runner, [&] { runner.read_text_reference(text); }, library_error);
+    const std::string reference = testing::outcome(
+        runner, [&] { runner.read_text_reference(text); }, library_error);
     const std::string scanned = testing::outcome(runner, [&] { runner.read_text(text); });
     if (scanned != reference) {
         std::fprintf(stderr, "scanned:   %s\nreference: %s\n", scanned.c_str(), reference.c_str());

@@ -1,10 +1,10 @@
 // The data element of the XML report: the record SKEK and the seven blocks,
 // each writing its elements in the order of its layout.
-#include "core/text_fields.h"
-#include "core/decimal.h"
 #include "core/date_fields.h"
+#include "core/decimal.h"
 #include "core/routine.h"
 #include "core/text.h"
+#include "core/text_fields.h"
 #include "core/version_number.h"
 #include "xml/clsGenAsyl/Asyl.h"
 #include "xml/clsGenAsyl/clsGenAsyl.h"
@@ -58,39 +58,40 @@ void block(std::string& out, const char* context, std::string_view name, bool ni
 }  // namespace
 
 std::string clsGenAsyl::GenData(const Asyl& a, DatensatzData& dd, const Date& datDate) const {
-    return call(with_args("clsGenAsyl.GenData(", ObjArg{"objAsyl"}, ObjArg{"udtDatensatzData"}, datDate),
-                [&](int& line) {
-        line = 1;
-        const Date date = mlGen::GetDate(datDate);
-        std::string out;
-        out.reserve(4096);  // all eight blocks with every element given
-        out += "<daten>";
-        line = 2;
-        GenSKEK(out, a, dd, date);
-        line = 3;
-        block(out, "clsGenAsyl.GenBMGD", "bmgd", false, [&](XmlBlock& b) { person(b, a.Mgd); });
-        line = 4;
-        block(out, "clsGenAsyl.GenBANG", "bang", true, [&](XmlBlock& b) { person(b.n("angart", a.AngArt), a.Ang); });
-        line = 5;
-        block(out, "clsGenAsyl.GenBZRM", "bzrm", true,
-              [&](XmlBlock& b) { b.date("zrbg", a.ZrBeginn).date("zren", a.ZrEnde); });
-        line = 6;
-        block(out, "clsGenAsyl.GenBBTR", "bbtr", true, [&](XmlBlock& b) { address(b, a.Btr); });
-        line = 7;
-        block(out, "clsGenAsyl.GenBAPK", "bapk", false, [&](XmlBlock& b) {
-            b.an("anr-ap", a.ApAnrede).an("name-ap", a.ApName).an("tel-ap", a.ApTel).an("fax-ap", a.ApFax);
-            b.an("email-ap", a.ApEmail);
+    return call(
+        with_args("clsGenAsyl.GenData(", ObjArg{"objAsyl"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+            line = 1;
+            const Date date = mlGen::GetDate(datDate);
+            std::string out;
+            out.reserve(4096);  // all eight blocks with every element given
+            out += "<daten>";
+            line = 2;
+            GenSKEK(out, a, dd, date);
+            line = 3;
+            block(out, "clsGenAsyl.GenBMGD", "bmgd", false, [&](XmlBlock& b) { person(b, a.Mgd); });
+            line = 4;
+            block(out, "clsGenAsyl.GenBANG", "bang", true,
+                  [&](XmlBlock& b) { person(b.n("angart", a.AngArt), a.Ang); });
+            line = 5;
+            block(out, "clsGenAsyl.GenBZRM", "bzrm", true,
+                  [&](XmlBlock& b) { b.date("zrbg", a.ZrBeginn).date("zren", a.ZrEnde); });
+            line = 6;
+            block(out, "clsGenAsyl.GenBBTR", "bbtr", true, [&](XmlBlock& b) { address(b, a.Btr); });
+            line = 7;
+            block(out, "clsGenAsyl.GenBAPK", "bapk", false, [&](XmlBlock& b) {
+                b.an("anr-ap", a.ApAnrede).an("name-ap", a.ApName).an("tel-ap", a.ApTel).an("fax-ap", a.ApFax);
+                b.an("email-ap", a.ApEmail);
+            });
+            line = 8;
+            block(out, "clsGenAsyl.GenBZGK", "bzgk", true, [&](XmlBlock& b) { address(b, a.Zgk); });
+            line = 9;
+            block(out, "clsGenAsyl.GenBIMG", "bimg", true, [&](XmlBlock& b) {
+                b.side("dateina", dd.strDateiname).an("bilddatei", a.Bilddatei);
+                b.side("prueflbilddatei", mlGen::Decimal(static_cast<std::int64_t>(text::char_count(a.Bilddatei))));
+            });
+            out += "</daten>";
+            return out;
         });
-        line = 8;
-        block(out, "clsGenAsyl.GenBZGK", "bzgk", true, [&](XmlBlock& b) { address(b, a.Zgk); });
-        line = 9;
-        block(out, "clsGenAsyl.GenBIMG", "bimg", true, [&](XmlBlock& b) {
-            b.side("dateina", dd.strDateiname).an("bilddatei", a.Bilddatei);
-            b.side("prueflbilddatei", mlGen::Decimal(static_cast<std::int64_t>(text::char_count(a.Bilddatei))));
-        });
-        out += "</daten>";
-        return out;
-    });
 }
 
 }  // namespace tamrel

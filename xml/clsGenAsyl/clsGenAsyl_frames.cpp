@@ -27,16 +27,16 @@ std::string frame(std::string_view tag, std::string_view strBNRAb, std::string_v
 std::string clsGenAsyl::GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                                 std::string_view strFirma, std::int32_t enmVerfahren, std::string& strDatum,
                                 const Date& datDate) const {
-    return call(with_args("clsGenAsyl.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren, strDatum,
-                          datDate),
-                [&](int& line) {
-        line = 1;
-        Date date = mlGen::GetDate(datDate);
-        line = 2;
-        if (strDatum.empty()) strDatum = mlGlobal::GetCurrDate({}, 0, date);
-        line = 3;
-        return frame("vosz", strBNRAb, strBNREm, strDatum, strFileNr, "naab", strFirma);
-    });
+    return call(
+        with_args("clsGenAsyl.GenVOSZ(", strBNRAb, strBNREm, strFileNr, strFirma, enmVerfahren, strDatum, datDate),
+        [&](int& line) {
+            line = 1;
+            Date date = mlGen::GetDate(datDate);
+            line = 2;
+            if (strDatum.empty()) strDatum = mlGlobal::GetCurrDate({}, 0, date);
+            line = 3;
+            return frame("vosz", strBNRAb, strBNREm, strDatum, strFileNr, "naab", strFirma);
+        });
 }
 
 std::string clsGenAsyl::GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,

@@ -9,6 +9,7 @@ namespace tamrel::xml {
 inline bool holds_markup(std::string_view text) { return text.find_first_of("&<>") != std::string_view::npos; }
 
 // What is wrong with such a text, after the name of its property.
-inline constexpr std::string_view kMarkupFault = "holds a markup character (&, < or >), which an XML report cannot carry";
+inline constexpr std::string_view kMarkupFault =
+    "holds a markup character (&, < or >), which an XML report cannot carry";
 
 }  // namespace tamrel::xml
