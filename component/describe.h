@@ -2,9 +2,11 @@
 // protocol method: the typed frame calls, GenData and the protocol method as
 // the call protocol invokes them, and the report runner.
 #pragma once
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "component/call_registry.h"
 #include "component/procedure.h"
@@ -78,7 +80,8 @@ constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view ob
     if constexpr (F != FrameForm::Xml) d.GenDSKO = &Frames::dsko;
     d.GenNCSZ = &Frames::ncsz;
     d.GenData = &describing::gen_data<Gen, Obj, D>;
-    if constexpr (Proto != nullptr) d.CreateProto = &describing::create_proto<Obj, Proto>;
+    if constexpr (!std::is_same_v<decltype(Proto), std::nullptr_t>)
+        d.CreateProto = &describing::create_proto<Obj, Proto>;
     d.runner = &describing::runner<Gen, Obj, D, Proto>;
     return d;
 }

@@ -2,10 +2,12 @@
 // the fast scanner, or simdjson's DOM, or a parsed document) and handed to
 // its generator, and its protocol line made from the same object.
 #pragma once
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "component/json_scan.h"
 #include "component/json_simd.h"
@@ -62,7 +64,7 @@ public:
     void read(const nlohmann::json& report) override { read_value(json_binding::NlohmannValue{report}); }
     std::string data() override { return call_gen_data<D>(gen_, obj_, settings_); }
     std::string protocol(bool error, std::string_view text) override {
-        if constexpr (Proto == nullptr)
+        if constexpr (std::is_same_v<decltype(Proto), std::nullptr_t>)
             return {};
         else
             return (proto_entry_.*Proto)(obj_, error, text);
