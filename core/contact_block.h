@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/block_plan.h"
 #include "core/objects.h"
 
 namespace tamrel {
@@ -26,5 +27,25 @@ struct ContactView {
 // field holds data. `context` is the calling routine's name for the log line.
 void AppendContactBlock(std::string& out, std::string_view id, ContactView ap, const Arbeitgeber& ag, bool& hasData,
                         std::string_view context);
+
+// The accident-insurance records announce one block, DBAP, when the contact
+// data hold anything: built with the record, as its data decide its flag.
+enum class ContactBlock { DBAP };
+
+struct ContactPlan : BlockPlan<ContactBlock> {
+    std::string dbap;
+};
+
+// Appends what the plan names: DBAP, when it holds data.
+inline void AppendPlannedBlocks(std::string& out, const ContactPlan& plan) {
+    if (plan.has(ContactBlock::DBAP)) out += plan.dbap;
+}
+
+// Builds DBAP into the plan; returns whether it holds data.
+inline bool BuildDBAP(ContactPlan& plan, ContactView ap, const Arbeitgeber& ag, std::string_view context) {
+    bool hasData = false;
+    AppendContactBlock(plan.dbap, "DBAP", ap, ag, hasData, context);
+    return hasData;
+}
 
 }  // namespace tamrel

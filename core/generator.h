@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "core/date.h"
 #include "core/date_fields.h"
@@ -64,8 +65,9 @@ private:
 };
 
 // The shape of a GenData: the date resolved (statement 1), the record built
-// into a fresh buffer (statement 2), the announced blocks appended to it
-// (statement 3).
+// into a fresh buffer (statement 2), the blocks appended to it (statement 3).
+// `build` returns the record's block plan, which `blocks` is handed; a record
+// whose blocks always follow has no plan.
 template <class Build, class Blocks>
 std::string record_then_blocks(int& line, const Date& datDate, std::size_t reserve, Build&& build, Blocks&& blocks) {
     line = 1;
@@ -73,9 +75,15 @@ std::string record_then_blocks(int& line, const Date& datDate, std::size_t reser
     std::string out;
     out.reserve(reserve);
     line = 2;
-    build(out, date);
-    line = 3;
-    blocks(out);
+    if constexpr (std::is_void_v<std::invoke_result_t<Build&, std::string&, const Date&>>) {
+        build(out, date);
+        line = 3;
+        blocks(out);
+    } else {
+        const auto plan = build(out, date);
+        line = 3;
+        blocks(out, plan);
+    }
     return out;
 }
 

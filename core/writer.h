@@ -10,6 +10,7 @@
 #include <type_traits>
 
 #include "core/amounts.h"
+#include "core/block_plan.h"
 #include "core/check_length.h"
 #include "core/date_fields.h"
 #include "core/decimal.h"
@@ -61,6 +62,13 @@ public:
         return lit({&c, 1});
     }
     [[gnu::always_inline]] Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
+    // A block's flag: whether it follows the record, decided here for both
+    // the record and the plan that appends the blocks.
+    template <class Block>
+    [[gnu::always_inline]] Writer& announce(BlockPlan<Block>& plan, Block block, bool follows) {
+        plan.set(block, follows);
+        return flag(follows);
+    }
     // A date stamp: GetCurrDate's text as a numeric field. The usual one, the
     // full creation time taken from the date itself, is written straight.
     [[gnu::always_inline]] Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {

@@ -125,6 +125,9 @@ TEST(Meldung, FlagRulesByReasonKindAndProcedure) {
         {"30", 1, vmSofort, false, "", "", "101", "JNNJNNJNNN"},
         {"58", 1, vmNormal, true, "", "X", "101", "NJNNNNNNNN"},
         {"92", 1, vmNormal, false, "", "X", "101", "JNNNNNNNNN"},
+        // Not reasons, but found in the table: what follows them there is written.
+        {"92JN", 1, vmNormal, false, "", "X", "101", "NNNJNNNN  "},
+        {"92JNNNNJN", 1, vmNormal, false, "19800101", "X", "101", "NNJ       "},
     };
     for (const auto& c : cases) {
         RecordingHost host;
@@ -139,9 +142,14 @@ TEST(Meldung, FlagRulesByReasonKindAndProcedure) {
         m.Vorgang.PLZ.clear();
         m.Vorgang.Ort.clear();
         std::string out;
-        gen.GenDSME(out, m, datensatz(), c.verf, kDate);
+        const MeldungPlan plan = gen.GenDSME(out, m, datensatz(), c.verf, kDate);
         EXPECT_EQ(out.size(), 559u) << c.reason;
         EXPECT_EQ(out.substr(170, 10), c.flags) << "reason '" << c.reason << "' kind " << c.kind;
+        // The blocks that follow are exactly those flagged "J".
+        for (std::size_t k = 0; k < 7; ++k)
+            EXPECT_EQ(plan.has(static_cast<MeldungBlock>(k)), c.flags[k] == 'J') << "reason '" << c.reason << "' " << k;
+        EXPECT_EQ(plan.has(MeldungBlock::DBSO), c.verf == vmSofort) << c.reason;
+        EXPECT_EQ(plan.has(MeldungBlock::DBKV), std::string_view(c.reason) == "58") << c.reason;
     }
 }
 

@@ -4,9 +4,19 @@
 #include <string>
 
 #include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
+#include "core/block_plan.h"
 #include "core/generator.h"
 
 namespace tamrel {
+
+// The single blocks a DSAB, DSEU or DSNE record may announce (each record
+// has its own selection and order; the repeating groups follow by count).
+enum class ArbeitsBeschBlock { DBNA, DBAN, DBAG, DBAB, DBNE, DBSA, DBNB, DBHA, DBKE, DBKU, DBHN };
+
+struct ArbeitsBeschPlan : BlockPlan<ArbeitsBeschBlock> {
+    // Built with the record: whether they hold data decides their flags.
+    std::string dbab, dbha, dbhn;
+};
 
 class clsGenArbeitsBesch : public FrameGenerator {
 public:
@@ -16,16 +26,13 @@ public:
 
     explicit clsGenArbeitsBesch(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
-    std::string GenData(const ArbeitsBesch& objArbeitsBesch, DatensatzData& udtDatensatzData, const Date& datDate = {});
+    std::string GenData(const ArbeitsBesch& objArbeitsBesch, DatensatzData& udtDatensatzData,
+                        const Date& datDate = {}) const;
 
     // Record builders, public for the tests.
-    void GenDSAB(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
-    void GenDSEU(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
-    void GenDSNE(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
-
-private:
-    std::string dbab_;    // the DBAB block of the most recent record
-    std::string second_;  // DBHA after DSAB, DBHN after DSNE
+    static ArbeitsBeschPlan GenDSAB(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
+    static ArbeitsBeschPlan GenDSEU(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
+    static ArbeitsBeschPlan GenDSNE(std::string& out, const ArbeitsBesch& a, const DatensatzData& dd, const Date& date);
 };
 
 // The eighteen block builders; each appends its block and reports whether

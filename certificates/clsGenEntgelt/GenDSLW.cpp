@@ -1,6 +1,6 @@
 // The DSLW record, left to right as its layout table; each block is built
-// where its flag is written, and those that hold data (flag "J") are kept
-// until GenData appends them.
+// where its flag is written, and those that hold data (flag "J") go into the
+// plan that GenData appends.
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
 #include "core/version_number.h"
 #include "core/writer.h"
@@ -38,8 +38,10 @@ constexpr Builder kBuilders[clsGenEntgelt::kBlocks] = {
 };
 }  // namespace
 
-void clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date) {
-    routine("clsGenEntgelt.GenDSLW", [&](int& line) {
+EntgeltPlan clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date) {
+    return routine("clsGenEntgelt.GenDSLW", [&](int& line) {
+        EntgeltPlan plan;
+        plan.blocks.reserve(2048);
         const Vorgang& v = e.Vorgang;
         const VersionNumber dsid(dd.strVersion, e.DatensatzNr);
         Writer w(out, line);
@@ -49,24 +51,24 @@ void clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzD
         w.an(dd.strProdID, 7).an(dd.strModID, 8).zeros(20).blank(2);
         w.an(e.BBNRKK.empty() ? e.Empfaenger.Betriebsnummer : e.BBNRKK, 15).an(dd.strBNRSt, 15);
         w.an(e.RUECKMELDUNGEEL, 1).n(e.ABGABEGRUND, 2).flag(e.KENNZSTORNO);
-        blocks_.clear();
         for (const Builder build : kBuilders) {
-            const std::size_t mark = blocks_.size();
-            const bool held = build(blocks_, e);
-            if (!held) blocks_.resize(mark);
+            const std::size_t mark = plan.blocks.size();
+            const bool held = build(plan.blocks, e);
+            if (!held) plan.blocks.resize(mark);
             w.flag(held);
         }
         w.check(219, "DSLW");
+        return plan;
     });
 }
 
-std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Date& datDate) {
-    return call(with_args("clsGenEntgelt.GenData(", ObjArg{"objEntgelt"}, ObjArg{"udtDatensatzData"}, datDate),
-                [&](int& line) {
-                    return record_then_blocks(
-                        line, datDate, 2048, [&](std::string& out, const Date& date) { GenDSLW(out, e, dd, date); },
-                        [&](std::string& out) { out += blocks_; });
-                });
+std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Date& datDate) const {
+    return call(
+        with_args("clsGenEntgelt.GenData(", ObjArg{"objEntgelt"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+            return record_then_blocks(
+                line, datDate, 2048, [&](std::string& out, const Date& date) { return GenDSLW(out, e, dd, date); },
+                [&](std::string& out, const EntgeltPlan& plan) { out += plan.blocks; });
+        });
 }
 
 }  // namespace tamrel

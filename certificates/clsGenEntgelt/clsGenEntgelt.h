@@ -8,6 +8,13 @@
 
 namespace tamrel {
 
+// Every block of a DSLW is built with the record, as its data decide its
+// flag: the plan is the text of those that follow, in the order of their flags
+// (a block without data is cut back off as soon as its builder says so).
+struct EntgeltPlan {
+    std::string blocks;
+};
+
 class clsGenEntgelt : public FrameGenerator {
 public:
     // Procedure codes and the context texts of the frame methods.
@@ -16,17 +23,11 @@ public:
 
     explicit clsGenEntgelt(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
-    std::string GenData(const Entgelt& objEntgelt, DatensatzData& udtDatensatzData, const Date& datDate = {});
+    std::string GenData(const Entgelt& objEntgelt, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
 
-    void GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date);
+    static EntgeltPlan GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date);
 
     static constexpr std::size_t kBlocks = 18;  // DBNA … DBID
-
-private:
-    // The blocks that hold data, in the order of their flags, as the most
-    // recent GenDSLW built them (one string: a block without data is cut
-    // back off as soon as its builder says so).
-    std::string blocks_;
 };
 
 }  // namespace tamrel

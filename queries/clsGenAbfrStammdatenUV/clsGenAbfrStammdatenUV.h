@@ -3,6 +3,7 @@
 #pragma once
 #include <string>
 
+#include "core/contact_block.h"
 #include "core/generator.h"
 #include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV.h"
 
@@ -17,12 +18,9 @@ public:
     explicit clsGenAbfrStammdatenUV(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
     std::string GenData(const AbfrStammdatenUV& objAbfrStammdatenUV, DatensatzData& udtDatensatzData,
-                        const Date& datDate = {});
+                        const Date& datDate = {}) const;
 
-    void GenDSAS(std::string& out, const AbfrStammdatenUV& a, const DatensatzData& dd, const Date& date);
-
-private:
-    std::string dbap_;  // the DBAP block of the most recent GenDSAS
+    static ContactPlan GenDSAS(std::string& out, const AbfrStammdatenUV& a, const DatensatzData& dd, const Date& date);
 };
 
 }  // namespace tamrel

@@ -3,10 +3,18 @@
 #pragma once
 #include <string>
 
+#include "core/block_plan.h"
 #include "core/generator.h"
 #include "queries/clsGenBetrieb/Betrieb.h"
 
 namespace tamrel {
+
+// The block a DSBD record may announce.
+enum class BetriebBlock { DBKA };
+
+struct BetriebPlan : BlockPlan<BetriebBlock> {
+    std::string dbka;  // built with the record: whether it holds data decides its flag
+};
 
 class clsGenBetrieb : public FrameGenerator {
 public:
@@ -16,14 +24,11 @@ public:
 
     explicit clsGenBetrieb(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
-    std::string GenData(const Betrieb& objBetrieb, DatensatzData& udtDatensatzData, const Date& datDate = {});
+    std::string GenData(const Betrieb& objBetrieb, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
 
     // Internal builders, public for the tests.
-    void GenDSBD(std::string& out, const Betrieb& b, const DatensatzData& dd, const Date& date);
+    static BetriebPlan GenDSBD(std::string& out, const Betrieb& b, const DatensatzData& dd, const Date& date);
     static std::string GenDBKA(const Betrieb& b, bool& filled);
-
-private:
-    std::string dbka_;  // the DBKA block of the most recent GenDSBD
 };
 
 }  // namespace tamrel

@@ -3,6 +3,7 @@
 #pragma once
 #include <string>
 
+#include "core/contact_block.h"
 #include "core/generator.h"
 #include "queries/clsGenLohnnachweis/Lohnnachweis.h"
 
@@ -16,12 +17,10 @@ public:
 
     explicit clsGenLohnnachweis(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
-    std::string GenData(const Lohnnachweis& objLohnnachweis, DatensatzData& udtDatensatzData, const Date& datDate = {});
+    std::string GenData(const Lohnnachweis& objLohnnachweis, DatensatzData& udtDatensatzData,
+                        const Date& datDate = {}) const;
 
-    void GenDSLN(std::string& out, const Lohnnachweis& l, const DatensatzData& dd, const Date& date);
-
-private:
-    std::string dbap_;  // the DBAP block of the most recent GenDSLN
+    static ContactPlan GenDSLN(std::string& out, const Lohnnachweis& l, const DatensatzData& dd, const Date& date);
 };
 
 }  // namespace tamrel

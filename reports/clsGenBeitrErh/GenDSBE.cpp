@@ -1,7 +1,6 @@
 // The DSBE record and its blocks DBMI and DBHB, each as its layout table.
 #include "core/date_fields.h"
 #include "core/establishment_number.h"
-#include "core/flag_reader.h"
 #include "core/writer.h"
 #include "reports/clsGenBeitrErh/BeitrErh.h"
 #include "reports/clsGenBeitrErh/clsGenBeitrErh.h"
@@ -9,16 +8,21 @@
 namespace tamrel {
 namespace {
 
+// The blocks a DSBE record may announce, in the order they follow it.
+enum class BeitrErhBlock { DBMI, DBHB };
+using BeitrErhPlan = BlockPlan<BeitrErhBlock>;
+
 // Merkmal2 1..6 is written as "0".."5"; anything else as an empty numeric field.
 std::string_view merkmal2_code(std::int32_t v) {
     static constexpr std::string_view codes[] = {"0", "1", "2", "3", "4", "5"};
     return v >= 1 && v <= 6 ? codes[v - 1] : std::string_view{};
 }
 
-void GENDSBE(std::string& out, const BeitrErh& b, const DatensatzData& dd, const Date& date) {
-    routine("clsGenBeitrErh.GENDSBE", [&](int& line) {
+BeitrErhPlan GENDSBE(std::string& out, const BeitrErh& b, const DatensatzData& dd, const Date& date) {
+    return routine("clsGenBeitrErh.GENDSBE", [&](int& line) {
         const Vorgang& v = b.Vorgang;
         const Arbeitgeber& ag = v.Arbeitgeber;
+        BeitrErhPlan plan;
         Writer w(out, line);
         w.lit("DSBE")
             .lit("02")
@@ -36,8 +40,9 @@ void GENDSBE(std::string& out, const BeitrErh& b, const DatensatzData& dd, const
         w.n(b.Zeitraum2, 6).n(b.Zeitraum1, 6).lit(b.ArtKennzeichen ? "K" : "G");
         w.bg(b.Betrag1, 2, 0).bg(b.Betrag2, 6, 2).n(b.Merkmal1 == 1 ? "1" : "0", 1).bg(b.Betrag3, 7, 2);
         w.bg(b.Betrag4, 6, 2).n(merkmal2_code(b.Merkmal2), 1).bg(b.Betrag5, 6, 2);
-        w.lit("J").flag(!b.Betrag6.empty()).blank(2);
+        w.announce(plan, BeitrErhBlock::DBMI, true).announce(plan, BeitrErhBlock::DBHB, !b.Betrag6.empty()).blank(2);
         w.check(447, "DSBE");
+        return plan;
     });
 }
 
@@ -67,13 +72,11 @@ std::string clsGenBeitrErh::GenData(const BeitrErh& b, DatensatzData& dd, const 
                     std::string out;
                     out.reserve(613);
                     line = 1;
-                    GENDSBE(out, b, dd, mlGen::GetDate(datDate));
-                    FlagReader flags(out);
-                    const bool dbmi = flags.j(444), dbhb = flags.j(445);
+                    const BeitrErhPlan plan = GENDSBE(out, b, dd, mlGen::GetDate(datDate));
                     line = 2;
-                    if (dbmi) GenDBMI(out, b);
+                    if (plan.has(BeitrErhBlock::DBMI)) GenDBMI(out, b);
                     line = 3;
-                    if (dbhb) GenDBHB(out, b);
+                    if (plan.has(BeitrErhBlock::DBHB)) GenDBHB(out, b);
                     return out;
                 });
 }

@@ -1,7 +1,6 @@
 // The DSER record, left to right as its layout table.
 #include "core/date_fields.h"
 #include "core/establishment_number.h"
-#include "core/flag_reader.h"
 #include "core/version_number.h"
 #include "core/writer.h"
 #include "reports/clsGenErst/clsGenErst.h"
@@ -26,29 +25,27 @@ std::string_view settlement_code(std::int32_t v) {
 std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& datDate) const {
     return call(with_args("clsGenErst.GenData(", ObjArg{"objErst"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
-                    line = 1;
-                    const Date date = mlGen::GetDate(datDate);
-                    std::string out;
-                    out.reserve(455 + 202 + 180 + 191 + 174 + 125 + 321);
-                    line = 2;
-                    GenDSER(out, e, dd, date);
-                    FlagReader flags(out);
-                    const bool dbau = flags.j(349), dbbt = flags.j(350), dbzu = flags.j(351), dbaa = flags.j(354);
-                    line = 3;
-                    if (dbau) GenDBAU(out, e);
-                    if (dbbt) GenDBBT(out, e);
-                    if (dbzu) GenDBZU(out, e);
-                    GenDBBV(out, e);
-                    GenDBNA(out, e);
-                    if (dbaa) GenDBAA(out, e);
-                    return out;
+                    return record_then_blocks(
+                        line, datDate, 455 + 202 + 180 + 191 + 174 + 125 + 321,
+                        [&](std::string& out, const Date& date) { return GenDSER(out, e, dd, date); },
+                        [&](std::string& out, const ErstPlan& plan) {
+                            using enum ErstBlock;
+                            if (plan.has(DBAU)) GenDBAU(out, e);
+                            if (plan.has(DBBT)) GenDBBT(out, e);
+                            if (plan.has(DBZU)) GenDBZU(out, e);
+                            if (plan.has(DBBV)) GenDBBV(out, e);
+                            if (plan.has(DBNA)) GenDBNA(out, e);
+                            if (plan.has(DBAA)) GenDBAA(out, e);
+                        });
                 });
 }
 
-void clsGenErst::GenDSER(std::string& out, const Erst& e, const DatensatzData& dd, const Date& date) {
-    routine("clsGenErst.GenDSER", [&](int& line) {
+ErstPlan clsGenErst::GenDSER(std::string& out, const Erst& e, const DatensatzData& dd, const Date& date) {
+    return routine("clsGenErst.GenDSER", [&](int& line) {
+        using enum ErstBlock;
         const Vorgang& v = e.Vorgang;
         const VersionNumber reference(dd.strVersion, e.ErstattungsId);
+        ErstPlan plan;
         Writer w(out, line);
         w.lit("DSER").lit("AAGER").an(dd.strBNRAb, 15).an(e.Empfaenger.Betriebsnummer, 15).lit("05");
         w.stamp(e.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0");
@@ -57,9 +54,11 @@ void clsGenErst::GenDSER(std::string& out, const Erst& e, const DatensatzData& d
         w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).n(reason_code(e), 2).n(e.ErstDatum, 8);
         w.n(settlement_code(e.Abrechnungskennzeichen), 1).an(v.Geschlecht, 1).lit("2").an(dd.strProdID, 7);
         w.an(dd.strModID, 8).an(reference, 32).blank(100);
-        w.flag(e.Erstattungsgrund == 11).flag(e.Leistungsart == 2).flag(e.Leistungsart == 1).lit("J").lit("J");
-        w.flag(!e.DBAAEntfaellt).blank(1).blank(100);
+        w.announce(plan, DBAU, e.Erstattungsgrund == 11).announce(plan, DBBT, e.Leistungsart == 2);
+        w.announce(plan, DBZU, e.Leistungsart == 1).announce(plan, DBBV, true).announce(plan, DBNA, true);
+        w.announce(plan, DBAA, !e.DBAAEntfaellt).blank(1).blank(100);
         w.check(455, "DSER");
+        return plan;
     });
 }
 

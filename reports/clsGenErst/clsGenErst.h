@@ -3,10 +3,15 @@
 #pragma once
 #include <string>
 
+#include "core/block_plan.h"
 #include "core/generator.h"
 #include "reports/clsGenErst/Erst.h"
 
 namespace tamrel {
+
+// The blocks a DSER record may announce, in the order they follow it.
+enum class ErstBlock { DBAU, DBBT, DBZU, DBBV, DBNA, DBAA };
+using ErstPlan = BlockPlan<ErstBlock>;
 
 class clsGenErst : public FrameGenerator {
 public:
@@ -19,7 +24,7 @@ public:
     std::string GenData(const Erst& objErst, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
 
     // Internal builders, public for the tests.
-    static void GenDSER(std::string& out, const Erst& e, const DatensatzData& dd, const Date& date);
+    static ErstPlan GenDSER(std::string& out, const Erst& e, const DatensatzData& dd, const Date& date);
     static void GenDBAU(std::string& out, const Erst& e);
     static void GenDBBT(std::string& out, const Erst& e);
     static void GenDBZU(std::string& out, const Erst& e);

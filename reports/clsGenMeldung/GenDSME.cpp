@@ -9,8 +9,11 @@ namespace tamrel {
 namespace {
 
 // The ten flag characters at positions 171-180: the table's seven flags for
-// the reason, then "NNN", each later rule overriding an earlier one.
-std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerfahren, std::string& dbuv) {
+// the reason, then "NNN", each later rule overriding an earlier one. The
+// characters are the decision (an unknown reason can leave other table
+// characters there): the plan takes its first seven blocks from their "J"s.
+// DBUV is built here, as whether it holds data decides its flag.
+std::string flag_text(const clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerfahren, MeldungPlan& plan) {
     constexpr std::string_view table = clsGenMeldung::kBlockTable;
     const std::string_view reason = m.Meldegrund;  // compared as a view: no call for a two-character test
     std::size_t p = table.find(reason);
@@ -49,10 +52,10 @@ std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerf
         set(5, 'N');
     }
     bool produced = false;
-    dbuv.clear();
     // Without entries the block holds nothing (its count is "0"): no need to build it.
-    if (m.UvErster <= m.UvLetzter) clsGenMeldung::AppendDBUV(dbuv, m, produced);
+    if (m.UvErster <= m.UvLetzter) clsGenMeldung::AppendDBUV(plan.dbuv, m, produced);
     set(6, produced ? 'J' : 'N');
+    for (std::size_t k = 0; k < 7; ++k) plan.set(static_cast<MeldungBlock>(k), k < f.size() && f[k] == 'J');
     return f;
 }
 
@@ -64,14 +67,15 @@ std::string flag_text(clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerf
 
 }  // namespace
 
-void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd, std::int32_t enmVerfahren,
-                            const Date& datDate) {
-    routine(
+MeldungPlan clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd,
+                                   std::int32_t enmVerfahren, const Date& datDate) const {
+    return routine(
         with_args("clsGenMeldung.GenDSME(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren, datDate),
         [&](int& line) {
             const Date date = mlGen::GetDate(datDate);
             const bool minijob = m.Beitragsgruppe2.size() > 0 &&
                                  std::string_view("246").find(m.Beitragsgruppe2) != std::string_view::npos;
+            MeldungPlan plan;
             Writer w(out, line);
             w.lit("DSME").lit("DEUEV").an(dd.strBNRAb, 15).an(m.Empfaenger.Betriebsnummer, 15).lit("03");
             w.stamp(m.Zeitpunkt, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").zeros(1);
@@ -85,9 +89,10 @@ void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzD
                 w.an(!m.Vorgang.Bezugskennung.empty() ? m.Vorgang.Bezugskennung : m.Ersatzaktenzeichen, 20);
             w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).n(m.Personengruppe, 3).n(m.Meldegrund, 2);
             w.an(m.Vorgang.Laenderschluessel, 3);
-            w.an(flag_text(*this, m, enmVerfahren, dbuv_), 10);
-            w.blank(1).lit("5").blank(1).flag(enmVerfahren == vmSofort).an(m.Zusatzmerkmal, 1).blank(3);
-            w.flag(std::string_view(m.Meldegrund) == "58")
+            w.an(flag_text(*this, m, enmVerfahren, plan), 10);
+            w.blank(1).lit("5").blank(1).announce(plan, MeldungBlock::DBSO, enmVerfahren == vmSofort);
+            w.an(m.Zusatzmerkmal, 1).blank(3);
+            w.announce(plan, MeldungBlock::DBKV, std::string_view(m.Meldegrund) == "58")
                 .blank(1)
                 .zeros(20)
                 .lit("01")
@@ -96,6 +101,7 @@ void clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzD
             reference(w, dd, m.Laufnummer, 32);
             w.blank(100).lit("N").blank(199);
             w.check(559, "DSME");
+            return plan;
         });
 }
 

@@ -1,6 +1,5 @@
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
-#include "core/flag_reader.h"
 #include "core/frames.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
@@ -53,34 +52,28 @@ std::string clsGenMeldung::GenNCSZ(std::string_view strBNRAb, std::string_view s
 }
 
 std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int32_t enmVerfahren,
-                                   const Date& datDate) {
+                                   const Date& datDate) const {
     return call(
         with_args("clsGenMeldung.GenData(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren, datDate),
         [&](int& line) {
+            using enum MeldungBlock;
             std::string out;
             out.reserve(2048);  // the record and every block it may announce
             line = 1;
-            GenDSME(out, m, dd, enmVerfahren, datDate);
-            // The flags are read back out of the finished record before any
-            // block is appended: DBME, DBNA, DBGB, DBAN, DBEU, DBUV, DBKS, DBSO, DBKV.
-            static constexpr std::size_t kFlagPositions[] = {171, 172, 173, 174, 175, 176, 177, 184, 189};
-            line = 2;
-            bool wanted[9];
-            FlagReader flags(out, 559);
-            for (std::size_t k = 0; k < 9; ++k) wanted[k] = flags.j(kFlagPositions[k]);
-            line = 3;
-            if (wanted[0]) GenDBME(out, m);
-            if (wanted[1]) mlGen::AppendDBNA(out, m.Vorgang, m.MitNamensdaten);
-            if (wanted[2]) mlGen::AppendDBGB(out, m.Vorgang);
-            if (wanted[3]) {
+            const MeldungPlan plan = GenDSME(out, m, dd, enmVerfahren, datDate);
+            line = 3;  // the blocks (statement 2, taking the record's flags, cannot fail)
+            if (plan.has(DBME)) GenDBME(out, m);
+            if (plan.has(DBNA)) mlGen::AppendDBNA(out, m.Vorgang, m.MitNamensdaten);
+            if (plan.has(DBGB)) mlGen::AppendDBGB(out, m.Vorgang);
+            if (plan.has(DBAN)) {
                 bool filled = false;
                 mlGen::AppendDBAN(out, m.Vorgang, filled);
             }
-            if (wanted[4]) GenDBEU(out, m);
-            if (wanted[5]) out += dbuv_;
-            if (wanted[6]) GenDBKS(out, m);
-            if (wanted[7]) GenDBSO(out, m);
-            if (wanted[8]) GenDBKV(out, m);
+            if (plan.has(DBEU)) GenDBEU(out, m);
+            if (plan.has(DBUV)) out += plan.dbuv;
+            if (plan.has(DBKS)) GenDBKS(out, m);
+            if (plan.has(DBSO)) GenDBSO(out, m);
+            if (plan.has(DBKV)) GenDBKV(out, m);
             return out;
         });
 }

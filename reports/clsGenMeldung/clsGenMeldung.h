@@ -5,10 +5,18 @@
 #include <string>
 #include <string_view>
 
+#include "core/block_plan.h"
 #include "core/generator.h"
 #include "reports/clsGenMeldung/Meldung.h"
 
 namespace tamrel {
+
+// The blocks a DSME record may announce, in the order they follow it.
+enum class MeldungBlock { DBME, DBNA, DBGB, DBAN, DBEU, DBUV, DBKS, DBSO, DBKV };
+
+struct MeldungPlan : BlockPlan<MeldungBlock> {
+    std::string dbuv;  // built with the record: whether it holds data decides its flag
+};
 
 class clsGenMeldung : public Generator {
 public:
@@ -19,7 +27,7 @@ public:
                         const Date& datDate = {}) const;
     std::string GenDSKO(DSKOData& udtDSKOData, const Date& datDate = {}) const;
     std::string GenData(const Meldung& objMeldung, DatensatzData& udtDatensatzData, std::int32_t enmVerfahren,
-                        const Date& datDate = {});
+                        const Date& datDate = {}) const;
     std::string GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                         std::string_view strCount, std::int32_t enmVerfahren, const Date& datDate = {}) const;
 
@@ -30,8 +38,8 @@ public:
         "60NJNNNNN61NNNJNNN62NNNNNNN63NNNNNNN70JNNNNNJ71JNNNNNJ72JNNNNNJ89NNNNNNN90NNNNNNN91JNNNNNJ92JNNNNJN";
 
     // Internal builders, public for the tests and benchmarks.
-    void GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd, std::int32_t enmVerfahren,
-                 const Date& datDate);
+    MeldungPlan GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd, std::int32_t enmVerfahren,
+                        const Date& datDate) const;
     bool IsGeringBkn(const Meldung& m) const;
     static void GenDBME(std::string& out, const Meldung& m);
     static void GenDBEU(std::string& out, const Meldung& m);
@@ -39,9 +47,6 @@ public:
     static void GenDBKS(std::string& out, const Meldung& m);
     static void GenDBSO(std::string& out, const Meldung& m);
     static void GenDBKV(std::string& out, const Meldung& m);
-
-private:
-    std::string dbuv_;  // the DBUV block of the most recent GenDSME
 };
 
 }  // namespace tamrel

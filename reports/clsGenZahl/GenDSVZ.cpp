@@ -1,6 +1,5 @@
 // The DSVZ record and its blocks DBZK, DBNA, DBGA and DBAN.
 #include "core/date_fields.h"
-#include "core/flag_reader.h"
 #include "core/host.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
@@ -8,47 +7,48 @@
 
 namespace tamrel {
 
-std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& datDate) {
+std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& datDate) const {
     return call(with_args("clsGenZahl.GenData(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
-                    line = 1;
-                    const Date date = mlGen::GetDate(datDate);
-                    std::string out;
-                    out.reserve(237 + 91 + 125 + 13 + 133);
-                    line = 2;
-                    GenDSVZ(out, z, dd, date);
-                    FlagReader flags(out);
-                    const bool dbzk = flags.j(218), dbna = flags.j(219), dbga = flags.j(220), dban = flags.j(222);
-                    line = 3;
-                    if (dbzk) GenDBZK(out, z);
-                    if (dbna) GenDBNA(out, z);
-                    if (dbga) out += dbga_;
-                    if (dban) out += dban_;
-                    return out;
+                    return record_then_blocks(
+                        line, datDate, 237 + 91 + 125 + 13 + 133,
+                        [&](std::string& out, const Date& date) { return GenDSVZ(out, z, dd, date); },
+                        [&](std::string& out, const ZahlPlan& plan) {
+                            using enum ZahlBlock;
+                            if (plan.has(DBZK)) GenDBZK(out, z);
+                            if (plan.has(DBNA)) GenDBNA(out, z);
+                            if (plan.has(DBGA)) out += plan.dbga;
+                            if (plan.has(DBAN)) out += plan.dban;
+                        });
                 });
 }
 
-void clsGenZahl::GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date) {
-    routine(with_args("clsGenZahl.GenDSVZ(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, date), [&](int& line) {
-        const Vorgang& v = z.Vorgang;
-        Writer w(out, line);
-        w.lit("DSVZ").lit("ZAHLS").an(dd.strBNRAb, 15).an(z.Empfaenger.Betriebsnummer, 15).lit("02");
-        w.stamp(z.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0").an(v.Kennung14, 14);
-        w.an(v.Arbeitgeber.Betriebsnummer, 15).an(v.Aktenzeichen, 20).an(z.Empfaenger.Betriebsnummer, 15);
-        w.an(dd.strVersion, 10).n(z.ZahlId, 10).an(dd.strBNRSt, 15).blank(3).lit("01").an(dd.strProdID, 7);
-        w.an(dd.strModID, 8).an(dd.strVersion, 10).n(z.ZahlId, 10).blank(12).blank(3).lit("J").lit("J");
-        bool dbga = false, dban = false;
-        dbga_ = GenDBGA(z, dbga);
-        w.flag(dbga).lit("N");
-        dban_ = GenDBAN(z, dban);
-        w.flag(dban).lit("N");
-        if (z.Pseudonym)
-            w.zeros(12);
-        else
-            w.an(v.Versicherungsnummer, 12);
-        w.blank(2);
-        w.check(237, "DSVZ");
-    });
+ZahlPlan clsGenZahl::GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date) {
+    return routine(
+        with_args("clsGenZahl.GenDSVZ(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, date), [&](int& line) {
+            using enum ZahlBlock;
+            const Vorgang& v = z.Vorgang;
+            ZahlPlan plan;
+            Writer w(out, line);
+            w.lit("DSVZ").lit("ZAHLS").an(dd.strBNRAb, 15).an(z.Empfaenger.Betriebsnummer, 15).lit("02");
+            w.stamp(z.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0").an(v.Kennung14, 14);
+            w.an(v.Arbeitgeber.Betriebsnummer, 15).an(v.Aktenzeichen, 20).an(z.Empfaenger.Betriebsnummer, 15);
+            w.an(dd.strVersion, 10).n(z.ZahlId, 10).an(dd.strBNRSt, 15).blank(3).lit("01").an(dd.strProdID, 7);
+            w.an(dd.strModID, 8).an(dd.strVersion, 10).n(z.ZahlId, 10).blank(12).blank(3);
+            w.announce(plan, DBZK, true).announce(plan, DBNA, true);
+            bool dbga = false, dban = false;
+            plan.dbga = GenDBGA(z, dbga);
+            w.announce(plan, DBGA, dbga).lit("N");
+            plan.dban = GenDBAN(z, dban);
+            w.announce(plan, DBAN, dban).lit("N");
+            if (z.Pseudonym)
+                w.zeros(12);
+            else
+                w.an(v.Versicherungsnummer, 12);
+            w.blank(2);
+            w.check(237, "DSVZ");
+            return plan;
+        });
 }
 
 void clsGenZahl::GenDBZK(std::string& out, const Zahl& z) {

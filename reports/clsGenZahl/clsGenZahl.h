@@ -3,10 +3,18 @@
 #pragma once
 #include <string>
 
+#include "core/block_plan.h"
 #include "core/generator.h"
 #include "reports/clsGenZahl/Zahl.h"
 
 namespace tamrel {
+
+// The blocks a DSVZ record may announce, in the order they follow it.
+enum class ZahlBlock { DBZK, DBNA, DBGA, DBAN };
+
+struct ZahlPlan : BlockPlan<ZahlBlock> {
+    std::string dbga, dban;  // built with the record: whether they hold data decides their flags
+};
 
 class clsGenZahl : public FrameGenerator {
 public:
@@ -16,17 +24,14 @@ public:
 
     explicit clsGenZahl(Host host = default_host()) : FrameGenerator(kFrames, std::move(host)) {}
 
-    std::string GenData(const Zahl& objZahl, DatensatzData& udtDatensatzData, const Date& datDate = {});
+    std::string GenData(const Zahl& objZahl, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
 
     // Internal builders, public for the tests.
-    void GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date);
+    static ZahlPlan GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date);
     static void GenDBZK(std::string& out, const Zahl& z);
     static void GenDBNA(std::string& out, const Zahl& z);
     static std::string GenDBGA(const Zahl& z, bool& hasData);
     static std::string GenDBAN(const Zahl& z, bool& hasData);
-
-private:
-    std::string dbga_, dban_;  // built during the most recent GenDSVZ
 };
 
 }  // namespace tamrel
