@@ -1,6 +1,6 @@
-// JSON tables of the shared data objects and the two structures.
+// Property tables of the shared data objects and the two structures.
 #pragma once
-#include "component/json_binding.h"
+#include "component/bindings/field_table.h"
 #include "core/objects.h"
 
 namespace tamrel::json_binding {

@@ -12,7 +12,11 @@ thread_local const Host* installed = nullptr;
 Date system_now() {
     std::time_t t = std::time(nullptr);
     std::tm tm{};
+#ifdef _WIN32
+    localtime_s(&tm, &t);  // the thread-safe form of the Windows runtime
+#else
     localtime_r(&t, &tm);
+#endif
     return Date{tm.tm_year + 1900, tm.tm_mon + 1, tm.tm_mday, tm.tm_hour, tm.tm_min, tm.tm_sec};
 }
 

@@ -23,9 +23,11 @@ inline constexpr int kScratchLevels = 8;
 
 struct ScratchAreas {
     int depth = 0;
-    char area[kScratchLevels][kScratchSize];
+    char area[kScratchLevels][kScratchSize]{};
 };
-inline thread_local ScratchAreas scratch_areas;
+// Constant-initialised: no TLS init function, which GCC on Windows would
+// define once per translation unit and the linker refuse as duplicates.
+inline constinit thread_local ScratchAreas scratch_areas;
 
 struct Grown {
     char* begin;

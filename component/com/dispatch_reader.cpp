@@ -1,0 +1,138 @@
+#include "component/com/dispatch_reader.h"
+
+#include <dispex.h>
+
+#include "component/com/com_error.h"
+#include "component/com/com_text.h"
+#include "core/error.h"
+
+namespace tamrel::com {
+namespace {
+
+// VB's error 438, raised for a property the object does not have.
+constexpr HRESULT kNoSuchProperty = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 438);
+
+[[noreturn]] void no_such_property(const HostObject& o, std::string_view name) {
+    raise(kNoSuchProperty, o.path(),
+          "Objekt unterst\xC3\xBCtzt diese Eigenschaft oder Methode nicht: " + std::string(name));
+}
+
+// The error a property read raised, as the object gave it.
+[[noreturn]] void object_error(EXCEPINFO& e, const HostObject& o) {
+    if (e.pfnDeferredFillIn) e.pfnDeferredFillIn(&e);
+    const HRESULT hr = e.scode ? e.scode : MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, e.wCode);
+    std::string source = e.bstrSource ? utf8(e.bstrSource) : o.path();
+    std::string description = utf8(e.bstrDescription);
+    SysFreeString(e.bstrSource);
+    SysFreeString(e.bstrDescription);
+    SysFreeString(e.bstrHelpFile);
+    raise(static_cast<std::int32_t>(hr), std::move(source), std::move(description));
+}
+
+[[noreturn]] void type_mismatch(const HostObject& o, std::string_view name) {
+    raise(DISP_E_TYPEMISMATCH, o.path(), "Typen unvertr\xC3\xA4glich: " + std::string(name));
+}
+
+}  // namespace
+
+DISPID HostObject::id_of(std::string_view name) const {
+    std::wstring wide = utf16(name);
+    BSTR b = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+    DISPID id = DISPID_UNKNOWN;
+    // Scripting hosts' objects may answer only IDispatchEx, and by any case.
+    IDispatchEx* ex = nullptr;
+    HRESULT hr = E_NOINTERFACE;
+    if (SUCCEEDED(object_->QueryInterface(__uuidof(IDispatchEx), reinterpret_cast<void**>(&ex)))) {
+        hr = ex->GetDispID(b, fdexNameCaseInsensitive, &id);
+        ex->Release();
+    }
+    if (FAILED(hr)) {
+        LPOLESTR names[] = {b};
+        hr = object_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
+    }
+    SysFreeString(b);
+    if (FAILED(hr)) no_such_property(*this, name);
+    return id;
+}
+
+VARIANT HostObject::get(std::string_view name, long index) const {
+    const DISPID id = id_of(name);
+    VARIANT arg;
+    VariantInit(&arg);
+    V_VT(&arg) = VT_I4;
+    V_I4(&arg) = index;
+    DISPPARAMS params{index > 0 ? &arg : nullptr, nullptr, index > 0 ? 1u : 0u, 0};
+    VARIANT result;
+    VariantInit(&result);
+    EXCEPINFO e{};
+    const HRESULT hr = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET | DISPATCH_METHOD,
+                                       &params, &result, &e, nullptr);
+    if (hr == DISP_E_EXCEPTION) object_error(e, *this);
+    if (hr == DISP_E_MEMBERNOTFOUND) no_such_property(*this, name);
+    throw_if_failed(hr);
+    return result;
+}
+
+namespace {
+// The value itself, or what a by-reference Variant points at.
+const VARIANT& deref(const VARIANT& v) {
+    return V_VT(&v) == (VT_BYREF | VT_VARIANT) && V_VARIANTREF(&v) ? *V_VARIANTREF(&v) : v;
+}
+bool empty(const VARIANT& v) { return V_VT(&v) == VT_EMPTY || V_VT(&v) == VT_NULL; }
+
+void change(const VARIANT& v, VARIANT& out, VARTYPE type, const HostObject& o, std::string_view name) {
+    VariantInit(&out);
+    if (FAILED(VariantChangeType(&out, const_cast<VARIANT*>(&v), 0, type))) type_mismatch(o, name);
+}
+}  // namespace
+
+void convert(const VARIANT& value, std::string& out, const HostObject& o, std::string_view name) {
+    const VARIANT& v = deref(value);
+    out.clear();
+    if (empty(v)) return;
+    if (V_VT(&v) == VT_BSTR) {
+        out = utf8(V_BSTR(&v));
+        return;
+    }
+    VARIANT s;
+    change(v, s, VT_BSTR, o, name);
+    out = utf8(V_BSTR(&s));
+    VariantClear(&s);
+}
+
+void convert(const VARIANT& value, bool& out, const HostObject& o, std::string_view name) {
+    const VARIANT& v = deref(value);
+    if (empty(v)) {
+        out = false;
+        return;
+    }
+    VARIANT b;
+    change(v, b, VT_BOOL, o, name);
+    out = V_BOOL(&b) != VARIANT_FALSE;
+}
+
+void convert(const VARIANT& value, std::int64_t& out, std::int64_t lo, std::int64_t hi, const HostObject& o,
+             std::string_view name) {
+    const VARIANT& v = deref(value);
+    if (empty(v)) {
+        out = 0;
+        return;
+    }
+    VARIANT n;
+    change(v, n, VT_I8, o, name);
+    if (V_I8(&n) < lo || V_I8(&n) > hi)
+        raise(DISP_E_OVERFLOW, o.path(),
+              "\xC3\x9C"
+              "berlauf: " +
+                  std::string(name));
+    out = V_I8(&n);
+}
+
+IDispatch* object_of(const VARIANT& value, const HostObject& o, std::string_view name) {
+    const VARIANT& v = deref(value);
+    if (empty(v)) return nullptr;
+    if (V_VT(&v) == VT_DISPATCH) return V_DISPATCH(&v);
+    type_mismatch(o, name);
+}
+
+}  // namespace tamrel::com
