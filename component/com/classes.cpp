@@ -112,13 +112,7 @@ public:
         });
     }
     HRESULT STDMETHODCALLTYPE GenDSKO(::DSKOData* udt, LONG enm, VARIANT date, BSTR* result) override {
-        return returning(result, [&] {
-            if (!udt) fail_with(E_POINTER);
-            DSKOData d = from_com(*udt);
-            std::string r = gen_.GenDSKO(d, enm, date_arg(date));
-            to_com(d, *udt);
-            return r;
-        });
+        return returning(result, [&] { return dsko(gen_, udt, date, enm); });
     }
     HRESULT STDMETHODCALLTYPE GenData(IDispatch* obj, BSTR ab, BSTR st, BSTR version, BSTR micro, VARIANT date,
                                       BSTR* result) override {

@@ -32,12 +32,7 @@ BSTR bstr(std::string_view text) {
 
 bool missing(const VARIANT& v) { return V_VT(&v) == VT_ERROR && V_ERROR(&v) == DISP_E_PARAMNOTFOUND; }
 
-namespace {
-// The Variant a by-reference argument points at, or the argument itself.
-const VARIANT& deref(const VARIANT& v) {
-    return V_VT(&v) == (VT_BYREF | VT_VARIANT) && V_VARIANTREF(&v) ? *V_VARIANTREF(&v) : v;
-}
-}  // namespace
+namespace {}  // namespace
 
 Date date_arg(const VARIANT& arg) {
     const VARIANT& v = deref(arg);

@@ -21,6 +21,11 @@ std::wstring utf16(std::string_view text);
 // A new BSTR of the text; the caller owns it. Throws std::bad_alloc.
 BSTR bstr(std::string_view text);
 
+// The Variant a by-reference Variant points at, or the Variant itself.
+inline const VARIANT& deref(const VARIANT& v) {
+    return V_VT(&v) == (VT_BYREF | VT_VARIANT) && V_VARIANTREF(&v) ? *V_VARIANTREF(&v) : v;
+}
+
 // An optional parameter the caller left out (Invoke passes DISP_E_PARAMNOTFOUND).
 bool missing(const VARIANT& v);
 // The optional Date: left out or empty is the empty date (GetDate's "now");

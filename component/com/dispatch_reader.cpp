@@ -74,10 +74,6 @@ VARIANT HostObject::get(std::string_view name, long index) const {
 }
 
 namespace {
-// The value itself, or what a by-reference Variant points at.
-const VARIANT& deref(const VARIANT& v) {
-    return V_VT(&v) == (VT_BYREF | VT_VARIANT) && V_VARIANTREF(&v) ? *V_VARIANTREF(&v) : v;
-}
 bool empty(const VARIANT& v) { return V_VT(&v) == VT_EMPTY || V_VT(&v) == VT_NULL; }
 
 void change(const VARIANT& v, VARIANT& out, VARTYPE type, const HostObject& o, std::string_view name) {

@@ -47,11 +47,11 @@ std::string vosz(const Gen& g, BSTR a, BSTR e, BSTR f, BSTR firma, long enm, VAR
     set_text_arg(datum, d);
     return r;
 }
-template <class Gen>
-std::string dsko(const Gen& g, ::DSKOData* udt, const VARIANT& date) {
+template <class Gen, class... Extra>
+std::string dsko(const Gen& g, ::DSKOData* udt, const VARIANT& date, Extra... extra) {
     if (!udt) fail_with(E_POINTER);
     DSKOData d = from_com(*udt);
-    std::string r = g.GenDSKO(d, date_arg(date));
+    std::string r = g.GenDSKO(d, extra..., date_arg(date));
     to_com(d, *udt);
     return r;
 }
