@@ -1,14 +1,19 @@
 #!/usr/bin/env bash
-# Builds TamrelFile26.dll for x86_64 and i686 with Debian's mingw-w64 (-posix)
-# compilers and tests the x86_64 server under wine: registration, the
-# scripting host's view of every class (tests/com/*.vbs, against the
-# command line's results), the log file, and unregistration. Each run uses
-# its own WINEPREFIX under build-com/ and ends only its own wineserver.
-# Needs the Release build's tamrel (build/tamrel) for the expected records.
+# Builds TamrelFile26.dll and the vtable test client for x86_64 and i686 with
+# Debian's mingw-w64 (-posix) compilers and tests each under wine of its own
+# width: registration, the scripting host's view of every class
+# (tests/com/*.vbs), every example's whole file and protocol through the
+# client compared byte for byte with `tamrel generate`, error and test-answer
+# replays against `tamrel call` (tests/com/replay.py), the log file, and
+# unregistration. Each run uses its own WINEPREFIX under build-com/ and ends
+# only its own wineserver. 32-bit wine is unpacked privately (never by
+# enabling the i386 architecture). Needs the Release build's tamrel.
+# COM_BENCH=N also times N DEUEV registrations through the client.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 missing=()
-for p in g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev wine wine64 python3; do
+for p in g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev wine wine64 libc6-i386 \
+  nlohmann-json3-dev python3; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
 done
 if ((${#missing[@]})); then
@@ -18,22 +23,58 @@ if ((${#missing[@]})); then
 fi
 jobs=$(nproc)
 for arch in x86_64 i686; do
-  cmake -S . -B build-com/$arch -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE=cmake/mingw.cmake -DTAMREL_WIN_ARCH=$arch >/dev/null
+  cmake -S . -B build-com/$arch -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE=cmake/mingw.cmake \
+    -DTAMREL_WIN_ARCH=$arch >/dev/null
   cmake --build build-com/$arch -j"$jobs"
 done
 
-work=$(realpath build-com/run64)
-rm -rf "$work"
-mkdir -p "$work"
-export WINEPREFIX=$work/prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" DISPLAY=
-wine=/usr/lib/wine/wine64
-trap 'WINEPREFIX=$WINEPREFIX /usr/lib/wine/wineserver -k 2>/dev/null || true' EXIT
-$wine wineboot -i >/dev/null 2>&1
-cp build-com/x86_64/component/com/TamrelFile26.dll "$work/"
+# 32-bit wine, the same version as the installed 64-bit one, unpacked under
+# build-com/wine32 with apt state of its own.
+wine32_root() {
+  local dir root version
+  dir=$(realpath build-com)/wine32
+  root=$dir/root
+  if [[ ! -x $root/usr/lib/wine/wine ]]; then
+    version=$(dpkg-query -W -f='${Version}' libwine)
+    mkdir -p "$dir/lists/partial" "$dir/cache/archives/partial" "$dir/debs"
+    local apt=(-o APT::Architectures::=i386 -o "Dir::State::Lists=$dir/lists" -o "Dir::Cache=$dir/cache"
+      -o Debug::NoLocking=1)
+    # One index (security's) may fail to load; the packages come from the main archive.
+    apt-get "${apt[@]}" update -qq >/dev/null 2>&1 || true
+    (cd "$dir/debs" && apt-get "${apt[@]}" download -qq "wine32:i386=$version" "libwine:i386=$version") >&2
+    rm -rf "$root"
+    for deb in "$dir"/debs/*.deb; do dpkg -x "$deb" "$root"; done
+    # As libwine's install script does: zlib1.dll from libz-mingw-w64, marked as a wine builtin.
+    local in=/usr/i686-w64-mingw32/lib/zlib1.dll
+    {
+      head -c 64 "$in"
+      printf 'Wine builtin DLL'
+      printf '\0%.0s' {1..16}
+      tail -c +97 "$in"
+    } >"$root/usr/lib/i386-linux-gnu/wine/i386-windows/zlib1.dll"
+  fi
+  echo "$root"
+}
+
+fail() { echo "com-test: $*" >&2; exit 1; }
 win() { echo "Z:${1//\//\\}"; }
 
-# The expected values, from the command line's call protocol.
-build/tamrel call tests/com/frames.ndjson | python3 -c '
+# Runs every test for one architecture: $1 the build folder's arch, $2 the
+# wine loader, $3 WINEARCH.
+test_arch() {
+  local arch=$1 wine=$2 work
+  work=$(realpath -m build-com/run-$arch)
+  rm -rf "$work"
+  mkdir -p "$work"
+  (
+    export WINEPREFIX=$work/prefix WINEARCH=$3 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" DISPLAY=
+    export WINESERVER=/usr/lib/wine/wineserver
+    trap '/usr/lib/wine/wineserver -k 2>/dev/null || true' EXIT
+    "$wine" wineboot -i >/dev/null 2>&1
+    cp build-com/$arch/component/com/TamrelFile26.dll build-com/$arch/tests/com/client/com_client.exe "$work/"
+
+    # The expected values, from the command line's call protocol.
+    build/tamrel call tests/com/frames.ndjson | python3 -c '
 import json, sys
 lines = ["%d\t%s" % (i + 1, json.loads(l)["result"]) for i, l in enumerate(sys.stdin)]
 lines += ["firma1\tFirma M\u00fcller", "firma3\tLohnb\u00fcro S\u00fcd",
@@ -41,24 +82,49 @@ lines += ["firma1\tFirma M\u00fcller", "firma3\tLohnb\u00fcro S\u00fcd",
 sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-le"))
 ' >"$work/expected.txt"
 
-fail() { echo "com-test: $*" >&2; exit 1; }
-$wine regsvr32 /s "$(win "$work/TamrelFile26.dll")" || fail "regsvr32 failed"
-export TAMREL_LOG
-TAMREL_LOG=$(win "$work/tamrel.log")
-WINEDLLOVERRIDES="mscoree,mshtml=" $wine cscript //nologo "$(win "$PWD/tests/com/generators.vbs")" \
-  "$(win "$work/expected.txt")" | tr -d '\r' | tee "$work/generators.out"
-grep -q "^END OF GENERATOR TESTS$" "$work/generators.out" || fail "the script did not run to its end"
-grep -q "^[0-9]* passed, 0 failed$" "$work/generators.out" || fail "checks failed"
-# The failing read logged one line naming the object.
-grep -q "^Fehler -2146827850 in TamrelFile26 [0-9.]* (Zeile 0): objMeldung -> Objekt unterst" "$work/tamrel.log" ||
-  fail "no log line for the failing read"
+    "$wine" regsvr32 /s "$(win "$work/TamrelFile26.dll")" 2>/dev/null || fail "$arch: regsvr32 failed"
+    export TAMREL_LOG
+    TAMREL_LOG=$(win "$work/tamrel.log")
+    "$wine" cscript //nologo "$(win "$PWD/tests/com/generators.vbs")" "$(win "$work/expected.txt")" 2>/dev/null |
+      tr -d '\r' | tee "$work/generators.out"
+    grep -q "^END OF GENERATOR TESTS$" "$work/generators.out" || fail "$arch: the script did not run to its end"
+    grep -q "^[0-9]* passed, 0 failed$" "$work/generators.out" || fail "$arch: script checks failed"
+    # The failing read logged one line naming the object.
+    grep -q "^Fehler -2146827850 in TamrelFile26 [0-9.]* (Zeile 0): objMeldung -> Objekt unterst" "$work/tamrel.log" ||
+      fail "$arch: no log line for the failing read"
 
-$wine regsvr32 /s /u "$(win "$work/TamrelFile26.dll")" || fail "regsvr32 /u failed"
-cat >"$work/gone.vbs" <<'VBS'
+    # Every example's whole file and protocol, through the vtable.
+    local n ex
+    for ex in examples/*.json; do
+      n=$(basename "$ex" .json)
+      "$wine" "$work/com_client.exe" generate "$(win "$PWD/$ex")" "$(win "$work/$n.txt")" "$(win "$work/$n.proto")" 2>/dev/null ||
+        fail "$arch: $n: the client failed"
+      if [[ $n == xml-* ]]; then
+        build/tamrel generate "$ex" -o "$work/$n.want" 2>/dev/null
+        : >"$work/$n.want-proto"
+      else
+        build/tamrel generate "$ex" -o "$work/$n.want" --protocol "$work/$n.want-proto" 2>/dev/null
+      fi
+      cmp -s "$work/$n.txt" "$work/$n.want" || fail "$arch: $n: the file differs from tamrel generate's"
+      cmp -s "$work/$n.proto" "$work/$n.want-proto" || fail "$arch: $n: the protocol differs from tamrel generate's"
+    done
+    echo "com-test: $arch: $(ls examples/*.json | wc -l) example files and protocols identical to tamrel generate's"
+    python3 tests/com/replay.py build/tamrel "$work" "$wine" "$work/com_client.exe" || fail "$arch: replay failed"
+    if [[ -n ${COM_BENCH:-} ]]; then
+      "$wine" "$work/com_client.exe" bench "$(win "$PWD/examples/deuev-registration.json")" "$COM_BENCH" 2>/dev/null
+    fi
+
+    "$wine" regsvr32 /s /u "$(win "$work/TamrelFile26.dll")" 2>/dev/null || fail "$arch: regsvr32 /u failed"
+    cat >"$work/gone.vbs" <<'VBS'
 On Error Resume Next
 Set g = CreateObject("TamrelFile26.clsGenMeldung")
 WScript.Echo "after unregistering: " & Err.Number
 VBS
-$wine cscript //nologo "$(win "$work/gone.vbs")" | tr -d '\r' | grep -q "^after unregistering: 429$" ||
-  fail "a class can still be created after unregistering"
-echo "com-test: x86_64 server passed"
+    "$wine" cscript //nologo "$(win "$work/gone.vbs")" 2>/dev/null | tr -d '\r' |
+      grep -q "^after unregistering: 429$" || fail "$arch: a class can still be created after unregistering"
+    echo "com-test: $arch server passed"
+  )
+}
+
+test_arch x86_64 /usr/lib/wine/wine64 win64
+test_arch i686 "$(wine32_root)/usr/lib/wine/wine" win32

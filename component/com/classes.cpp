@@ -13,6 +13,7 @@
 #include "component/bindings/queries.h"
 #include "component/com/com_object.h"
 #include "component/com/method_args.h"
+#include "component/com/server_host.h"
 #include "protocol/clsProtoEntry.h"
 #include "queries/clsGenAbfrStammdatenUV/clsGenAbfrStammdatenUV.h"
 #include "queries/clsGenAbfrVers/clsGenAbfrVers.h"
@@ -128,7 +129,8 @@ public:
     }
 
 private:
-    clsGenBeitrNachw gen_{server_host()};
+    Host host_ = host_with_kept_tests();
+    clsGenBeitrNachw gen_{host_};
 };
 
 class Asyl_ : public Dual<_clsGenAsyl> {

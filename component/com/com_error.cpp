@@ -3,7 +3,6 @@
 #include <oleauto.h>
 
 #include <cstdio>
-#include <mutex>
 #include <new>
 
 #include "component/com/com_text.h"
@@ -52,33 +51,6 @@ HRESULT current_error_as_hresult() noexcept {
     } catch (...) {
         return E_UNEXPECTED;
     }
-}
-
-namespace {
-std::wstring log_path() {
-    wchar_t buffer[MAX_PATH + 1];
-    DWORD n = GetEnvironmentVariableW(L"TAMREL_LOG", buffer, MAX_PATH);
-    if (n > 0 && n < MAX_PATH) return std::wstring(buffer, n);
-    n = GetTempPathW(MAX_PATH, buffer);
-    return std::wstring(buffer, n < MAX_PATH ? n : 0) + L"TamrelFile26.log";
-}
-
-// One line, UTF-8, CR LF, appended; a failure to log is ignored (the
-// error on its way must not be replaced).
-void append_log_line(std::string_view line) {
-    static std::mutex mutex;
-    std::lock_guard lock(mutex);
-    FILE* f = _wfopen(log_path().c_str(), L"ab");
-    if (!f) return;
-    std::fwrite(line.data(), 1, line.size(), f);
-    std::fwrite("\r\n", 1, 2, f);
-    std::fclose(f);
-}
-}  // namespace
-
-const Host& server_host() {
-    static const Host host{append_log_line, [] { return system_now(); }, {}};
-    return host;
 }
 
 }  // namespace tamrel::com

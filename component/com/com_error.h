@@ -8,7 +8,6 @@
 
 #include <string>
 
-#include "core/host.h"
 
 namespace tamrel::com {
 
@@ -33,10 +32,5 @@ HRESULT guarded(Body&& body) noexcept {
         return current_error_as_hresult();
     }
 }
-
-// The host of every generator object: log lines appended to the log file
-// (TAMREL_LOG, else %TEMP%\TamrelFile26.log), the computer's clock, the data
-// object's tests answering false.
-const Host& server_host();
 
 }  // namespace tamrel::com

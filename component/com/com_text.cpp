@@ -23,10 +23,13 @@ std::wstring utf16(std::string_view text) {
     return out;
 }
 
+// Straight into the BSTR: one allocation, none for a buffer between.
 BSTR bstr(std::string_view text) {
-    const std::wstring w = utf16(text);
-    BSTR b = SysAllocStringLen(w.data(), static_cast<UINT>(w.size()));
+    const int n = text.empty() ? 0
+                               : MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
+    BSTR b = SysAllocStringLen(nullptr, static_cast<UINT>(n));
     if (!b) throw std::bad_alloc();
+    if (n) MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), b, n);
     return b;
 }
 

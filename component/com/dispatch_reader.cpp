@@ -1,7 +1,5 @@
 #include "component/com/dispatch_reader.h"
 
-#include <dispex.h>
-
 #include "component/com/com_error.h"
 #include "component/com/com_text.h"
 #include "core/error.h"
@@ -35,33 +33,42 @@ constexpr HRESULT kNoSuchProperty = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTRO
 
 }  // namespace
 
-DISPID HostObject::id_of(std::string_view name) const {
-    std::wstring wide = utf16(name);
-    BSTR b = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
-    DISPID id = DISPID_UNKNOWN;
+HostObject::HostObject(IDispatch* object, std::string path) : object_(object), path_(std::move(path)) {
     // Scripting hosts' objects may answer only IDispatchEx, and by any case.
-    IDispatchEx* ex = nullptr;
+    if (FAILED(object_->QueryInterface(__uuidof(IDispatchEx), reinterpret_cast<void**>(&ex_)))) ex_ = nullptr;
+}
+
+HostObject::~HostObject() {
+    if (ex_) ex_->Release();
+}
+
+DISPID HostObject::id_of(std::string_view name) const {
+    // Property names are short and ASCII: widened on the stack.
+    wchar_t wide[64];
+    std::wstring long_name;
+    LPOLESTR text = wide;
+    if (name.size() < 64) {
+        for (std::size_t i = 0; i < name.size(); ++i) wide[i] = static_cast<unsigned char>(name[i]);
+        wide[name.size()] = L'\0';
+    } else {
+        long_name = utf16(name);
+        text = long_name.data();
+    }
+    DISPID id = DISPID_UNKNOWN;
     HRESULT hr = E_NOINTERFACE;
-    if (SUCCEEDED(object_->QueryInterface(__uuidof(IDispatchEx), reinterpret_cast<void**>(&ex)))) {
-        hr = ex->GetDispID(b, fdexNameCaseInsensitive, &id);
-        ex->Release();
+    if (ex_) {
+        BSTR b = SysAllocString(text);
+        hr = ex_->GetDispID(b, fdexNameCaseInsensitive, &id);
+        SysFreeString(b);
     }
-    if (FAILED(hr)) {
-        LPOLESTR names[] = {b};
-        hr = object_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
-    }
-    SysFreeString(b);
+    if (FAILED(hr)) hr = object_->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
     if (FAILED(hr)) no_such_property(*this, name);
     return id;
 }
 
-VARIANT HostObject::get(std::string_view name, long index) const {
+VARIANT HostObject::invoke(std::string_view name, VARIANT* argument) const {
     const DISPID id = id_of(name);
-    VARIANT arg;
-    VariantInit(&arg);
-    V_VT(&arg) = VT_I4;
-    V_I4(&arg) = index;
-    DISPPARAMS params{index > 0 ? &arg : nullptr, nullptr, index > 0 ? 1u : 0u, 0};
+    DISPPARAMS params{argument, nullptr, argument ? 1u : 0u, 0};
     VARIANT result;
     VariantInit(&result);
     EXCEPINFO e{};
@@ -71,6 +78,23 @@ VARIANT HostObject::get(std::string_view name, long index) const {
     if (hr == DISP_E_MEMBERNOTFOUND) no_such_property(*this, name);
     throw_if_failed(hr);
     return result;
+}
+
+VARIANT HostObject::get(std::string_view name, long index) const {
+    VARIANT arg;
+    VariantInit(&arg);
+    V_VT(&arg) = VT_I4;
+    V_I4(&arg) = index;
+    return invoke(name, index > 0 ? &arg : nullptr);
+}
+
+VARIANT HostObject::call(std::string_view name, std::string_view text) const {
+    VARIANT text_arg;
+    VariantInit(&text_arg);
+    V_VT(&text_arg) = VT_BSTR;
+    V_BSTR(&text_arg) = bstr(text);
+    Value arg(text_arg);
+    return invoke(name, &arg.v);
 }
 
 namespace {

@@ -7,6 +7,7 @@
 #pragma once
 #include <windows.h>  // first: the other system headers build on it
 
+#include <dispex.h>
 #include <oleauto.h>
 
 #include <limits>
@@ -25,15 +26,22 @@ namespace tamrel::com {
 // log line of a failing read.
 class HostObject {
 public:
-    HostObject(IDispatch* object, std::string path) : object_(object), path_(std::move(path)) {}
+    HostObject(IDispatch* object, std::string path);
+    ~HostObject();
+    HostObject(const HostObject&) = delete;
+    HostObject& operator=(const HostObject&) = delete;
     // The property's value (an entry or item when `index` > 0). A property
     // the object lacks, or whose read raises, raises the object's error.
     VARIANT get(std::string_view name, long index = 0) const;
+    // The result of the object's method `name` called with one text.
+    VARIANT call(std::string_view name, std::string_view text) const;
     const std::string& path() const { return path_; }
 
 private:
     DISPID id_of(std::string_view name) const;
+    VARIANT invoke(std::string_view name, VARIANT* argument) const;
     IDispatch* object_;
+    IDispatchEx* ex_ = nullptr;  // the scripting hosts' interface, when the object has it
     std::string path_;
 };
 

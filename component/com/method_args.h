@@ -8,6 +8,7 @@
 #include "component/com/com_error.h"
 #include "component/com/com_text.h"
 #include "component/com/dispatch_reader.h"
+#include "component/com/server_host.h"
 #include "core/error.h"
 #include "core/routine.h"
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "component/com/classes.h"
+#include "component/com/com_error.h"
 #include "component/com/com_object.h"
 #include "component/com/com_text.h"
 
@@ -60,11 +61,9 @@ public:
         *out = nullptr;
         if (outer) return CLASS_E_NOAGGREGATION;
         IUnknown* object = nullptr;
-        try {
-            object = entry_.create();
-        } catch (...) {
-            return E_OUTOFMEMORY;
-        }
+        // A generator that cannot be made (its test object failing) says why.
+        const HRESULT made = guarded([&] { object = entry_.create(); });
+        if (FAILED(made)) return made;
         const HRESULT hr = object->QueryInterface(iid, out);
         object->Release();
         return hr;

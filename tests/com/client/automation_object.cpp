@@ -1,0 +1,67 @@
+#include "automation_object.h"
+
+#include "component/com/com_text.h"
+
+using tamrel::com::utf8;
+
+namespace client {
+
+bool same_name(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if ((a[i] | 0x20) != (b[i] | 0x20)) return false;
+    return true;
+}
+
+HRESULT AutomationObject::QueryInterface(REFIID iid, void** out) {
+    if (!out) return E_POINTER;
+    if (iid == IID_IUnknown || iid == IID_IDispatch) {
+        *out = static_cast<IDispatch*>(this);
+        AddRef();
+        return S_OK;
+    }
+    *out = nullptr;
+    return E_NOINTERFACE;
+}
+
+ULONG AutomationObject::Release() {
+    const ULONG n = --refs_;
+    if (n == 0) delete this;
+    return n;
+}
+
+HRESULT AutomationObject::GetTypeInfoCount(UINT* n) {
+    if (!n) return E_POINTER;
+    *n = 0;
+    return S_OK;
+}
+
+HRESULT AutomationObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
+    HRESULT hr = S_OK;
+    for (UINT i = 0; i < count; ++i) {
+        // Names are ASCII as a rule: narrowed on the stack.
+        char narrow[64];
+        const std::size_t n = wcslen(names[i]);
+        bool ascii = n < sizeof narrow;
+        for (std::size_t k = 0; ascii && k < n; ++k) {
+            ascii = names[i][k] < 0x80;
+            narrow[k] = static_cast<char>(names[i][k]);
+        }
+        ids[i] = ascii ? id_of(std::string_view(narrow, n)) : id_of(utf8(names[i], n));
+        if (ids[i] == DISPID_UNKNOWN) hr = DISP_E_UNKNOWNNAME;
+    }
+    return hr;
+}
+
+HRESULT AutomationObject::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT* result,
+                                 EXCEPINFO* error, UINT*) {
+    VARIANT ignored;
+    VARIANT& out = result ? *result : ignored;
+    VariantInit(&out);
+    static DISPPARAMS none{nullptr, nullptr, 0, 0};
+    const HRESULT hr = answer(id, params ? *params : none, out, error);
+    if (!result) VariantClear(&ignored);
+    return hr;
+}
+
+}  // namespace client

@@ -1,0 +1,67 @@
+// A host's data object made from a report's JSON, read by the server through
+// IDispatch as it reads any automation object: each key a property (any
+// case), nested objects as sub-objects, arrays and index maps as indexed
+// properties, a property absent from the JSON as Empty. What the JSON
+// reader derives when left out (the bounds of an indexed property, the
+// count of a repeating group) is derived here the same way. A value
+// {"$raise": [number, source, description]} raises that error when read.
+#pragma once
+#include <nlohmann/json.hpp>
+
+#include <unordered_map>
+#include <vector>
+
+#include "automation_object.h"
+
+namespace client {
+
+using nlohmann::json;
+
+class JsonObject : public AutomationObject {
+public:
+    explicit JsonObject(const json& value);  // `value` outlives the object
+
+protected:
+    DISPID id_of(std::string_view name) override;
+    HRESULT answer(DISPID id, const DISPPARAMS& params, VARIANT& result, EXCEPINFO* error) override;
+
+private:
+    struct Slot {
+        std::string name;
+        const json* value;  // nullptr: absent from the JSON
+    };
+    const json* member(std::string_view name) const;
+    bool derived(std::string_view name, long& out) const;
+    std::vector<Slot> slots_;                       // by DISPID - 1
+    std::unordered_map<std::string, DISPID> ids_;  // by lower-case name
+    const json& value_;
+};
+
+// The host program's test object: NameTest, EmpfBknTest1 and EmpfBknTest2
+// answer true for the texts listed under their names (the job's "tests").
+class TestAnswers : public AutomationObject {
+public:
+    explicit TestAnswers(const json& tests) : tests_(tests) {}
+
+protected:
+    DISPID id_of(std::string_view name) override;
+    HRESULT answer(DISPID id, const DISPPARAMS& params, VARIANT& result, EXCEPINFO* error) override;
+
+private:
+    const json& tests_;
+};
+
+// Registers TestAnswers under the ProgID the server asks for, for the life
+// of this object; without tests, makes sure none is registered.
+class TestAnswersRegistration {
+public:
+    explicit TestAnswersRegistration(const json& tests);
+    ~TestAnswersRegistration();
+    TestAnswersRegistration(const TestAnswersRegistration&) = delete;
+    TestAnswersRegistration& operator=(const TestAnswersRegistration&) = delete;
+
+private:
+    DWORD cookie_ = 0;
+};
+
+}  // namespace client
