@@ -48,7 +48,7 @@ const json* entry(const json& v, long index) {
     return nullptr;
 }
 
-HRESULT to_variant(const json* v, VARIANT& out) {
+HRESULT to_variant(const json* v, VARIANT& out, const std::string& path) {
     if (!v || v->is_null()) return S_OK;
     if (v->is_string()) {
         V_VT(&out) = VT_BSTR;
@@ -70,7 +70,7 @@ HRESULT to_variant(const json* v, VARIANT& out) {
         V_R8(&out) = v->get<double>();
     } else if (v->is_object()) {
         V_VT(&out) = VT_DISPATCH;
-        V_DISPATCH(&out) = new JsonObject(*v);
+        V_DISPATCH(&out) = new JsonObject(*v, path);
     }
     return S_OK;
 }
@@ -103,7 +103,7 @@ const std::string& lower(std::string_view name) {
 
 }  // namespace
 
-JsonObject::JsonObject(const json& value) : value_(value) {
+JsonObject::JsonObject(const json& value, std::string path) : value_(value), path_(std::move(path)) {
     if (!value.is_object()) return;
     for (const auto& [k, v] : value.items()) {
         slots_.push_back({k, &v});
@@ -155,6 +155,7 @@ HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result,
     if (id < 1 || static_cast<std::size_t>(id) > slots_.size()) return DISP_E_MEMBERNOTFOUND;
     const Slot& slot = slots_[static_cast<std::size_t>(id - 1)];
     const long index = index_argument(params);
+    if (trace) std::fprintf(trace, "%s\t%s\t%ld\n", path_.c_str(), slot.name.c_str(), index);
     if (!slot.value) {
         long n = 0;
         if (index == 0 && derived(slot.name, n)) {
@@ -164,7 +165,8 @@ HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result,
         return S_OK;
     }
     if (slot.value->is_object() && slot.value->contains("$raise")) return raise(slot.value->at("$raise"), error);
-    return to_variant(index > 0 ? entry(*slot.value, index) : slot.value, result);
+    return to_variant(index > 0 ? entry(*slot.value, index) : slot.value, result,
+                      path_ + "." + slot.name + (index > 0 ? "()" : ""));
 }
 
 namespace {

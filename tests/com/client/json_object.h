@@ -8,6 +8,7 @@
 #pragma once
 #include <nlohmann/json.hpp>
 
+#include <cstdio>
 #include <unordered_map>
 #include <vector>
 
@@ -19,7 +20,11 @@ using nlohmann::json;
 
 class JsonObject : public AutomationObject {
 public:
-    explicit JsonObject(const json& value);  // `value` outlives the object
+    // `value` outlives the object; `path` names it in the trace.
+    explicit JsonObject(const json& value, std::string path = "");
+    // When set, every read is written to it as "path<TAB>property<TAB>index":
+    // the shape of each data object as the server reads it.
+    static inline std::FILE* trace = nullptr;
 
 protected:
     DISPID id_of(std::string_view name) override;
@@ -35,6 +40,7 @@ private:
     std::vector<Slot> slots_;                       // by DISPID - 1
     std::unordered_map<std::string, DISPID> ids_;  // by lower-case name
     const json& value_;
+    std::string path_;
 };
 
 // The host program's test object: NameTest, EmpfBknTest1 and EmpfBknTest2
