@@ -94,6 +94,12 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
     grep -q "^Fehler -2146827850 in TamrelFile26 [0-9.]* (Zeile 0): objMeldung -> Objekt unterst" "$work/tamrel.log" ||
       fail "$arch: no log line for the failing read"
 
+    # The scripting example runs to its error line.
+    "$wine" cscript //nologo "$(win "$PWD/examples/com/deuev-registration.vbs")" 2>/dev/null | tr -d '\r' \
+      >"$work/example.out"
+    grep -q '^error 91 (objMeldung): Objektvariable nicht festgelegt$' "$work/example.out" ||
+      fail "$arch: examples/com/deuev-registration.vbs did not run to its end"
+
     # Every example's whole file and protocol, through the vtable.
     local n ex
     for ex in examples/*.json; do

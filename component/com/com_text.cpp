@@ -9,6 +9,10 @@ namespace tamrel::com {
 
 std::string utf8(const wchar_t* text, std::size_t length) {
     if (length == 0) return {};
+    // Most values are ASCII: copied without the system's converter.
+    std::size_t i = 0;
+    while (i < length && text[i] < 0x80) ++i;
+    if (i == length) return std::string(text, text + length);
     const int n = WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(length), nullptr, 0, nullptr, nullptr);
     std::string out(static_cast<std::size_t>(n), '\0');
     WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(length), out.data(), n, nullptr, nullptr);

@@ -126,6 +126,10 @@ void convert(const VARIANT& value, bool& out, const HostObject& o, std::string_v
         out = false;
         return;
     }
+    if (V_VT(&v) == VT_BOOL) {
+        out = V_BOOL(&v) != VARIANT_FALSE;
+        return;
+    }
     VARIANT b;
     change(v, b, VT_BOOL, o, name);
     out = V_BOOL(&b) != VARIANT_FALSE;
@@ -134,18 +138,25 @@ void convert(const VARIANT& value, bool& out, const HostObject& o, std::string_v
 void convert(const VARIANT& value, std::int64_t& out, std::int64_t lo, std::int64_t hi, const HostObject& o,
              std::string_view name) {
     const VARIANT& v = deref(value);
-    if (empty(v)) {
-        out = 0;
-        return;
+    std::int64_t x = 0;
+    switch (V_VT(&v)) {  // the usual types without the system's conversion
+        case VT_EMPTY:
+        case VT_NULL: break;
+        case VT_I2: x = V_I2(&v); break;
+        case VT_I4: x = V_I4(&v); break;
+        case VT_UI1: x = V_UI1(&v); break;
+        default: {
+            VARIANT n;
+            change(v, n, VT_I8, o, name);
+            x = V_I8(&n);
+        }
     }
-    VARIANT n;
-    change(v, n, VT_I8, o, name);
-    if (V_I8(&n) < lo || V_I8(&n) > hi)
+    if (x < lo || x > hi)
         raise(DISP_E_OVERFLOW, o.path(),
               "\xC3\x9C"
               "berlauf: " +
                   std::string(name));
-    out = V_I8(&n);
+    out = x;
 }
 
 IDispatch* object_of(const VARIANT& value, const HostObject& o, std::string_view name) {

@@ -7,6 +7,7 @@
 #include "component/com/server_host.h"
 
 using tamrel::com::bstr;
+using tamrel::com::utf16;
 using tamrel::com::utf8;
 
 namespace client {
@@ -92,27 +93,29 @@ long index_argument(const DISPPARAMS& params) {
     return V_I4(&i);
 }
 
-// The name in lower case, in a buffer kept from call to call.
-const std::string& lower(std::string_view name) {
-    thread_local std::string out;
-    out.assign(name);
-    for (char& c : out)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c | 0x20);
-    return out;
-}
-
 }  // namespace
+
+std::size_t JsonObject::NameHash::operator()(std::string_view name) const {
+    std::uint64_t h = 14695981039346656037ull;  // FNV-1a over the name in lower case
+    for (char c : name) h = (h ^ static_cast<unsigned char>(c | 0x20)) * 1099511628211ull;
+    return static_cast<std::size_t>(h);
+}
 
 JsonObject::JsonObject(const json& value, std::string path) : value_(value), path_(std::move(path)) {
     if (!value.is_object()) return;
     for (const auto& [k, v] : value.items()) {
-        slots_.push_back({k, &v});
-        ids_.emplace(lower(k), static_cast<DISPID>(slots_.size()));
+        slots_.push_back({k, &v, false, 0, {}, nullptr});
+        ids_.emplace(k, static_cast<DISPID>(slots_.size()));
     }
 }
 
+JsonObject::~JsonObject() {
+    for (Slot& s : slots_)
+        if (s.child) s.child->Release();
+}
+
 const json* JsonObject::member(std::string_view name) const {
-    const auto it = ids_.find(lower(name));
+    const auto it = ids_.find(name);
     return it == ids_.end() ? nullptr : slots_[static_cast<std::size_t>(it->second - 1)].value;
 }
 
@@ -144,29 +147,48 @@ bool JsonObject::derived(std::string_view name, long& out) const {
 }
 
 DISPID JsonObject::id_of(std::string_view name) {
-    const std::string& key = lower(name);
-    if (const auto it = ids_.find(key); it != ids_.end()) return it->second;
-    slots_.push_back({std::string(name), nullptr});
-    ids_.emplace(key, static_cast<DISPID>(slots_.size()));
+    if (const auto it = ids_.find(name); it != ids_.end()) return it->second;
+    Slot slot{std::string(name), nullptr, false, 0, {}, nullptr};
+    slot.has_derived = derived(name, slot.derived);
+    slots_.push_back(std::move(slot));
+    ids_.emplace(std::string(name), static_cast<DISPID>(slots_.size()));
     return static_cast<DISPID>(slots_.size());
+}
+
+// A property read without an index: texts kept in UTF-16, sub-objects kept.
+HRESULT JsonObject::whole(Slot& slot, VARIANT& result) {
+    const json& v = *slot.value;
+    if (v.is_string()) {
+        if (slot.text.empty() && !v.get_ref<const std::string&>().empty()) slot.text = utf16(v.get_ref<const std::string&>());
+        V_VT(&result) = VT_BSTR;
+        V_BSTR(&result) = SysAllocStringLen(slot.text.data(), static_cast<UINT>(slot.text.size()));
+        return S_OK;
+    }
+    if (v.is_object()) {
+        if (!slot.child) slot.child = new JsonObject(v, path_ + "." + slot.name);
+        slot.child->AddRef();
+        V_VT(&result) = VT_DISPATCH;
+        V_DISPATCH(&result) = slot.child;
+        return S_OK;
+    }
+    return to_variant(&v, result, path_ + "." + slot.name);
 }
 
 HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result, EXCEPINFO* error) {
     if (id < 1 || static_cast<std::size_t>(id) > slots_.size()) return DISP_E_MEMBERNOTFOUND;
-    const Slot& slot = slots_[static_cast<std::size_t>(id - 1)];
+    Slot& slot = slots_[static_cast<std::size_t>(id - 1)];
     const long index = index_argument(params);
     if (trace) std::fprintf(trace, "%s\t%s\t%ld\n", path_.c_str(), slot.name.c_str(), index);
     if (!slot.value) {
-        long n = 0;
-        if (index == 0 && derived(slot.name, n)) {
+        if (index == 0 && slot.has_derived) {
             V_VT(&result) = VT_I4;
-            V_I4(&result) = n;
+            V_I4(&result) = slot.derived;
         }
         return S_OK;
     }
     if (slot.value->is_object() && slot.value->contains("$raise")) return raise(slot.value->at("$raise"), error);
-    return to_variant(index > 0 ? entry(*slot.value, index) : slot.value, result,
-                      path_ + "." + slot.name + (index > 0 ? "()" : ""));
+    if (index == 0) return whole(slot, result);
+    return to_variant(entry(*slot.value, index), result, path_ + "." + slot.name + "()");
 }
 
 namespace {

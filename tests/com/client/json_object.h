@@ -31,14 +31,31 @@ protected:
     HRESULT answer(DISPID id, const DISPPARAMS& params, VARIANT& result, EXCEPINFO* error) override;
 
 private:
+    // One property as asked, with what its reads can keep: a property is
+    // read once per report, and a data object is often read again.
     struct Slot {
         std::string name;
-        const json* value;  // nullptr: absent from the JSON
+        const json* value;       // nullptr: absent from the JSON
+        bool has_derived = false;
+        long derived = 0;        // its value when absent (bounds, counts)
+        std::wstring text;       // a text value, in UTF-16
+        IDispatch* child = nullptr;  // a sub-object, made at its first read
     };
+    // Names in any case, found without a copy.
+    struct NameHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view name) const;
+    };
+    struct NameEqual {
+        using is_transparent = void;
+        bool operator()(std::string_view a, std::string_view b) const { return same_name(a, b); }
+    };
+    ~JsonObject() override;
     const json* member(std::string_view name) const;
     bool derived(std::string_view name, long& out) const;
-    std::vector<Slot> slots_;                       // by DISPID - 1
-    std::unordered_map<std::string, DISPID> ids_;  // by lower-case name
+    HRESULT whole(Slot& slot, VARIANT& result);
+    std::vector<Slot> slots_;  // by DISPID - 1
+    std::unordered_map<std::string, DISPID, NameHash, NameEqual> ids_;
     const json& value_;
     std::string path_;
 };
