@@ -29,6 +29,18 @@ for arch in x86_64 i686; do
   cmake --build build-com/$arch -j"$jobs"
 done
 
+# What each DLL needs and offers: system DLLs only, the four server functions.
+for arch in x86_64 i686; do
+  dll=build-com/$arch/component/com/TamrelFile26.dll
+  imports=$(${arch}-w64-mingw32-objdump -p "$dll" | sed -n 's/^\s*DLL Name: //p' | tr 'A-Z' 'a-z' | sort -u | tr '\n' ' ')
+  [[ $imports == "advapi32.dll kernel32.dll msvcrt.dll ole32.dll oleaut32.dll " ]] ||
+    { echo "com-test: $arch: unexpected imports: $imports" >&2; exit 1; }
+  exports=$(${arch}-w64-mingw32-objdump -p "$dll" | sed -n '/\[Ordinal\/Name Pointer\] Table/,/^$/p' |
+    sed -n 's/^\s*\[ *[0-9]*\] //p' | tr '\n' ' ')
+  [[ $exports == "DllCanUnloadNow DllGetClassObject DllRegisterServer DllUnregisterServer " ]] ||
+    { echo "com-test: $arch: unexpected exports: $exports" >&2; exit 1; }
+done
+
 # 32-bit wine, the same version as the installed 64-bit one, unpacked under
 # build-com/wine32 with apt state of its own.
 wine32_root() {
@@ -84,6 +96,15 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
 ' >"$work/expected.txt"
 
     "$wine" regsvr32 /s "$(win "$work/TamrelFile26.dll")" 2>/dev/null || fail "$arch: regsvr32 failed"
+    # Every key the server owns: its ProgIDs and the identifiers of its type library.
+    ours() {
+      "$wine" regedit /E "$(win "$work/classes.reg")" HKEY_CLASSES_ROOT 2>/dev/null
+      iconv -f UTF-16 -t UTF-8 "$work/classes.reg" | grep '^\[' |
+        grep -i -F -e TamrelFile26 $(grep -o -i -E '[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}' \
+          component/com/TamrelFile26.idl | sed 's/^/-e /') || true
+    }
+    registered=$(ours | wc -l)
+    ((registered >= 14 * 3 + 3)) || fail "$arch: only $registered keys registered"
     export TAMREL_LOG
     TAMREL_LOG=$(win "$work/tamrel.log")
     "$wine" cscript //nologo "$(win "$PWD/tests/com/generators.vbs")" "$(win "$work/expected.txt")" 2>/dev/null |
@@ -129,6 +150,8 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
     fi
 
     "$wine" regsvr32 /s /u "$(win "$work/TamrelFile26.dll")" 2>/dev/null || fail "$arch: regsvr32 /u failed"
+    left=$(ours)
+    [[ -z $left ]] || fail "$arch: regsvr32 /u left keys behind: $left"
     cat >"$work/gone.vbs" <<'VBS'
 On Error Resume Next
 Set g = CreateObject("TamrelFile26.clsGenMeldung")
