@@ -81,6 +81,9 @@ int run(int argc, char** argv) {
                      "\u0153), each told on standard error");
     genCmd->add_flag("--crlf", go.crlf, "End lines with CR LF instead of LF");
     genCmd->add_flag("--keep-going", go.keepGoing, "Leave failed reports out instead of stopping");
+    genCmd->add_flag("--no-check", go.noCheck,
+                     "Build every report as given, without checking its data first (docs/checks.md)");
+    genCmd->add_option("--findings", go.findings, "Write every finding of the checks to this file (NDJSON)");
 
     if (unknown_subcommand(argc, argv)) return 2;
     try {

@@ -59,6 +59,20 @@ Outputs resolve_outputs(const GenerateOptions& o, const std::vector<std::string>
     return out;
 }
 
+// One finding as a line of the --findings file.
+std::string finding_line(std::size_t report, std::size_t line, const checks::Finding& f) {
+    nlohmann::ordered_json j;
+    j["report"] = report;
+    if (line) j["line"] = line;
+    j["rule"] = f.rule->id;
+    j["severity"] = f.rule->severity == checks::Severity::Error ? "error" : "warning";
+    j["field"] = f.field;
+    j["value"] = f.value;
+    j["message"] = f.rule->german;
+    j["message_en"] = f.rule->english;
+    return j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
 // Temporary files of tamrel runs that were killed, in the outputs' folders.
 void sweep(const Outputs& outputs) {
     std::set<std::string> folders;
@@ -109,6 +123,23 @@ int generate(const GenerateOptions& o) {
     settings.transliterate = o.transliterate;
     settings.leftOut = [](const ReportFailure& f) { std::cerr << "tamrel generate: " << f.what() << " (left out)\n"; };
     settings.note = [](const std::string& n) { std::cerr << "tamrel generate: " << n << '\n'; };
+    settings.check = !o.noCheck;
+    std::ofstream findings;
+    if (!o.findings.empty()) {
+        findings.open(o.findings, std::ios::binary | std::ios::trunc);
+        if (!findings) {
+            std::cerr << "tamrel generate: --findings " << o.findings << ": cannot be written: " << std::strerror(errno)
+                      << '\n';
+            return 2;
+        }
+    }
+    // Warnings are told here; an error fails its report, which says why.
+    settings.finding = [&findings](std::size_t report, std::size_t line, const checks::Finding& f) {
+        if (f.rule->severity == checks::Severity::Warning)
+            std::cerr << "tamrel generate: " << (report ? "report " + std::to_string(report) : std::string("header"))
+                      << ": " << checks::describe(f) << '\n';
+        if (findings.is_open()) findings << finding_line(report, line, f) << '\n';
+    };
     if (tty)
         settings.progress = [](std::size_t n) { std::cerr << "\rtamrel generate: " << n << " reports" << std::flush; };
 

@@ -12,6 +12,8 @@ struct GenerateOptions {
     bool crlf = false;
     bool keepGoing = false;
     bool transliterate = false;
+    bool noCheck = false;  // build every report as given, without the checks
+    std::string findings;  // NDJSON file of every finding of the checks; empty: none
 };
 
 // Exit codes: 0 written; 1 a report failed (nothing written); 2 bad job or

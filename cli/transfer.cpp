@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "checks/checks.h"
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
 #include "component/json_limits.h"
@@ -43,6 +44,19 @@ auto run(const Where& where, F&& step) -> decltype(step()) {
         throw ReportFailure(where.text() + ": error " + std::to_string(e.number()) + ", " + e.source() + ": " +
                             e.description());
     }
+}
+
+// Tells every finding; the first error (if any) fails the step.
+void tell_findings(const checks::Findings& f, const TransferSettings& s, const Where& where) {
+    if (s.finding)
+        for (const checks::Finding& x : f.list()) s.finding(where.report, where.line, x);
+    if (!f.has_errors()) return;
+    std::size_t errors = 0;
+    const checks::Finding* first = nullptr;
+    for (const checks::Finding& x : f.list())
+        if (x.rule->severity == checks::Severity::Error && !errors++) first = &x;
+    throw ReportFailure(where.text() + ": " + checks::describe(*first) +
+                        (errors > 1 ? " (and " + std::to_string(errors - 1) + " more)" : ""));
 }
 
 // The texts of an XML report are checked for markup before it is built.
@@ -179,6 +193,11 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     const bool xml = job.procedure->xml();
     TransferRun gen(job, settings);
     TransferCounts counts;
+    if (settings.check) {
+        checks::Findings f;
+        checks::check_frame(job.frame.strBNRAb, job.frame.strBNREm, f);
+        tell_findings(f, settings, {"header"});
+    }
     if (xml) {
         check_frame_markup(job.frame);
         out.write(gen.encoded_line(
@@ -204,6 +223,11 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
             if (xml) check_report_markup(*runner, param, report);
+            if (settings.check) {
+                checks::Findings f;
+                runner->check(f);
+                tell_findings(f, settings, report);
+            }
             gen.encode_line(line, run(report, [&] { return runner->data(); }), report, runner.get());
             // The substitutions of the record are the protocol line's text.
             if (proto)

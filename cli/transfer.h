@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "checks/finding.h"
 #include "cli/job.h"
 #include "cli/output_encoding.h"
 #include "cli/report_source.h"
@@ -43,6 +44,12 @@ struct TransferSettings {
     // Called with the failure of each report left out (keepGoing), and
     // with the number of reports read so far, every 100,000 reports.
     std::function<void(const ReportFailure&)> leftOut;
+    // The checks run on the frame and on every report before it is built
+    // (checks/checks.h): a report with an error fails as any other; every
+    // finding, errors and warnings, is told to `finding` with the report's
+    // number (0 for the frame) and its line in the NDJSON file (0 when inline).
+    bool check = true;
+    std::function<void(std::size_t report, std::size_t line, const checks::Finding&)> finding;
     std::function<void(std::size_t)> progress;
 };
 

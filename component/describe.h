@@ -20,6 +20,10 @@ namespace tamrel {
 // parameter list.
 RunnerSettings read_data_args(Invocation& inv, DataForm form);
 
+// Findings as the call protocol answers them: one object each, with rule,
+// severity, field, value and the German and English messages.
+nlohmann::ordered_json findings_json(const checks::Findings& f);
+
 namespace describing {
 
 template <class Gen, FrameForm F>
@@ -63,6 +67,16 @@ std::string create_proto(const ProcedureDescriptor& p, Invocation& inv) {
     return (clsProtoEntry(inv.host()).*Proto)(obj, error, text);
 }
 
+// The findings go to out.findings; the result is empty.
+template <class Obj>
+std::string check(const ProcedureDescriptor& p, Invocation& inv) {
+    const Obj obj = inv.object<Obj>(p.objParam);
+    checks::Findings f;
+    checks::check_report(obj, f);
+    inv.out()["findings"] = findings_json(f);
+    return {};
+}
+
 template <class Gen, class Obj, DataForm D, auto Proto>
 std::unique_ptr<ReportRunner> runner(const ProcedureDescriptor& p, const RunnerSettings& s) {
     return std::make_unique<Runner<Gen, Obj, D, Proto>>(s, p.objParam);
@@ -82,6 +96,7 @@ constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view ob
     d.GenData = &describing::gen_data<Gen, Obj, D>;
     if constexpr (!std::is_same_v<decltype(Proto), std::nullptr_t>)
         d.CreateProto = &describing::create_proto<Obj, Proto>;
+    d.Check = &describing::check<Obj>;
     d.runner = &describing::runner<Gen, Obj, D, Proto>;
     return d;
 }

@@ -58,6 +58,8 @@ struct ProcedureDescriptor {
     // GenData and the protocol method, as the call protocol invokes them.
     std::string (*GenData)(const ProcedureDescriptor&, Invocation&) = nullptr;
     std::string (*CreateProto)(const ProcedureDescriptor&, Invocation&) = nullptr;  // nullptr without protoMethod
+    // The checks of the data object, as the call protocol's method "Check".
+    std::string (*Check)(const ProcedureDescriptor&, Invocation&) = nullptr;
     // The runner that turns report after report into its record.
     std::unique_ptr<ReportRunner> (*runner)(const ProcedureDescriptor&, const RunnerSettings&) = nullptr;
 

@@ -86,6 +86,18 @@ std::vector<std::string> data_params(const ProcedureDescriptor& p) {
 
 }  // namespace
 
+nlohmann::ordered_json findings_json(const checks::Findings& f) {
+    nlohmann::ordered_json list = nlohmann::ordered_json::array();
+    for (const checks::Finding& x : f.list())
+        list.push_back({{"rule", x.rule->id},
+                        {"severity", x.rule->severity == checks::Severity::Error ? "error" : "warning"},
+                        {"field", x.field},
+                        {"value", x.value},
+                        {"message", x.rule->german},
+                        {"message_en", x.rule->english}});
+    return list;
+}
+
 RunnerSettings read_data_args(Invocation& inv, DataForm form) {
     RunnerSettings s{&inv.host(), {}, 0, {}};
     if (form == DataForm::BeitrNachw) {
@@ -118,6 +130,7 @@ void add_methods(Registry& r, const ProcedureDescriptor& p) {
     if (p.GenDSKO) t["GenDSKO"] = dsko(p);
     t["GenNCSZ"] = ncsz(p);
     t["GenData"] = {data_params(p), {"datDate"}, [&p](Invocation& inv) { return p.GenData(p, inv); }};
+    t["Check"] = {{std::string(p.objParam)}, {}, [&p](Invocation& inv) { return p.Check(p, inv); }};
     if (p.CreateProto)
         r["clsProtoEntry"][std::string(p.protoMethod)] = {{std::string(p.objParam), "blnError"},
                                                           {"strErrText"},

@@ -11,6 +11,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "checks/finding.h"
 #include "core/date.h"
 #include "core/host.h"
 #include "core/objects.h"
@@ -29,6 +30,8 @@ public:
     virtual void read_text_reference(std::string_view json_text) = 0;
     // The record of the report last read, with its blocks. Throws Error.
     virtual std::string data() = 0;
+    // What the checks find in the report last read (checks/checks.h).
+    virtual void check(checks::Findings& findings) const = 0;
     // Its protocol line. Throws Error.
     virtual std::string protocol(bool error, std::string_view text) = 0;
     // Empties the data object: the protocol line of a report that could not

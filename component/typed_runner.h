@@ -9,6 +9,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "checks/checks.h"
 #include "component/json_scan.h"
 #include "component/json_simd.h"
 #include "component/procedure.h"
@@ -63,6 +64,7 @@ public:
     }
     void read(const nlohmann::json& report) override { read_value(json_binding::NlohmannValue{report}); }
     std::string data() override { return call_gen_data<D>(gen_, obj_, settings_); }
+    void check(checks::Findings& findings) const override { checks::check_report(obj_, findings); }
     std::string protocol(bool error, std::string_view text) override {
         if constexpr (std::is_same_v<decltype(Proto), std::nullptr_t>)
             return {};

@@ -3,7 +3,7 @@
 #   core                                   the field encoders, the generator base, the frame records
 #   reports certificates queries xml       the procedures, side by side: each class folder
 #                                          includes core and itself
-#   protocol                               the protocol lines, over the procedures' data objects
+#   protocol checks                        the protocol lines and the checks, over the procedures' data objects
 #   component                              the JSON layer: descriptors, call protocol, report runner
 #   cli                                    the command line
 set -euo pipefail
@@ -13,7 +13,7 @@ rank() {
   case "$1" in
     core) echo 0 ;;
     reports | certificates | queries | xml) echo 1 ;;
-    protocol) echo 2 ;;
+    protocol | checks) echo 2 ;;
     component) echo 3 ;;
     cli) echo 4 ;;
     *) echo 9 ;;
@@ -37,5 +37,5 @@ while IFS= read -r file; do
       status=1
     fi
   done < <(sed -n 's/^#include "\([^"]*\)".*/\1/p' "$file")
-done < <(find core reports certificates queries xml protocol component cli -name '*.h' -o -name '*.cpp' | sort)
+done < <(find core reports certificates queries xml protocol checks component cli -name '*.h' -o -name '*.cpp' | sort)
 exit $status

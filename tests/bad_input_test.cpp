@@ -115,7 +115,10 @@ TEST(BadInput, MarkupInAnXmlReportFailsNamingTheProperty) {
         cli::ReportSource source(job.reports);
         cli::StringSink out;
         try {
-            cli::write_transfer(job, source, cli::TransferSettings{}, out, nullptr);
+            // The library's own behaviour: the checks of the data would stop at the frame's numbers.
+            cli::TransferSettings settings;
+            settings.check = false;
+            cli::write_transfer(job, source, settings, out, nullptr);
             ADD_FAILURE() << c.report << " was accepted";
         } catch (const cli::ReportFailure& f) {
             EXPECT_EQ(std::string(f.what()), c.failure);
@@ -165,6 +168,7 @@ TEST(BadInput, EachKindOfBadReportLineFailsNamingTheReport) {
         cli::ReportSource source(ndjson);
         cli::StringSink out;
         cli::TransferSettings settings;
+        settings.check = false;  // the library's own behaviour
         try {
             cli::write_transfer(job, source, settings, out, nullptr);
             ADD_FAILURE() << c.kind << " was accepted";

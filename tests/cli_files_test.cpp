@@ -29,8 +29,8 @@ protected:
     void SetUp() override {
         dir_ = tamrel::testing::fresh_folder("files");
         json job = {{"class", "clsGenMeldung"},
-                    {"strBNRAb", "1"},
-                    {"strBNREm", "2"},
+                    {"strBNRAb", tamrel::testing::kSenderBnr},
+                    {"strBNREm", tamrel::testing::kReceiverBnr},
                     {"strFileNr", "1"},
                     {"strFirma", "F"},
                     {"datDate", "2024-03-01T10:11:12"},
@@ -76,7 +76,9 @@ protected:
     fs::path dir_;
 };
 
-const std::string kReport = R"({"Meldegrund":"62","Meldungsart":1,"Vorgang":{"Aktenzeichen":"Muster"}})";
+const std::string kReport =
+    R"({"Meldegrund":"62","Meldungsart":1,"Vorgang":{"Aktenzeichen":"Muster","Arbeitgeber":{"Betriebsnummer":"98765432"}},)"
+    R"("Empfaenger":{"Betriebsnummer":"12345671"}})";
 
 TEST_F(GenerateFiles, AFullDiskLeavesTheOldFileAndNoPartialOne) {
     std::ofstream reports(dir_ / "reports.ndjson");
@@ -112,8 +114,12 @@ TEST_F(GenerateFiles, AnInterruptedRunLeavesTheOldFileAndNoPartialOne) {
 }
 
 TEST_F(GenerateFiles, AJobTooLargeIsRefusedBeforeAnythingIsWritten) {
-    json job = {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"},
-                {"strFileNr", "1"},         {"strFirma", "F"}, {"reports", json::array()}};
+    json job = {{"class", "clsGenMeldung"},
+                {"strBNRAb", tamrel::testing::kSenderBnr},
+                {"strBNREm", tamrel::testing::kReceiverBnr},
+                {"strFileNr", "1"},
+                {"strFirma", "F"},
+                {"reports", json::array()}};
     json report = json::parse(kReport);
     report["Vorgang"]["Aktenzeichen"] = std::string(1 << 20, 'M');
     for (int i = 0; i < 17; ++i) job["reports"].push_back(report);

@@ -45,12 +45,21 @@ protected:
 
     static json report(const std::string& name) {
         // The file reference is written in the record, the family name in the protocol line.
-        return {
-            {"Meldegrund", "62"}, {"Meldungsart", 1}, {"Vorgang", {{"Aktenzeichen", name}, {"Familienname", name}}}};
+        return {{"Meldegrund", "62"},
+                {"Meldungsart", 1},
+                {"Vorgang",
+                 {{"Aktenzeichen", name},
+                  {"Familienname", name},
+                  {"Arbeitgeber", {{"Betriebsnummer", tamrel::testing::kSenderBnr}}}}},
+                {"Empfaenger", {{"Betriebsnummer", tamrel::testing::kReceiverBnr}}}};
     }
     void write_job(const json& reports) const {
-        const json job = {{"class", "clsGenMeldung"}, {"strBNRAb", "1"}, {"strBNREm", "2"},
-                          {"strFileNr", "1"},         {"strFirma", "F"}, {"datDate", "2024-03-01T10:11:12"},
+        const json job = {{"class", "clsGenMeldung"},
+                          {"strBNRAb", tamrel::testing::kSenderBnr},
+                          {"strBNREm", tamrel::testing::kReceiverBnr},
+                          {"strFileNr", "1"},
+                          {"strFirma", "F"},
+                          {"datDate", "2024-03-01T10:11:12"},
                           {"reports", reports}};
         std::ofstream(dir_ / "job.json") << job.dump();
     }

@@ -21,8 +21,9 @@ struct Result {
     std::string out;
 };
 
-Result run(const std::string& args) {
-    std::string cmd = std::string(TAMREL_EXE) + " " + args + " 2>/dev/null";
+// Standard error is dropped, or read as part of `out` (`with_stderr`).
+Result run(const std::string& args, bool with_stderr = false) {
+    std::string cmd = std::string(TAMREL_EXE) + " " + args + (with_stderr ? " 2>&1" : " 2>/dev/null");
     FILE* p = popen(cmd.c_str(), "r");
     std::string out;
     char buf[4096];
@@ -48,12 +49,16 @@ protected:
         return {{"Laufnummer", 7},
                 {"Meldegrund", reason},
                 {"Meldungsart", 1},
-                {"Vorgang", {{"Aktenzeichen", name}, {"Versicherungsnummer", "X"}}}};
+                {"Vorgang",
+                 {{"Aktenzeichen", name},
+                  {"Versicherungsnummer", tamrel::testing::kInsuranceNumber},
+                  {"Arbeitgeber", {{"Betriebsnummer", tamrel::testing::kSenderBnr}}}}},
+                {"Empfaenger", {{"Betriebsnummer", tamrel::testing::kReceiverBnr}}}};
     }
     json job(json reports) const {
         return {{"class", "clsGenMeldung"},
-                {"strBNRAb", "1"},
-                {"strBNREm", "2"},
+                {"strBNRAb", tamrel::testing::kSenderBnr},
+                {"strBNREm", tamrel::testing::kReceiverBnr},
                 {"strFileNr", "1"},
                 {"strFirma", "F"},
                 {"datDate", "2024-03-01T10:11:12"},
@@ -70,17 +75,23 @@ protected:
         std::string datum;
         DSKOData dsko;
         DatensatzData dd;
-        std::string s = gen.GenVOSZ("1", "2", "1", "F", 0, datum, d) + eol + gen.GenDSKO(dsko, d) + eol;
+        std::string s = gen.GenVOSZ(tamrel::testing::kSenderBnr, tamrel::testing::kReceiverBnr, "1", "F", 0, datum, d) +
+                        eol + gen.GenDSKO(dsko, d) + eol;
         for (const auto& n : names) {
             Meldung m;
             m.Laufnummer = 7;
             m.Meldegrund = "62";
             m.Meldungsart = 1;
             m.Vorgang.Aktenzeichen = n;
-            m.Vorgang.Versicherungsnummer = "X";
+            m.Vorgang.Versicherungsnummer = tamrel::testing::kInsuranceNumber;
+            m.Vorgang.Arbeitgeber.Betriebsnummer = tamrel::testing::kSenderBnr;
+            m.Empfaenger.Betriebsnummer = tamrel::testing::kReceiverBnr;
             s += gen.GenData(m, dd, 0, d) + eol;
         }
-        return s + gen.GenNCSZ("1", "2", "1", std::to_string(count), 0, d) + eol;
+        return s +
+               gen.GenNCSZ(tamrel::testing::kSenderBnr, tamrel::testing::kReceiverBnr, "1", std::to_string(count), 0,
+                           d) +
+               eol;
     }
 
     fs::path dir_;
@@ -128,8 +139,18 @@ TEST_F(Cli, FailureLeavesNothingAndKeepGoingLeavesTheReportOut) {
     EXPECT_EQ(written, expected);
     std::string protocol = slurp(dir_ / "p.txt");
     EXPECT_EQ(std::count(protocol.begin(), protocol.end(), '\n'), 3);
-    EXPECT_NE(protocol.find(";1;\"report 2: error -2147213202, clsGenMeldung.GenDSME: Datenbausteine konnten zum "
-                            "Meldegrund 99 nicht ermittelt werden\""),
+    // The checks stop the unknown reason before its record is built ...
+    EXPECT_NE(protocol.find(";1;\"report 2: error REASON-UNKNOWN Meldegrund (99): report reason is not a published "
+                            "reason key\""),
+              std::string::npos)
+        << protocol;
+    // ... and without them the library's own error does.
+    Result unchecked = run("generate " + jobFile.string() + " --no-check --keep-going --protocol " +
+                           (dir_ / "p.txt").string() + " -o " + (dir_ / "out.txt").string());
+    EXPECT_EQ(unchecked.status, 3);
+    EXPECT_NE(slurp(dir_ / "p.txt")
+                  .find(";1;\"report 2: error -2147213202, clsGenMeldung.GenDSME: Datenbausteine "
+                        "konnten zum Meldegrund 99 nicht ermittelt werden\""),
               std::string::npos);
     for (const auto& e : fs::directory_iterator(dir_))
         EXPECT_EQ(e.path().filename().string().find(".tmp-"), std::string::npos);
@@ -212,6 +233,49 @@ TEST_F(Cli, EveryExampleJobGenerates) {
         std::string file = slurp(dir_ / "o.txt");
         EXPECT_TRUE(file.starts_with("VOSZ") || file.starts_with("<?xml")) << e.path();
     }
+}
+
+}  // namespace
+
+namespace {
+
+// The checks before generating: an error stops the report, a warning is told,
+// --findings holds both, --no-check builds the report as given.
+TEST_F(Cli, ChecksStopABadReportAndTellWarnings) {
+    // The example's registration and deregistration, each with a fault.
+    std::ifstream example(std::string(TAMREL_SOURCE_DIR) + "/examples/deuev-registration.json");
+    const json reports = json::parse(example)["reports"];
+    json warned = reports[0];
+    warned["Ende"] = "20241231";  // an end on a registration: a warning
+    json bad = reports[1];
+    bad.erase("Ende");         // a deregistration without its end date ...
+    bad["Entgelt"] = "-5400";  // ... and with a negative pay
+    auto jobFile = write("job.json", job({warned, bad}).dump());
+    const std::string out = (dir_ / "out.txt").string(), findings = (dir_ / "findings.ndjson").string();
+
+    Result stop = run("generate " + jobFile.string() + " -o " + out + " --findings " + findings, true);
+    EXPECT_EQ(stop.status, 1);
+    EXPECT_FALSE(fs::exists(out));
+    EXPECT_NE(stop.out.find("tamrel generate: report 1: warning END-ON-REGISTRATION Ende (20241231): an end date on "
+                            "a registration\n"),
+              std::string::npos)
+        << stop.out;
+    EXPECT_NE(stop.out.find("tamrel generate: report 2: error MISSING Ende: missing (and 1 more)\n"), std::string::npos)
+        << stop.out;
+    EXPECT_EQ(slurp(dir_ / "findings.ndjson"),
+              R"({"report":1,"rule":"END-ON-REGISTRATION","severity":"warning","field":"Ende","value":"20241231",)"
+              R"("message":"Ende bei einer Anmeldung angegeben","message_en":"an end date on a registration"})"
+              "\n"
+              R"({"report":2,"rule":"MISSING","severity":"error","field":"Ende","value":"","message":"Angabe fehlt",)"
+              R"("message_en":"missing"})"
+              "\n"
+              R"({"report":2,"rule":"AMOUNT-NEGATIVE","severity":"error","field":"Entgelt","value":"-5400",)"
+              R"("message":"Betrag: darf nicht negativ sein","message_en":"amount: must not be negative"})"
+              "\n");
+
+    Result unchecked = run("generate " + jobFile.string() + " -o " + out + " --no-check");
+    EXPECT_EQ(unchecked.status, 0) << unchecked.out;
+    EXPECT_NE(slurp(out).find("0-5400"), std::string::npos);  // what the record builder makes of it
 }
 
 }  // namespace

@@ -12,6 +12,11 @@
 
 namespace tamrel::testing {
 
+// Numbers that pass the checks, for tests whose subject is elsewhere.
+inline constexpr const char* kSenderBnr = "98765432";
+inline constexpr const char* kReceiverBnr = "12345671";
+inline constexpr const char* kInsuranceNumber = "65170839J003";
+
 struct RecordingHost {
     std::vector<std::string> lines;
     Date clock{2024, 3, 5, 8, 9, 10};

@@ -8,7 +8,6 @@
 
 #include <string>
 
-
 namespace tamrel::com {
 
 // A failing system call: raised as the error of that HRESULT.

@@ -29,8 +29,8 @@ std::wstring utf16(std::string_view text) {
 
 // Straight into the BSTR: one allocation, none for a buffer between.
 BSTR bstr(std::string_view text) {
-    const int n = text.empty() ? 0
-                               : MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
+    const int n =
+        text.empty() ? 0 : MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
     BSTR b = SysAllocStringLen(nullptr, static_cast<UINT>(n));
     if (!b) throw std::bad_alloc();
     if (n) MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), b, n);

@@ -141,10 +141,17 @@ void convert(const VARIANT& value, std::int64_t& out, std::int64_t lo, std::int6
     std::int64_t x = 0;
     switch (V_VT(&v)) {  // the usual types without the system's conversion
         case VT_EMPTY:
-        case VT_NULL: break;
-        case VT_I2: x = V_I2(&v); break;
-        case VT_I4: x = V_I4(&v); break;
-        case VT_UI1: x = V_UI1(&v); break;
+        case VT_NULL:
+            break;
+        case VT_I2:
+            x = V_I2(&v);
+            break;
+        case VT_I4:
+            x = V_I4(&v);
+            break;
+        case VT_UI1:
+            x = V_UI1(&v);
+            break;
         default: {
             VARIANT n;
             change(v, n, VT_I8, o, name);

@@ -75,8 +75,8 @@ TextTest fresh(const char* test) {
 }  // namespace
 
 const Host& server_host() {
-    static const Host host{append_log_line, clock_now,
-                           {fresh("NameTest"), fresh("EmpfBknTest1"), fresh("EmpfBknTest2")}};
+    static const Host host{
+        append_log_line, clock_now, {fresh("NameTest"), fresh("EmpfBknTest1"), fresh("EmpfBknTest2")}};
     return host;
 }
 

@@ -17,7 +17,7 @@ Public Sub WriteDeuevFile(ByVal path As String, ByVal registrations As Collectio
 
     On Error GoTo Failed
     stamp = Now
-    dsko.strBNRAb = "98765432": dsko.strBNREm = "12345678"
+    dsko.strBNRAb = "98765432": dsko.strBNREm = "12345671"
     dsko.strMicroSec = "000001": dsko.strProdID = "TAMREL1": dsko.strModID = "MOD0001"
     dsko.strName1 = "Muster Lohnbüro GmbH": dsko.strStrasse = "Hauptstraße": dsko.strHausNr = "1"
     dsko.strPLZ = "10115": dsko.strOrt = "Berlin"
@@ -28,14 +28,14 @@ Public Sub WriteDeuevFile(ByVal path As String, ByVal registrations As Collectio
     f = FreeFile
     Open path For Output As #f
     datum = ""
-    Print #f, gen.GenVOSZ("98765432", "12345678", "1", "Muster Lohnbüro GmbH", vmNormal, datum, stamp) & vbLf;
+    Print #f, gen.GenVOSZ("98765432", "12345671", "1", "Muster Lohnbüro GmbH", vmNormal, datum, stamp) & vbLf;
     Print #f, gen.GenDSKO(dsko, stamp) & vbLf;
     For Each m In registrations
         Print #f, gen.GenData(m, satz, vmNormal, stamp) & vbLf;
         records = records + 1
     Next
     ' The count includes the DSKO.
-    Print #f, gen.GenNCSZ("98765432", "12345678", "1", CStr(records + 1), vmNormal, stamp) & vbLf;
+    Print #f, gen.GenNCSZ("98765432", "12345671", "1", CStr(records + 1), vmNormal, stamp) & vbLf;
     Close #f
     Exit Sub
 

@@ -192,17 +192,17 @@ m.Vorgang.Vorname = "Juergen"
 m.Vorgang.Geburtsdatum = "19830917"
 m.Vorgang.Geschlecht = "M"
 m.Vorgang.Arbeitgeber.Betriebsnummer = "98765432"
-m.Empfaenger.Betriebsnummer = "12345678"
+m.Empfaenger.Betriebsnummer = "12345671"
 
 Set gen = CreateObject("TamrelFile26.clsGenMeldung")
 datum = ""
-WScript.Echo gen.GenVOSZ("98765432", "12345678", "1", "Muster Lohnbuero GmbH", 0, datum, stamp)
+WScript.Echo gen.GenVOSZ("98765432", "12345671", "1", "Muster Lohnbuero GmbH", 0, datum, stamp)
 WScript.Echo "created on " & datum
 
 Set proto = CreateObject("TamrelFile26.clsProtoEntry")
 WScript.Echo proto.CreateProtoMeld(m, False)
 
-WScript.Echo gen.GenNCSZ("98765432", "12345678", "1", "3", 0, stamp)
+WScript.Echo gen.GenNCSZ("98765432", "12345671", "1", "3", 0, stamp)
 
 ' Errors arrive as automation errors: number, source and description.
 On Error Resume Next

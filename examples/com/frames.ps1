@@ -9,9 +9,9 @@ $stamp = Get-Date '2024-03-01 10:11:12'
 
 # strDatum is in/out: pass a reference to get the creation date back.
 $datum = [ref]''
-$gen.GenVOSZ('98765432', '12345678', '1', 'Muster Lohnbüro GmbH', 0, $datum, $stamp)
+$gen.GenVOSZ('98765432', '12345671', '1', 'Muster Lohnbüro GmbH', 0, $datum, $stamp)
 "created on $($datum.Value)"
-$gen.GenNCSZ('98765432', '12345678', '1', '3', 0, $stamp)
+$gen.GenNCSZ('98765432', '12345671', '1', '3', 0, $stamp)
 
 # Errors are COMExceptions: the error's number as HResult, the description
 # as Message, the source where it arose as Source.

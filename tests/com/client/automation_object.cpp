@@ -53,8 +53,8 @@ HRESULT AutomationObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCI
     return hr;
 }
 
-HRESULT AutomationObject::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT* result,
-                                 EXCEPINFO* error, UINT*) {
+HRESULT AutomationObject::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT* result, EXCEPINFO* error,
+                                 UINT*) {
     VARIANT ignored;
     VARIANT& out = result ? *result : ignored;
     VariantInit(&out);

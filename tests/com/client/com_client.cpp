@@ -114,9 +114,9 @@ struct Members<::DSKOData> {
 template <>
 struct Members<::DatensatzData> {
     static constexpr std::pair<const char*, BSTR ::DatensatzData::*> list[] = {
-        {"strBNRAb", &::DatensatzData::strBNRAb},       {"strBNRSt", &::DatensatzData::strBNRSt},
-        {"strVersion", &::DatensatzData::strVersion},   {"strMicroseconds", &::DatensatzData::strMicroseconds},
-        {"strProdID", &::DatensatzData::strProdID},     {"strModID", &::DatensatzData::strModID},
+        {"strBNRAb", &::DatensatzData::strBNRAb},        {"strBNRSt", &::DatensatzData::strBNRSt},
+        {"strVersion", &::DatensatzData::strVersion},    {"strMicroseconds", &::DatensatzData::strMicroseconds},
+        {"strProdID", &::DatensatzData::strProdID},      {"strModID", &::DatensatzData::strModID},
         {"strDateiname", &::DatensatzData::strDateiname}};
 };
 template <class S>
@@ -163,8 +163,7 @@ public:
         else if constexpr (std::is_same_v<Itf, _clsGenBeitrNachw>)
             hr = g_->GenVOSZ(a.b, e.b, f.b, verfahren_of(job_), firma.b, &datum, date, &r.b);
         else
-            hr = g_->GenVOSZ(a.b, e.b, f.b, firma.b, static_cast<VerfMerkmal>(verfahren_of(job_)), &datum, date,
-                             &r.b);
+            hr = g_->GenVOSZ(a.b, e.b, f.b, firma.b, static_cast<VerfMerkmal>(verfahren_of(job_)), &datum, date, &r.b);
         VariantClear(&datum);
         check(hr);
         return r.str();
@@ -307,9 +306,8 @@ void data(const json& job, const std::string& cls) {
         try {
             line["result"] = g.data(obj.d);
         } catch (const CallError& e) {
-            line["error"] = {{"number", static_cast<std::int32_t>(e.number)},
-                             {"source", e.source},
-                             {"description", e.description}};
+            line["error"] = {
+                {"number", static_cast<std::int32_t>(e.number)}, {"source", e.source}, {"description", e.description}};
         }
         line["log"] = take_log(log);
         std::printf("%s\n", line.dump().c_str());
@@ -335,9 +333,12 @@ template <class Itf>
 void run(const std::string& mode, const json& job, const std::string& cls, const std::vector<std::string>& args) {
     const std::string a = args.size() > 2 ? args[2] : "", b = args.size() > 3 ? args[3] : "";
     if (mode == "trace") JsonObject::trace = stdout;
-    if (mode == "generate" || mode == "trace") generate<Itf>(job, cls, a, b);
-    else if (mode == "data") data<Itf>(job, cls);
-    else bench<Itf>(job, cls, a);
+    if (mode == "generate" || mode == "trace")
+        generate<Itf>(job, cls, a, b);
+    else if (mode == "data")
+        data<Itf>(job, cls);
+    else
+        bench<Itf>(job, cls, a);
 }
 using Runner = void (*)(const std::string&, const json&, const std::string&, const std::vector<std::string>&);
 const std::map<std::string, Runner> kRunners = {
@@ -373,8 +374,7 @@ int main(int argc, char** argv) {
     int status = 0;
     try {
         const json job = read_json(args[1]);
-        if (job.contains("now"))
-            SetEnvironmentVariableW(L"TAMREL_NOW", utf16(job["now"].get<std::string>()).c_str());
+        if (job.contains("now")) SetEnvironmentVariableW(L"TAMREL_NOW", utf16(job["now"].get<std::string>()).c_str());
         static const json none;
         const TestAnswersRegistration tests(job.contains("tests") ? job["tests"] : none);
         const std::string cls = job.at("class").get<std::string>();

@@ -159,7 +159,8 @@ DISPID JsonObject::id_of(std::string_view name) {
 HRESULT JsonObject::whole(Slot& slot, VARIANT& result) {
     const json& v = *slot.value;
     if (v.is_string()) {
-        if (slot.text.empty() && !v.get_ref<const std::string&>().empty()) slot.text = utf16(v.get_ref<const std::string&>());
+        if (slot.text.empty() && !v.get_ref<const std::string&>().empty())
+            slot.text = utf16(v.get_ref<const std::string&>());
         V_VT(&result) = VT_BSTR;
         V_BSTR(&result) = SysAllocStringLen(slot.text.data(), static_cast<UINT>(slot.text.size()));
         return S_OK;
@@ -266,8 +267,8 @@ TestAnswersRegistration::TestAnswersRegistration(const json& tests) {
     wchar_t guid[64];
     StringFromGUID2(kTestAnswers, guid, 64);
     HKEY k = nullptr;
-    if (RegCreateKeyExW(HKEY_CLASSES_ROOT, (prog_id_key() + L"\\CLSID").c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
-                        &k, nullptr) == ERROR_SUCCESS) {
+    if (RegCreateKeyExW(HKEY_CLASSES_ROOT, (prog_id_key() + L"\\CLSID").c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &k,
+                        nullptr) == ERROR_SUCCESS) {
         RegSetValueExW(k, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(guid),
                        static_cast<DWORD>((wcslen(guid) + 1) * sizeof(wchar_t)));
         RegCloseKey(k);

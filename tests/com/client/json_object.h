@@ -35,10 +35,10 @@ private:
     // read once per report, and a data object is often read again.
     struct Slot {
         std::string name;
-        const json* value;       // nullptr: absent from the JSON
+        const json* value;  // nullptr: absent from the JSON
         bool has_derived = false;
-        long derived = 0;        // its value when absent (bounds, counts)
-        std::wstring text;       // a text value, in UTF-16
+        long derived = 0;            // its value when absent (bounds, counts)
+        std::wstring text;           // a text value, in UTF-16
         IDispatch* child = nullptr;  // a sub-object, made at its first read
     };
     // Names in any case, found without a copy.

@@ -1,0 +1,48 @@
+#include "checks/field_checks.h"
+
+#include "checks/numbers.h"
+#include "checks/rules.h"
+#include "checks/values.h"
+
+namespace tamrel::checks {
+
+void FieldChecks::required(std::string_view name, std::string_view value) const {
+    if (value.empty()) add(kMissing, name, value);
+}
+
+void FieldChecks::date(std::string_view name, std::string_view value) const {
+    if (!value.empty() && !is_date(value)) add(kDate, name, value);
+}
+
+void FieldChecks::period(std::string_view start_name, std::string_view start, std::string_view end) const {
+    if (is_date(start) && is_date(end) && start > end)
+        add(kPeriod, start_name, std::string(start) + "-" + std::string(end));
+}
+
+void FieldChecks::whole_amount(std::string_view name, std::string_view value, std::size_t width) const {
+    if (const Rule* r = whole_amount_fault(value, width)) add(*r, name, value);
+}
+
+void FieldChecks::digits(std::string_view name, std::string_view value, std::size_t width) const {
+    if (!value.empty() && !is_digits(value, width)) add(kDigits, name, value);
+}
+
+void FieldChecks::one_of(std::string_view name, std::string_view value, std::initializer_list<std::string_view> keys,
+                         const Rule& rule) const {
+    if (value.empty()) return;
+    for (std::string_view k : keys)
+        if (k == value) return;
+    add(rule, name, value);
+}
+
+void FieldChecks::versicherungsnummer(std::string_view name, std::string_view value) const {
+    if (value.empty()) return;
+    if (const Rule* r = versicherungsnummer_fault(value)) add(*r, name, value);
+}
+
+void FieldChecks::betriebsnummer(std::string_view name, std::string_view value) const {
+    if (value.empty()) return;
+    if (const Rule* r = betriebsnummer_fault(value)) add(*r, name, value);
+}
+
+}  // namespace tamrel::checks

@@ -1,0 +1,41 @@
+// The checks of single properties that the procedures' rule sets are made
+// of: each adds its finding under the property's path.
+#pragma once
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "checks/finding.h"
+
+namespace tamrel::checks {
+
+// The path of a property is put together only when it has a finding: the
+// checks of a clean report allocate nothing.
+class FieldChecks {
+public:
+    explicit FieldChecks(Findings& f) : f_(f) {}
+    // A sub-object's properties, named "Object.Name"; `this` must outlive it.
+    FieldChecks within(std::string_view name) const { return FieldChecks(f_, this, name); }
+
+    void required(std::string_view name, std::string_view value) const;
+    void date(std::string_view name, std::string_view value) const;
+    void period(std::string_view start_name, std::string_view start, std::string_view end) const;
+    void whole_amount(std::string_view name, std::string_view value, std::size_t width) const;
+    void digits(std::string_view name, std::string_view value, std::size_t width) const;
+    void one_of(std::string_view name, std::string_view value, std::initializer_list<std::string_view> keys,
+                const Rule& rule) const;
+    void versicherungsnummer(std::string_view name, std::string_view value) const;
+    void betriebsnummer(std::string_view name, std::string_view value) const;
+    void add(const Rule& rule, std::string_view name, std::string_view value) const { f_.add(rule, path(name), value); }
+
+private:
+    FieldChecks(Findings& f, const FieldChecks* parent, std::string_view name) : f_(f), parent_(parent), name_(name) {}
+    std::string path(std::string_view name) const {
+        return parent_ ? parent_->path(name_) + "." + std::string(name) : std::string(name);
+    }
+    Findings& f_;
+    const FieldChecks* parent_ = nullptr;
+    std::string_view name_;
+};
+
+}  // namespace tamrel::checks

@@ -1,0 +1,58 @@
+// Every rule of the checks, with its identifier and messages. Where each
+// comes from is in docs/checks.md.
+#pragma once
+#include <span>
+
+#include "checks/finding.h"
+
+namespace tamrel::checks {
+
+inline constexpr Severity E = Severity::Error, W = Severity::Warning;
+
+// Numbers
+inline constexpr Rule kVsnrForm{"VSNR-FORM", E,
+                                "Versicherungsnummer: 12 Zeichen (Bereichsnummer, Geburtsdatum, Buchstabe, "
+                                "Seriennummer, Prüfziffer) erwartet",
+                                "insurance number: expected 12 characters (area, birth date, letter, serial, check "
+                                "digit)"};
+inline constexpr Rule kVsnrArea{"VSNR-AREA", E, "Versicherungsnummer: Bereichsnummer nicht zwischen 02 und 89",
+                                "insurance number: area number not between 02 and 89"};
+inline constexpr Rule kVsnrDate{"VSNR-DATE", E, "Versicherungsnummer: Stellen 3 bis 8 sind kein Geburtsdatum (TTMMJJ)",
+                                "insurance number: positions 3 to 8 are not a birth date (DDMMYY)"};
+inline constexpr Rule kVsnrCheckDigit{"VSNR-CHECKDIGIT", E, "Versicherungsnummer: Prüfziffer falsch",
+                                      "insurance number: wrong check digit"};
+inline constexpr Rule kBnrForm{"BNR-FORM", E, "Betriebsnummer: 8 Ziffern erwartet",
+                               "establishment number: expected 8 digits"};
+inline constexpr Rule kBnrCheckDigit{"BNR-CHECKDIGIT", E, "Betriebsnummer: Prüfziffer falsch",
+                                     "establishment number: wrong check digit"};
+
+// Dates, periods, amounts, keys, presence
+inline constexpr Rule kDate{"DATE", E, "kein gültiges Datum (JJJJMMTT)", "not a calendar date (YYYYMMDD)"};
+inline constexpr Rule kPeriod{"PERIOD", E, "Beginn liegt nach dem Ende", "the start is after the end"};
+inline constexpr Rule kAmountChars{"AMOUNT-CHARS", E, "Betrag: nur Ziffern erlaubt",
+                                   "amount: digits only (no sign, no separator)"};
+inline constexpr Rule kAmountNegative{"AMOUNT-NEGATIVE", E, "Betrag: darf nicht negativ sein",
+                                      "amount: must not be negative"};
+inline constexpr Rule kAmountTooLong{"AMOUNT-LENGTH", E, "Betrag: mehr Stellen als das Feld fasst",
+                                     "amount: more digits than the field holds"};
+inline constexpr Rule kDigits{"DIGITS", E, "nur Ziffern in der vorgegebenen Länge erlaubt",
+                              "expected digits of the field's length"};
+inline constexpr Rule kReasonUnknown{"REASON-UNKNOWN", E, "Abgabegrund ist kein Schlüssel der Abgabegründe",
+                                     "report reason is not a published reason key"};
+inline constexpr Rule kContributionGroup{"CONTRIBUTION-GROUP", E, "Beitragsgruppe ist kein gültiger Schlüssel",
+                                         "contribution group is not a valid key for its branch"};
+inline constexpr Rule kContributionGroupOld{"CONTRIBUTION-GROUP-2008", W,
+                                            "Beitragsgruppe 2 (erhöhter Beitrag) gilt nur bis 31.12.2008",
+                                            "contribution group 2 (increased rate) applies only until 2008-12-31"};
+inline constexpr Rule kGender{"GENDER", E, "Geschlecht: M, W, D oder X erwartet", "gender: expected M, W, D or X"};
+inline constexpr Rule kMissing{"MISSING", E, "Angabe fehlt", "missing"};
+inline constexpr Rule kEndOnRegistration{"END-ON-REGISTRATION", W, "Ende bei einer Anmeldung angegeben",
+                                         "an end date on a registration"};
+
+inline constexpr const Rule* kRules[] = {
+    &kVsnrForm,      &kVsnrArea, &kVsnrDate,         &kVsnrCheckDigit,    &kBnrForm,
+    &kBnrCheckDigit, &kDate,     &kPeriod,           &kAmountChars,       &kAmountNegative,
+    &kAmountTooLong, &kDigits,   &kReasonUnknown,    &kContributionGroup, &kContributionGroupOld,
+    &kGender,        &kMissing,  &kEndOnRegistration};
+
+}  // namespace tamrel::checks

@@ -1,0 +1,18 @@
+// The value checks that every procedure's rules share: calendar dates in
+// the records' form, amounts of a field's width, digit keys.
+#pragma once
+#include <string_view>
+
+#include "checks/finding.h"
+
+namespace tamrel::checks {
+
+bool real_day(int year, int month, int day);
+// "YYYYMMDD" naming a real day.
+bool is_date(std::string_view yyyymmdd);
+// The rule an amount of whole units (digits only, at most `width`) breaks.
+const Rule* whole_amount_fault(std::string_view value, std::size_t width);
+// `width` digits exactly.
+bool is_digits(std::string_view value, std::size_t width);
+
+}  // namespace tamrel::checks

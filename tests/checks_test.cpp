@@ -1,0 +1,205 @@
+// The checks of a report's data: the number rules against published valid
+// and invalid numbers, the DEUEV report's rules case by case (whole lists of
+// findings compared), the call protocol's Check, every example clean, and
+// tamrel generate stopping a bad report, telling warnings and writing the
+// findings file.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <sstream>
+
+#include <nlohmann/json.hpp>
+
+#include "checks/checks.h"
+#include "checks/numbers.h"
+#include "checks/rules.h"
+#include "component/call_protocol.h"
+#include "reports/clsGenMeldung/Meldung.h"
+#include "tests/example_jobs.h"
+#include "tests/test_support.h"
+
+using namespace tamrel;
+using nlohmann::json;
+
+namespace {
+
+std::string rule_id(const checks::Rule* r) { return r ? std::string(r->id) : "ok"; }
+
+TEST(DataChecks, InsuranceNumbers) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"10010490A443", "ok"},  // the published example of the check digit
+        {"65170839J003", "ok"},
+        {"12150565K010", "ok"},
+        {"10010490a443", "ok"},  // the letter in either case
+        {"10010490A444", "VSNR-CHECKDIGIT"},
+        {"10010490A453", "VSNR-CHECKDIGIT"},  // a serial digit changed
+        {"00010490A443", "VSNR-AREA"},
+        {"90010490A443", "VSNR-AREA"},
+        {"10320490A443", "VSNR-DATE"},        // 32nd day
+        {"10011390A443", "VSNR-DATE"},        // 13th month
+        {"10290201A440", "VSNR-DATE"},        // 29 February 2001
+        {"10290200A441", "VSNR-CHECKDIGIT"},  // 29 February 2000 is a day; the check digit is not
+        {"1001049AA443", "VSNR-FORM"},
+        {"100104901443", "VSNR-FORM"},
+        {"10010490A44", "VSNR-FORM"},
+        {"10010490A4433", "VSNR-FORM"},
+    };
+    for (const auto& [number, want] : cases)
+        EXPECT_EQ(rule_id(checks::versicherungsnummer_fault(number)), want) << number;
+}
+
+TEST(DataChecks, EstablishmentNumbers) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"09912342", "ok"},  // the published example: check digit 2
+        {"09912347", "ok"},  // the check digit plus 5
+        {"98765432", "ok"},
+        {"12345671", "ok"},
+        {"12345678", "BNR-CHECKDIGIT"},
+        {"09912343", "BNR-CHECKDIGIT"},
+        {"0991234", "BNR-FORM"},
+        {"099123422", "BNR-FORM"},
+        {"ABC", "BNR-FORM"},
+        {"0991234X", "BNR-FORM"},
+    };
+    for (const auto& [number, want] : cases) EXPECT_EQ(rule_id(checks::betriebsnummer_fault(number)), want) << number;
+}
+
+// A registration that passes every check.
+Meldung registration() {
+    Meldung m;
+    m.Laufnummer = 1;
+    m.Meldegrund = "10";
+    m.Meldungsart = 1;
+    m.Personengruppe = "101";
+    m.Beitragsgruppe1 = m.Beitragsgruppe2 = m.Beitragsgruppe3 = m.Beitragsgruppe4 = "1";
+    m.Beginn = "20240301";
+    m.Vorgang.Versicherungsnummer = tamrel::testing::kInsuranceNumber;
+    m.Vorgang.Familienname = "Muster";
+    m.Vorgang.Vorname = "Erika";
+    m.Vorgang.Arbeitgeber.Betriebsnummer = tamrel::testing::kSenderBnr;
+    m.Empfaenger.Betriebsnummer = tamrel::testing::kReceiverBnr;
+    return m;
+}
+
+std::string findings_of(const Meldung& m) {
+    checks::Findings f;
+    checks::check_report(m, f);
+    std::string all;
+    for (const auto& x : f.list()) all += checks::describe(x) + "\n";
+    return all;
+}
+
+TEST(DataChecks, DeuevReport) {
+    struct Case {
+        const char* what;
+        std::function<void(Meldung&)> change;
+        const char* findings;
+    };
+    const Case cases[] = {
+        {"clean", [](Meldung&) {}, ""},
+        {"no reason", [](Meldung& m) { m.Meldegrund.clear(); }, "error MISSING Meldegrund: missing\n"},
+        {"unknown reason, and one that is only part of a key", [](Meldung& m) { m.Meldegrund = "1"; },
+         "error REASON-UNKNOWN Meldegrund (1): report reason is not a published reason key\n"},
+        {"birth date cut to two-digit year", [](Meldung& m) { m.Vorgang.Geburtsdatum = "1983-09-17"; },
+         "error DATE Vorgang.Geburtsdatum (1983-09-17): not a calendar date (YYYYMMDD)\n"},
+        {"negative pay", [](Meldung& m) { m.Entgelt = "-5400"; },
+         "error AMOUNT-NEGATIVE Entgelt (-5400): amount: must not be negative\n"},
+        {"pay with cents and too long", [](Meldung& m) { m.Entgelt = "5400,00"; },
+         "error AMOUNT-CHARS Entgelt (5400,00): amount: digits only (no sign, no separator)\n"},
+        {"pay of seven digits", [](Meldung& m) { m.Entgelt = "1234567"; },
+         "error AMOUNT-LENGTH Entgelt (1234567): amount: more digits than the field holds\n"},
+        {"impossible start", [](Meldung& m) { m.Beginn = "20241399"; },
+         "error DATE Beginn (20241399): not a calendar date (YYYYMMDD)\n"},
+        {"end before start on a deregistration",
+         [](Meldung& m) {
+             m.Meldegrund = "30";
+             m.Ende = "20240201";
+         },
+         "error PERIOD Beginn (20240301-20240201): the start is after the end\n"},
+        {"deregistration without end", [](Meldung& m) { m.Meldegrund = "30"; }, "error MISSING Ende: missing\n"},
+        {"end on a registration", [](Meldung& m) { m.Ende = "20241231"; },
+         "warning END-ON-REGISTRATION Ende (20241231): an end date on a registration\n"},
+        {"wrong check digit", [](Meldung& m) { m.Vorgang.Versicherungsnummer = "65170839J004"; },
+         "error VSNR-CHECKDIGIT Vorgang.Versicherungsnummer (65170839J004): insurance number: wrong check digit\n"},
+        {"no insurance number and no birth data on a registration",
+         [](Meldung& m) { m.Vorgang.Versicherungsnummer.clear(); },
+         "error MISSING Vorgang.Geburtsdatum: missing\nerror MISSING Vorgang.Geschlecht: missing\n"
+         "error MISSING Vorgang.Geburtsort: missing\n"},
+        {"unknown gender", [](Meldung& m) { m.Vorgang.Geschlecht = "Q"; },
+         "error GENDER Vorgang.Geschlecht (Q): gender: expected M, W, D or X\n"},
+        {"establishment numbers",
+         [](Meldung& m) {
+             m.Vorgang.Arbeitgeber.Betriebsnummer = "ABC";
+             m.Empfaenger.Betriebsnummer = "12345678";
+         },
+         "error BNR-FORM Vorgang.Arbeitgeber.Betriebsnummer (ABC): establishment number: expected 8 digits\n"
+         "error BNR-CHECKDIGIT Empfaenger.Betriebsnummer (12345678): establishment number: wrong check digit\n"},
+        {"contribution groups",
+         [](Meldung& m) {
+             m.Beitragsgruppe1 = "2";
+             m.Beitragsgruppe2 = "2";
+             m.Beitragsgruppe4 = "";
+         },
+         "error MISSING Beitragsgruppe4: missing\n"
+         "warning CONTRIBUTION-GROUP-2008 Beitragsgruppe1 (2): contribution group 2 (increased rate) applies only "
+         "until 2008-12-31\n"
+         "error CONTRIBUTION-GROUP Beitragsgruppe2 (2): contribution group is not a valid key for its branch\n"},
+        {"names wanted by the reason", [](Meldung& m) { m.Vorgang.Familienname.clear(); },
+         "error MISSING Vorgang.Familienname: missing\n"},
+        {"names not wanted by an annual report",
+         [](Meldung& m) {
+             m.Meldegrund = "50";
+             m.Ende = "20241231";
+             m.Vorgang.Familienname.clear();
+             m.Vorgang.Vorname.clear();
+         },
+         ""},
+        {"person group of two digits", [](Meldung& m) { m.Personengruppe = "10"; },
+         "error DIGITS Personengruppe (10): expected digits of the field's length\n"},
+    };
+    for (const Case& c : cases) {
+        Meldung m = registration();
+        c.change(m);
+        EXPECT_EQ(findings_of(m), c.findings) << c.what;
+    }
+}
+
+TEST(DataChecks, EveryRuleIsDocumented) {
+    std::ifstream in(std::string(TAMREL_SOURCE_DIR) + "/docs/checks.md");
+    std::stringstream doc;
+    doc << in.rdbuf();
+    for (const checks::Rule* r : checks::kRules)
+        EXPECT_NE(doc.str().find("`" + std::string(r->id) + "`"), std::string::npos) << r->id;
+}
+
+TEST(DataChecks, TheCallProtocolAnswersWithTheFindings) {
+    Meldung m = registration();
+    const json request = json::parse(R"({"class":"clsGenMeldung","method":"Check","args":{"objMeldung":
+        {"Meldegrund":"10","Personengruppe":"101","Beginn":"20240301","Beitragsgruppe1":"1","Beitragsgruppe2":"1",
+         "Beitragsgruppe3":"1","Beitragsgruppe4":"1","Entgelt":"-5","Vorgang":{"Versicherungsnummer":"65170839J003",
+         "Familienname":"Muster","Vorname":"Erika","Arbeitgeber":{"Betriebsnummer":"98765432"}},
+         "Empfaenger":{"Betriebsnummer":"12345671"}}}})");
+    EXPECT_EQ(
+        call(request).dump(),
+        R"({"result":"","out":{"findings":[{"rule":"AMOUNT-NEGATIVE","severity":"error","field":"Entgelt",)"
+        R"("value":"-5","message":"Betrag: darf nicht negativ sein","message_en":"amount: must not be negative"}]},)"
+        R"("log":[]})");
+}
+
+TEST(DataChecks, EveryExampleIsClean) {
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        for (const json& report : e.job["reports"]) {
+            const json request = {
+                {"class", e.job["class"]}, {"method", "Check"}, {"args", {{std::string(e.info->objParam), report}}}};
+            const json response = json::parse(call(request).dump());
+            EXPECT_EQ(response["out"]["findings"], json::array()) << e.path << ": " << response.dump();
+        }
+        checks::Findings frame;
+        checks::check_frame(e.job["strBNRAb"].get<std::string>(), e.job["strBNREm"].get<std::string>(), frame);
+        EXPECT_TRUE(frame.list().empty()) << e.path;
+    }
+}
+
+}  // namespace
