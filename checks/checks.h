@@ -7,7 +7,8 @@
 
 namespace tamrel {
 struct Meldung;
-}
+struct BeitrNachw;
+}  // namespace tamrel
 
 namespace tamrel::checks {
 
@@ -16,6 +17,7 @@ namespace tamrel::checks {
 template <class Obj>
 void check_report(const Obj&, Findings&) {}
 void check_report(const Meldung& m, Findings& f);
+void check_report(const BeitrNachw& b, Findings& f);
 
 // The establishment numbers of the frame records (sender and receiver).
 void check_frame(std::string_view strBNRAb, std::string_view strBNREm, Findings& f);

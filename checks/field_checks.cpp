@@ -23,6 +23,11 @@ void FieldChecks::whole_amount(std::string_view name, std::string_view value, st
     if (const Rule* r = whole_amount_fault(value, width)) add(*r, name, value);
 }
 
+void FieldChecks::decimal_amount(std::string_view name, std::string_view value, std::size_t integers,
+                                 std::size_t decimals, bool sign) const {
+    if (const Rule* r = decimal_amount_fault(value, integers, decimals, sign)) add(*r, name, value);
+}
+
 void FieldChecks::digits(std::string_view name, std::string_view value, std::size_t width) const {
     if (!value.empty() && !is_digits(value, width)) add(kDigits, name, value);
 }

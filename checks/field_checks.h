@@ -21,6 +21,8 @@ public:
     void date(std::string_view name, std::string_view value) const;
     void period(std::string_view start_name, std::string_view start, std::string_view end) const;
     void whole_amount(std::string_view name, std::string_view value, std::size_t width) const;
+    void decimal_amount(std::string_view name, std::string_view value, std::size_t integers, std::size_t decimals,
+                        bool sign) const;
     void digits(std::string_view name, std::string_view value, std::size_t width) const;
     void one_of(std::string_view name, std::string_view value, std::initializer_list<std::string_view> keys,
                 const Rule& rule) const;

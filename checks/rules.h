@@ -29,12 +29,18 @@ inline constexpr Rule kBnrCheckDigit{"BNR-CHECKDIGIT", E, "Betriebsnummer: Prüf
 // Dates, periods, amounts, keys, presence
 inline constexpr Rule kDate{"DATE", E, "kein gültiges Datum (JJJJMMTT)", "not a calendar date (YYYYMMDD)"};
 inline constexpr Rule kPeriod{"PERIOD", E, "Beginn liegt nach dem Ende", "the start is after the end"};
-inline constexpr Rule kAmountChars{"AMOUNT-CHARS", E, "Betrag: nur Ziffern erlaubt",
-                                   "amount: digits only (no sign, no separator)"};
+inline constexpr Rule kAmountChars{
+    "AMOUNT-CHARS", E,
+    "Betrag: unzulässiges Zeichen (erlaubt sind Ziffern und, wo das Feld sie vorsieht, ein "
+    "Dezimaltrennzeichen und ein führendes Vorzeichen)",
+    "amount: unexpected character (digits, and where the field has them one decimal "
+    "separator and a leading sign)"};
 inline constexpr Rule kAmountNegative{"AMOUNT-NEGATIVE", E, "Betrag: darf nicht negativ sein",
                                       "amount: must not be negative"};
 inline constexpr Rule kAmountTooLong{"AMOUNT-LENGTH", E, "Betrag: mehr Stellen als das Feld fasst",
                                      "amount: more digits than the field holds"};
+inline constexpr Rule kAmountDecimals{"AMOUNT-DECIMALS", E, "Betrag: mehr Nachkommastellen als das Feld fasst",
+                                      "amount: more decimal places than the field holds"};
 inline constexpr Rule kDigits{"DIGITS", E, "nur Ziffern in der vorgegebenen Länge erlaubt",
                               "expected digits of the field's length"};
 inline constexpr Rule kReasonUnknown{"REASON-UNKNOWN", E, "Abgabegrund ist kein Schlüssel der Abgabegründe",
@@ -49,10 +55,24 @@ inline constexpr Rule kMissing{"MISSING", E, "Angabe fehlt", "missing"};
 inline constexpr Rule kEndOnRegistration{"END-ON-REGISTRATION", W, "Ende bei einer Anmeldung angegeben",
                                          "an end date on a registration"};
 
-inline constexpr const Rule* kRules[] = {
-    &kVsnrForm,      &kVsnrArea, &kVsnrDate,         &kVsnrCheckDigit,    &kBnrForm,
-    &kBnrCheckDigit, &kDate,     &kPeriod,           &kAmountChars,       &kAmountNegative,
-    &kAmountTooLong, &kDigits,   &kReasonUnknown,    &kContributionGroup, &kContributionGroupOld,
-    &kGender,        &kMissing,  &kEndOnRegistration};
+inline constexpr const Rule* kRules[] = {&kVsnrForm,
+                                         &kVsnrArea,
+                                         &kVsnrDate,
+                                         &kVsnrCheckDigit,
+                                         &kBnrForm,
+                                         &kBnrCheckDigit,
+                                         &kDate,
+                                         &kPeriod,
+                                         &kAmountChars,
+                                         &kAmountNegative,
+                                         &kAmountTooLong,
+                                         &kAmountDecimals,
+                                         &kDigits,
+                                         &kReasonUnknown,
+                                         &kContributionGroup,
+                                         &kContributionGroupOld,
+                                         &kGender,
+                                         &kMissing,
+                                         &kEndOnRegistration};
 
 }  // namespace tamrel::checks

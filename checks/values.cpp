@@ -36,4 +36,26 @@ const Rule* whole_amount_fault(std::string_view value, std::size_t width) {
     return value.size() > width ? &kAmountTooLong : nullptr;
 }
 
+const Rule* decimal_amount_fault(std::string_view value, std::size_t integers, std::size_t decimals, bool sign) {
+    if (!value.empty() && (value[0] == '-' || value[0] == '+')) {
+        if (value[0] == '-' && !sign) return &kAmountNegative;
+        value.remove_prefix(1);
+    }
+    std::size_t before = 0, after = 0;
+    bool separator = false;
+    for (char c : value) {
+        if (c == '-') return sign ? &kAmountChars : &kAmountNegative;
+        if (c == ',' || c == '.') {
+            if (separator) return &kAmountChars;
+            separator = true;
+        } else if (c >= '0' && c <= '9') {
+            ++(separator ? after : before);
+        } else {
+            return &kAmountChars;
+        }
+    }
+    if (before > integers) return &kAmountTooLong;
+    return after > decimals ? &kAmountDecimals : nullptr;
+}
+
 }  // namespace tamrel::checks

@@ -16,6 +16,7 @@
 #include "checks/numbers.h"
 #include "checks/rules.h"
 #include "component/call_protocol.h"
+#include "reports/clsGenBeitrNachw/BeitrNachw.h"
 #include "reports/clsGenMeldung/Meldung.h"
 #include "tests/example_jobs.h"
 #include "tests/test_support.h"
@@ -83,9 +84,10 @@ Meldung registration() {
     return m;
 }
 
-std::string findings_of(const Meldung& m) {
+template <class Obj>
+std::string findings_of(const Obj& o) {
     checks::Findings f;
-    checks::check_report(m, f);
+    checks::check_report(o, f);
     std::string all;
     for (const auto& x : f.list()) all += checks::describe(x) + "\n";
     return all;
@@ -107,7 +109,8 @@ TEST(DataChecks, DeuevReport) {
         {"negative pay", [](Meldung& m) { m.Entgelt = "-5400"; },
          "error AMOUNT-NEGATIVE Entgelt (-5400): amount: must not be negative\n"},
         {"pay with cents and too long", [](Meldung& m) { m.Entgelt = "5400,00"; },
-         "error AMOUNT-CHARS Entgelt (5400,00): amount: digits only (no sign, no separator)\n"},
+         "error AMOUNT-CHARS Entgelt (5400,00): amount: unexpected character (digits, and where the field has them one "
+         "decimal separator and a leading sign)\n"},
         {"pay of seven digits", [](Meldung& m) { m.Entgelt = "1234567"; },
          "error AMOUNT-LENGTH Entgelt (1234567): amount: more digits than the field holds\n"},
         {"impossible start", [](Meldung& m) { m.Beginn = "20241399"; },
@@ -163,6 +166,33 @@ TEST(DataChecks, DeuevReport) {
         Meldung m = registration();
         c.change(m);
         EXPECT_EQ(findings_of(m), c.findings) << c.what;
+    }
+}
+
+TEST(DataChecks, ContributionStatementAmountsAndPeriod) {
+    const std::pair<std::function<void(BeitrNachw&)>, const char*> cases[] = {
+        {[](BeitrNachw&) {}, ""},
+        {[](BeitrNachw& b) { b.Betrag01 = "-1234,56"; }, ""},  // the field has a sign
+        {[](BeitrNachw& b) { b.Betrag01 = "1.234,56"; },
+         "error AMOUNT-CHARS Betrag01 (1.234,56): amount: unexpected character (digits, and where the field has them "
+         "one decimal separator and a leading sign)\n"},
+        {[](BeitrNachw& b) { b.Betrag02 = "12,345"; },
+         "error AMOUNT-DECIMALS Betrag02 (12,345): amount: more decimal places than the field holds\n"},
+        {[](BeitrNachw& b) { b.Betrag27 = "1234567890"; },
+         "error AMOUNT-LENGTH Betrag27 (1234567890): amount: more digits than the field holds\n"},
+        {[](BeitrNachw& b) { b.Zeitraum2 = "20240229"; },
+         "error PERIOD Zeitraum1 (20240301-20240229): the start is after the end\n"},
+        {[](BeitrNachw& b) { b.Zeitraum1.clear(); }, "error MISSING Zeitraum1: missing\n"},
+    };
+    for (const auto& [change, want] : cases) {
+        BeitrNachw b;
+        b.Zeitraum1 = "20240301";
+        b.Zeitraum2 = "20240331";
+        b.Betrag01 = "1234,56";
+        b.Arbeitgeber.Betriebsnummer = tamrel::testing::kSenderBnr;
+        b.Empfaenger.Betriebsnummer = tamrel::testing::kReceiverBnr;
+        change(b);
+        EXPECT_EQ(findings_of(b), want);
     }
 }
 
