@@ -19,6 +19,9 @@ tamrel, work, wine, client = sys.argv[1:5]
 
 RAISING = [-2146828283, "Personal.Stammdaten", "Familienname nicht geladen (Satz gesperrt)"]
 
+# Stands for the report's receiver in the test answers.
+RECEIVER = "<Empfaenger.Betriebsnummer>"
+
 # A report of kind 8 whose name block depends on the name test alone.
 NAME_TEST = {"Meldegrund": "30", "Meldungsart": 8, "MitNamensdaten": False, "Vorgang": {"Bezugskennung": "A1234567"}}
 
@@ -30,7 +33,7 @@ CASES = [
     ("a property that raises", "deuev-registration", {"Vorgang": {"Familienname": {"$raise": RAISING}}}, None),
     ("name test answered true", "deuev-registration", NAME_TEST, {"NameTest": ["A1234567"]}),
     ("name test answered false", "deuev-registration", NAME_TEST, {"NameTest": []}),
-    ("receiver tests answered true", "beitrag-statement", {"Nachweisart": 1}, {"EmpfBknTest2": ["12345678"]}),
+    ("receiver tests answered true", "beitrag-statement", {"Nachweisart": 1}, {"EmpfBknTest2": [RECEIVER]}),
     ("receiver tests answered false", "beitrag-statement", {"Nachweisart": 1}, {}),
 ]
 
@@ -73,7 +76,8 @@ for name, example, changes, tests in CASES:
     job["reports"] = [copy.deepcopy(job["reports"][0])]
     merge(job["reports"][0], changes)
     if tests is not None:
-        job["tests"] = tests
+        receiver = job["reports"][0].get("Empfaenger", {}).get("Betriebsnummer", "")
+        job["tests"] = {k: [receiver if t == RECEIVER else t for t in v] for k, v in tests.items()}
     path = f"{work}/{name.replace(' ', '-')}.json"
     json.dump(job, open(path, "w", encoding="utf-8"), ensure_ascii=False)
     got = json.loads(subprocess.run([wine, windows(client), "data", windows(path)], capture_output=True,
