@@ -22,6 +22,7 @@
 #include "cli/job.h"
 #include "cli/output_encoding.h"
 #include "cli/transfer.h"
+#include "component/describe.h"
 
 namespace tamrel::cli {
 namespace {
@@ -64,12 +65,7 @@ std::string finding_line(std::size_t report, std::size_t line, const checks::Fin
     nlohmann::ordered_json j;
     j["report"] = report;
     if (line) j["line"] = line;
-    j["rule"] = f.rule->id;
-    j["severity"] = f.rule->severity == checks::Severity::Error ? "error" : "warning";
-    j["field"] = f.field;
-    j["value"] = f.value;
-    j["message"] = f.rule->german;
-    j["message_en"] = f.rule->english;
+    j.update(finding_json(f));
     return j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 

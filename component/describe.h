@@ -22,6 +22,7 @@ RunnerSettings read_data_args(Invocation& inv, DataForm form);
 
 // Findings as the call protocol answers them: one object each, with rule,
 // severity, field, value and the German and English messages.
+nlohmann::ordered_json finding_json(const checks::Finding& x);
 nlohmann::ordered_json findings_json(const checks::Findings& f);
 
 namespace describing {

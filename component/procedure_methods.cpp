@@ -86,15 +86,18 @@ std::vector<std::string> data_params(const ProcedureDescriptor& p) {
 
 }  // namespace
 
+nlohmann::ordered_json finding_json(const checks::Finding& x) {
+    return {{"rule", x.rule->id},
+            {"severity", x.rule->severity == checks::Severity::Error ? "error" : "warning"},
+            {"field", x.field},
+            {"value", x.value},
+            {"message", x.rule->german},
+            {"message_en", x.rule->english}};
+}
+
 nlohmann::ordered_json findings_json(const checks::Findings& f) {
     nlohmann::ordered_json list = nlohmann::ordered_json::array();
-    for (const checks::Finding& x : f.list())
-        list.push_back({{"rule", x.rule->id},
-                        {"severity", x.rule->severity == checks::Severity::Error ? "error" : "warning"},
-                        {"field", x.field},
-                        {"value", x.value},
-                        {"message", x.rule->german},
-                        {"message_en", x.rule->english}});
+    for (const checks::Finding& x : f.list()) list.push_back(finding_json(x));
     return list;
 }
 
