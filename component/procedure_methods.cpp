@@ -87,12 +87,10 @@ std::vector<std::string> data_params(const ProcedureDescriptor& p) {
 }  // namespace
 
 nlohmann::ordered_json finding_json(const checks::Finding& x) {
-    return {{"rule", x.rule->id},
-            {"severity", x.rule->severity == checks::Severity::Error ? "error" : "warning"},
-            {"field", x.field},
-            {"value", x.value},
-            {"message", x.rule->german},
-            {"message_en", x.rule->english}};
+    return {
+        {"rule", x.rule->id},        {"severity", x.rule->severity == checks::Severity::Error ? "error" : "warning"},
+        {"field", x.field},          {"value", x.value},
+        {"message", x.rule->german}, {"message_en", x.rule->english}};
 }
 
 nlohmann::ordered_json findings_json(const checks::Findings& f) {
