@@ -55,6 +55,23 @@ inline constexpr Rule kMissing{"MISSING", E, "Angabe fehlt", "missing"};
 inline constexpr Rule kEndOnRegistration{"END-ON-REGISTRATION", W, "Ende bei einer Anmeldung angegeben",
                                          "an end date on a registration"};
 
+// Transfer files
+inline constexpr Rule kFileFirst{"FILE-FIRST", E, "Die Datei beginnt nicht mit VOSZ",
+                                 "the file does not begin with VOSZ"};
+inline constexpr Rule kFileSecond{"FILE-SECOND", E, "Auf VOSZ folgt nicht DSKO", "VOSZ is not followed by DSKO"};
+inline constexpr Rule kFileLast{"FILE-LAST", E, "Die Datei endet nicht mit NCSZ", "the file does not end with NCSZ"};
+inline constexpr Rule kFileFrame{"FILE-FRAME", E,
+                                 "Vorlaufsatz, Kommunikationssatz oder Nachlaufsatz an falscher Stelle",
+                                 "a frame record (VOSZ, DSKO, NCSZ) in the wrong place"};
+inline constexpr Rule kFileCount{"FILE-COUNT", E, "Anzahl der Datensätze im NCSZ stimmt nicht",
+                                 "the NCSZ count does not match the records of the file"};
+inline constexpr Rule kFileParties{"FILE-PARTIES", E, "Absender oder Empfänger weicht vom VOSZ ab",
+                                   "sender or receiver differs from the VOSZ's"};
+inline constexpr Rule kRecordLength{"RECORD-LENGTH", E, "Satzlänge stimmt nicht", "the record's length is wrong"};
+inline constexpr Rule kFieldLiteral{"FIELD-LITERAL", E, "fester Feldinhalt falsch", "a fixed field content is wrong"};
+inline constexpr Rule kDateTime{"DATETIME", E, "kein gültiger Zeitpunkt (JJJJMMTTHHMMSS)",
+                                "not a date and time (YYYYMMDDHHMMSS)"};
+
 inline constexpr const Rule* kRules[] = {&kVsnrForm,
                                          &kVsnrArea,
                                          &kVsnrDate,
@@ -73,6 +90,15 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,
                                          &kContributionGroupOld,
                                          &kGender,
                                          &kMissing,
-                                         &kEndOnRegistration};
+                                         &kEndOnRegistration,
+                                         &kFileFirst,
+                                         &kFileSecond,
+                                         &kFileLast,
+                                         &kFileFrame,
+                                         &kFileCount,
+                                         &kFileParties,
+                                         &kRecordLength,
+                                         &kFieldLiteral,
+                                         &kDateTime};
 
 }  // namespace tamrel::checks

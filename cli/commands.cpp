@@ -8,6 +8,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "cli/file_commands.h"
 #include "cli/generate.h"
 #include "cli/line_reader.h"
 #include "cli/output_encoding.h"
@@ -38,7 +39,7 @@ int call_stream(std::istream& in, bool numbered) {
     return any_request_error ? 2 : 0;
 }
 
-constexpr const char* kSubcommands[] = {"call", "generate"};
+constexpr const char* kSubcommands[] = {"call", "generate", "check", "inspect"};
 
 // A first word that is no option and no subcommand is a typo: said so,
 // with the subcommands there are.
@@ -85,6 +86,20 @@ int run(int argc, char** argv) {
                      "Build every report as given, without checking its data first (docs/checks.md)");
     genCmd->add_option("--findings", go.findings, "Write every finding of the checks to this file (NDJSON)");
 
+    auto* checkCmd = app.add_subcommand("check", "Check a transfer file: its frame, its records' layouts, its numbers");
+    std::string checkFile;
+    checkCmd->add_option("FILE", checkFile, "Transfer file (ISO-8859-1, ISO-8859-15 or UTF-8; LF or CR LF)")
+        ->required();
+    checkCmd->footer("Exit codes: 0 clean; 1 errors found; 2 the file cannot be read.");
+
+    auto* inspectCmd = app.add_subcommand("inspect", "Show a transfer file field by field");
+    std::string inspectFile;
+    bool inspectJson = false;
+    std::size_t inspectRecord = 0;
+    inspectCmd->add_option("FILE", inspectFile, "Transfer file")->required();
+    inspectCmd->add_flag("--json", inspectJson, "One JSON object per field (NDJSON) instead of a table");
+    inspectCmd->add_option("--record", inspectRecord, "Only this record (1 for the first)");
+
     if (unknown_subcommand(argc, argv)) return 2;
     try {
         app.parse(argc, argv);
@@ -101,6 +116,8 @@ int run(int argc, char** argv) {
         }
         return call_stream(in, numbered);
     }
+    if (*checkCmd) return check_file(checkFile);
+    if (*inspectCmd) return inspect_file(inspectFile, inspectJson, inspectRecord);
     return generate(go);
 }
 

@@ -279,3 +279,38 @@ TEST_F(Cli, ChecksStopABadReportAndTellWarnings) {
 }
 
 }  // namespace
+
+namespace {
+
+// tamrel check and tamrel inspect on a file tamrel generate wrote.
+TEST_F(Cli, CheckAndInspectAFile) {
+    const std::string file = (dir_ / "deuev.txt").string();
+    ASSERT_EQ(run("generate " + std::string(TAMREL_SOURCE_DIR) + "/examples/deuev-registration.json -o " + file).status,
+              0);
+    Result clean = run("check " + file);
+    EXPECT_EQ(clean.status, 0);
+    EXPECT_EQ(clean.out, file +
+                             ": 5 records, 0 errors, 0 warnings; 2 records checked for their place only (their layout "
+                             "is not declared yet)\n");
+
+    std::string text = slurp(file);
+    text.replace(text.rfind("NCSZ") + 53, 8, "00000009");  // the trailer's count
+    const std::string broken = write("broken.txt", text).string();
+    Result bad = run("check " + broken);
+    EXPECT_EQ(bad.status, 1);
+    EXPECT_NE(bad.out.find("record 5 NCSZ strCount (pos 54-61) \"00000009\": error FILE-COUNT"), std::string::npos)
+        << bad.out;
+
+    EXPECT_EQ(run("check " + (dir_ / "missing.txt").string()).status, 2);
+    EXPECT_EQ(run("check " + write("empty.txt", "").string()).status, 2);
+
+    Result fields = run("inspect " + file + " --json --record 1");
+    EXPECT_EQ(fields.status, 0);
+    EXPECT_EQ(std::count(fields.out.begin(), fields.out.end(), '\n'), 8);  // the VOSZ's eight fields
+    EXPECT_NE(fields.out.find(R"({"record":1,"id":"VOSZ","field":"strFirma","pos":54,"len":50,"kind":"text",)"),
+              std::string::npos)
+        << fields.out;
+    EXPECT_EQ(run("inspect " + file + " --record 6").status, 2);
+}
+
+}  // namespace

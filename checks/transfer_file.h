@@ -1,0 +1,47 @@
+// A transfer file read back record by record and checked: the frame (VOSZ
+// first, DSKO second, NCSZ last, its count, the same sender and receiver
+// throughout), each record's length and fields where its layout is
+// declared, and the numbers and dates those fields hold.
+#pragma once
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "checks/finding.h"
+#include "core/layout.h"
+
+namespace tamrel::checks {
+
+// The file's records as characters (UTF-8 decoded, or else ISO-8859-1/15
+// byte for byte), without their line endings (LF or CR LF). Throws
+// std::runtime_error for a file that is no fixed-width transfer file.
+std::vector<std::u32string> transfer_records(std::string_view bytes);
+
+// The layout of a record identifier, or nullptr where none is declared.
+const RecordLayout* find_layout(std::u32string_view record);
+
+// A field's characters, as UTF-8.
+std::string field_text(std::u32string_view record, const FieldLayout& f);
+
+struct FileFinding {
+    std::size_t record;  // 1-based
+    std::string id;      // the record's identifier
+    std::string field;   // empty: the record as a whole
+    std::uint16_t pos = 0, len = 0;
+    std::string value;
+    const Rule* rule;
+};
+
+struct FileCheck {
+    std::size_t records = 0;
+    std::size_t undeclared = 0;  // records checked for their place and identifier only
+    std::vector<FileFinding> findings;
+};
+
+FileCheck check_transfer_file(const std::vector<std::u32string>& records);
+
+// "record 3 DSME Entgelt (pos 132-137) "0-5400": error DIGITS expected digits …"
+std::string describe(const FileFinding& f);
+
+}  // namespace tamrel::checks
