@@ -11,9 +11,8 @@ namespace tamrel::checks {
 namespace {
 
 // UTF-8 when the whole file is, else one character a byte.
-std::u32string decode(std::string_view line, bool utf8) {
-    std::u32string out;
-    out.reserve(line.size());
+void decode(std::string_view line, bool utf8, std::u32string& out) {
+    out.clear();
     for (std::size_t i = 0; i < line.size();) {
         const auto c = static_cast<unsigned char>(line[i]);
         if (!utf8 || c < 0x80) {
@@ -25,7 +24,6 @@ std::u32string decode(std::string_view line, bool utf8) {
         for (int k = 1; k <= n; ++k) cp = (cp << 6) | (static_cast<unsigned char>(line[i + k]) & 0x3F);
         out += cp, i += static_cast<std::size_t>(n) + 1;
     }
-    return out;
 }
 
 bool valid_utf8(std::string_view s) {
@@ -69,71 +67,74 @@ std::string trimmed(std::string s) {
     return s;
 }
 
+// Checks records as they come; what depends on a record being the last is
+// settled at the end.
 class FileChecker {
 public:
-    FileChecker(const std::vector<std::u32string>& records, FileCheck& out) : records_(records), out_(out) {}
+    explicit FileChecker(FileCheck& out) : out_(out) {}
 
-    void run() {
-        out_.records = records_.size();
-        if (records_.empty()) return;
-        const std::u32string_view first = records_.front(), last = records_.back();
-        if (id(first) != "VOSZ") add(0, &kFileFirst);
-        if (records_.size() < 2 || id(records_[1]) != "DSKO")
-            add(std::min<std::size_t>(1, records_.size() - 1), &kFileSecond);
-        if (id(last) != "NCSZ") add(records_.size() - 1, &kFileLast);
-        for (std::size_t i = 0; i < records_.size(); ++i) record(i);
-        if (id(last) == "NCSZ" && last.size() == layouts::kNCSZ.length) {
+    void add(std::u32string_view r) {
+        const std::size_t i = out_.records++;
+        if (i > 0 && id_ == "NCSZ") finding(i - 1, &kFileFrame);  // a trailer that was not the last record
+        id_ = utf8(r.substr(0, 4));
+        if (i == 0 && id_ != "VOSZ") finding(i, &kFileFirst);
+        if (i == 1 && id_ != "DSKO") finding(i, &kFileSecond);
+        if ((id_ == "VOSZ" && i != 0) || (id_ == "DSKO" && i != 1)) finding(i, &kFileFrame);
+        record(i, r);
+        last_.assign(r);
+    }
+
+    void finish() {
+        if (out_.records == 0) return;
+        const std::size_t i = out_.records - 1;
+        if (out_.records < 2) finding(i, &kFileSecond);
+        if (id_ != "NCSZ") {
+            finding(i, &kFileLast);
+        } else if (last_.size() == layouts::kNCSZ.length) {
             // The count covers every record but VOSZ and NCSZ.
             const FieldLayout& count = layouts::kNCSZ.fields[6];
-            const std::string text = field_text(last, count);
-            if (is_digits(text, 8) && std::stoul(text) != records_.size() - 2)
-                add(records_.size() - 1, &kFileCount, &count, text);
+            const std::string text = field_text(last_, count);
+            if (is_digits(text, 8) && std::stoul(text) + 2 != out_.records) finding(i, &kFileCount, &count, text);
         }
     }
 
 private:
-    static std::string id(std::u32string_view r) { return utf8(r.substr(0, 4)); }
-
-    void add(std::size_t i, const Rule* rule, const FieldLayout* f = nullptr, std::string value = {}) {
-        out_.findings.push_back({i + 1, id(records_[i]), f ? std::string(f->name) : std::string(),
-                                 f ? f->pos : std::uint16_t{0}, f ? f->len : std::uint16_t{0}, std::move(value), rule});
+    void finding(std::size_t i, const Rule* rule, const FieldLayout* f = nullptr, std::string value = {}) {
+        const std::string id = i + 1 == out_.records ? id_ : utf8(std::u32string_view(last_).substr(0, 4));
+        out_.findings.push_back({i + 1, id, f ? std::string(f->name) : std::string(), f ? f->pos : std::uint16_t{0},
+                                 f ? f->len : std::uint16_t{0}, std::move(value), rule});
     }
 
-    void record(std::size_t i) {
-        const std::u32string_view r = records_[i];
-        const std::string rid = id(r);
-        const bool frame = rid == "VOSZ" || rid == "DSKO" || rid == "NCSZ";
-        const bool in_place =
-            (rid == "VOSZ" && i == 0) || (rid == "DSKO" && i == 1) || (rid == "NCSZ" && i == records_.size() - 1);
-        if (frame && !in_place) add(i, &kFileFrame);
+    void record(std::size_t i, std::u32string_view r) {
         const RecordLayout* layout = find_layout(r);
         if (!layout) {
             ++out_.undeclared;
             return;
         }
         if (r.size() != layout->length) {
-            add(i, &kRecordLength, nullptr, std::to_string(r.size()) + " instead of " + std::to_string(layout->length));
+            finding(i, &kRecordLength, nullptr,
+                    std::to_string(r.size()) + " instead of " + std::to_string(layout->length));
             return;
         }
-        for (const FieldLayout& f : layout->fields) field(i, f);
+        for (const FieldLayout& f : layout->fields) field(i, r, f);
     }
 
-    void field(std::size_t i, const FieldLayout& f) {
-        const std::string text = field_text(records_[i], f);
+    void field(std::size_t i, std::u32string_view r, const FieldLayout& f) {
+        const std::string text = field_text(r, f);
         switch (f.kind) {
             case FieldKind::Literal:
-                if (text != f.literal) add(i, &kFieldLiteral, &f, text);
+                if (text != f.literal) finding(i, &kFieldLiteral, &f, text);
                 break;
             case FieldKind::N:
-                if (!is_digits(text, f.len)) add(i, &kDigits, &f, text);
+                if (!is_digits(text, f.len)) finding(i, &kDigits, &f, text);
                 break;
             case FieldKind::Date:
-                if (!is_date(text)) add(i, &kDate, &f, text);
+                if (!is_date(text)) finding(i, &kDate, &f, text);
                 break;
             case FieldKind::DateTime:
                 if (!is_digits(text, 14) || !is_date(text.substr(0, 8)) || text.substr(8, 2) > "23" ||
                     text.substr(10, 2) > "59" || text.substr(12, 2) > "59")
-                    add(i, &kDateTime, &f, text);
+                    finding(i, &kDateTime, &f, text);
                 break;
             case FieldKind::Code:
             case FieldKind::An:
@@ -142,34 +143,45 @@ private:
         // The parties: establishment numbers, the same in every frame record.
         if (f.name != "strBNRAb" && f.name != "strBNREm") return;
         const std::string number = trimmed(text);
-        if (const Rule* r = betriebsnummer_fault(number)) add(i, r, &f, number);
+        if (const Rule* rule = betriebsnummer_fault(number)) finding(i, rule, &f, number);
         std::string& first = f.name == "strBNRAb" ? sender_ : receiver_;
         if (first.empty() && i == 0)
             first = number;
         else if (!first.empty() && number != first)
-            add(i, &kFileParties, &f, number);
+            finding(i, &kFileParties, &f, number);
     }
 
-    const std::vector<std::u32string>& records_;
     FileCheck& out_;
+    std::string id_;       // of the record last added
+    std::u32string last_;  // the record last added
     std::string sender_, receiver_;
 };
 
 }  // namespace
 
-std::vector<std::u32string> transfer_records(std::string_view bytes) {
-    if (bytes.empty()) throw std::runtime_error("the file is empty");
-    if (bytes.starts_with("<?xml")) throw std::runtime_error("an XML report: only fixed-width files are read");
-    const bool utf8 = valid_utf8(bytes);
-    std::vector<std::u32string> records;
-    while (!bytes.empty()) {
-        std::size_t end = bytes.find('\n');
-        std::string_view line = bytes.substr(0, end);
-        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-        records.push_back(decode(line, utf8));
-        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
-    }
-    return records;
+void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each) {
+    std::string line;
+    auto lines = [&](auto&& take) {
+        in.clear();
+        in.seekg(0);
+        while (std::getline(in, line)) {
+            if (!line.empty() && line.back() == '\r') line.pop_back();
+            take(line);
+        }
+    };
+    bool utf8 = true, any = false, xml = false;
+    lines([&](const std::string& l) {
+        if (!any) xml = l.starts_with("<?xml");
+        any = true;
+        if (utf8 && !valid_utf8(l)) utf8 = false;
+    });
+    if (!any) throw std::runtime_error("the file is empty");
+    if (xml) throw std::runtime_error("an XML report: only fixed-width files are read");
+    std::u32string record;
+    lines([&](const std::string& l) {
+        decode(l, utf8, record);
+        each(record);
+    });
 }
 
 const RecordLayout* find_layout(std::u32string_view record) {
@@ -183,9 +195,11 @@ std::string field_text(std::u32string_view record, const FieldLayout& f) {
     return utf8(record.substr(f.pos - 1u, f.len));
 }
 
-FileCheck check_transfer_file(const std::vector<std::u32string>& records) {
+FileCheck check_transfer_file(std::istream& in) {
     FileCheck out;
-    FileChecker(records, out).run();
+    FileChecker checker(out);
+    read_records(in, [&](std::u32string_view r) { checker.add(r); });
+    checker.finish();
     return out;
 }
 

@@ -4,6 +4,8 @@
 // declared, and the numbers and dates those fields hold.
 #pragma once
 #include <cstddef>
+#include <functional>
+#include <istream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,10 +15,12 @@
 
 namespace tamrel::checks {
 
-// The file's records as characters (UTF-8 decoded, or else ISO-8859-1/15
-// byte for byte), without their line endings (LF or CR LF). Throws
-// std::runtime_error for a file that is no fixed-width transfer file.
-std::vector<std::u32string> transfer_records(std::string_view bytes);
+// Reads the file's records one at a time as characters (UTF-8 decoded when
+// the whole file is UTF-8, else ISO-8859-1/15 byte for byte), without their
+// line endings (LF or CR LF): two passes over the stream, memory for one
+// record. Throws std::runtime_error for a file that is no fixed-width
+// transfer file.
+void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each);
 
 // The layout of a record identifier, or nullptr where none is declared.
 const RecordLayout* find_layout(std::u32string_view record);
@@ -39,7 +43,7 @@ struct FileCheck {
     std::vector<FileFinding> findings;
 };
 
-FileCheck check_transfer_file(const std::vector<std::u32string>& records);
+FileCheck check_transfer_file(std::istream& in);
 
 // "record 3 DSME Entgelt (pos 132-137) "0-5400": error DIGITS expected digits …"
 std::string describe(const FileFinding& f);

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <sstream>
 
 #include <nlohmann/json.hpp>
 
@@ -14,22 +13,21 @@
 namespace tamrel::cli {
 namespace {
 
-// The file's records, or a message on standard error and nullopt.
-bool read_records(const std::string& command, const std::string& path, std::vector<std::u32string>& records) {
+// Runs `body` on the opened file; a file that cannot be read or is no
+// transfer file is told on standard error (exit code 2).
+template <class Body>
+int with_file(const std::string& command, const std::string& path, Body&& body) {
     std::ifstream in(path, std::ios::binary);
     if (!in) {
         std::cerr << "tamrel " << command << ": " << path << ": cannot be read: " << std::strerror(errno) << '\n';
-        return false;
+        return 2;
     }
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
     try {
-        records = checks::transfer_records(bytes.str());
+        return body(in);
     } catch (const std::exception& e) {
         std::cerr << "tamrel " << command << ": " << path << ": " << e.what() << '\n';
-        return false;
+        return 2;
     }
-    return true;
 }
 
 const char* kind_name(FieldKind k) {
@@ -70,63 +68,73 @@ std::string decoded(const std::string& raw, FieldKind k) {
 }  // namespace
 
 int check_file(const std::string& path) {
-    std::vector<std::u32string> records;
-    if (!read_records("check", path, records)) return 2;
-    const checks::FileCheck result = checks::check_transfer_file(records);
-    std::size_t errors = 0, warnings = 0;
-    for (const checks::FileFinding& f : result.findings) {
-        std::cout << checks::describe(f) << '\n';
-        ++(f.rule->severity == checks::Severity::Error ? errors : warnings);
-    }
-    std::cout << path << ": " << result.records << " records, " << errors << " errors, " << warnings << " warnings";
-    if (result.undeclared)
-        std::cout << "; " << result.undeclared
-                  << " records checked for their place only (their layout is not declared yet)";
-    std::cout << '\n';
-    return errors ? 1 : 0;
+    return with_file("check", path, [&](std::istream& in) {
+        const checks::FileCheck result = checks::check_transfer_file(in);
+        std::size_t errors = 0, warnings = 0;
+        for (const checks::FileFinding& f : result.findings) {
+            std::cout << checks::describe(f) << '\n';
+            ++(f.rule->severity == checks::Severity::Error ? errors : warnings);
+        }
+        std::cout << path << ": " << result.records << " records, " << errors << " errors, " << warnings << " warnings";
+        if (result.undeclared)
+            std::cout << "; " << result.undeclared
+                      << " records checked for their place only (their layout is not declared yet)";
+        std::cout << '\n';
+        return errors ? 1 : 0;
+    });
 }
 
-int inspect_file(const std::string& path, bool json, std::size_t only) {
-    std::vector<std::u32string> records;
-    if (!read_records("inspect", path, records)) return 2;
-    if (only > records.size()) {
-        std::cerr << "tamrel inspect: --record " << only << ": the file has " << records.size() << " records\n";
-        return 2;
-    }
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        if (only && i + 1 != only) continue;
-        const std::u32string& r = records[i];
-        const RecordLayout* layout = checks::find_layout(r);
+namespace {
+
+void show_record(std::size_t number, std::u32string_view r, bool json) {
+    const RecordLayout* layout = checks::find_layout(r);
+    const std::string id = checks::field_text(r, {"identifier", 1, 4, FieldKind::An});
+    auto line = [&](nlohmann::ordered_json j) {
+        std::cout << j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+    };
+    if (!json) std::cout << "record " << number << " " << id << " (" << r.size() << " characters)\n";
+    if (!layout) {
         const FieldLayout whole{"record", 1, static_cast<std::uint16_t>(r.size()), FieldKind::An};
-        const std::string id = checks::field_text(r, {"identifier", 1, 4, FieldKind::An});
-        if (!json) std::cout << "record " << i + 1 << " " << id << " (" << r.size() << " characters)\n";
-        if (!layout) {
-            if (json) {
-                nlohmann::ordered_json j = {{"record", i + 1}, {"id", id}, {"raw", checks::field_text(r, whole)}};
-                std::cout << j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
-            } else {
-                std::cout << "  (its layout is not declared yet)\n";
-            }
+        if (json)
+            line({{"record", number}, {"id", id}, {"raw", checks::field_text(r, whole)}});
+        else
+            std::cout << "  (its layout is not declared yet)\n";
+        return;
+    }
+    for (const FieldLayout& f : layout->fields) {
+        const std::string raw = checks::field_text(r, f), value = decoded(raw, f.kind);
+        if (json) {
+            line({{"record", number},
+                  {"id", id},
+                  {"field", f.name},
+                  {"pos", f.pos},
+                  {"len", f.len},
+                  {"kind", kind_name(f.kind)},
+                  {"raw", raw},
+                  {"value", value}});
             continue;
         }
-        for (const FieldLayout& f : layout->fields) {
-            const std::string raw = checks::field_text(r, f), value = decoded(raw, f.kind);
-            if (json) {
-                nlohmann::ordered_json j = {{"record", i + 1}, {"id", id},      {"field", f.name},
-                                            {"pos", f.pos},    {"len", f.len},  {"kind", kind_name(f.kind)},
-                                            {"raw", raw},      {"value", value}};
-                std::cout << j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
-            } else {
-                char positions[16];
-                std::snprintf(positions, sizeof positions, "%3u-%-3u", f.pos, f.pos + f.len - 1u);
-                std::cout << "  " << positions << "  " << f.name
-                          << std::string(f.name.size() < 20 ? 20 - f.name.size() : 1, ' ') << kind_name(f.kind)
-                          << std::string(10 - std::strlen(kind_name(f.kind)), ' ') << "[" << raw << "]"
-                          << (value != raw ? "  " + value : std::string()) << '\n';
-            }
-        }
+        char head[64];
+        std::snprintf(head, sizeof head, "  %3u-%-3u  %-20.*s %-9s ", f.pos, f.pos + f.len - 1u,
+                      static_cast<int>(f.name.size()), f.name.data(), kind_name(f.kind));
+        std::cout << head << "[" << raw << "]" << (value != raw ? "  " + value : std::string()) << '\n';
     }
-    return 0;
+}
+
+}  // namespace
+
+int inspect_file(const std::string& path, bool json, std::size_t only) {
+    return with_file("inspect", path, [&](std::istream& in) {
+        std::size_t number = 0;
+        checks::read_records(in, [&](std::u32string_view r) {
+            if (!only || ++number == only) show_record(only ? only : ++number, r, json);
+        });
+        if (only && number < only) {
+            std::cerr << "tamrel inspect: --record " << only << ": the file has " << number << " records\n";
+            return 2;
+        }
+        return 0;
+    });
 }
 
 }  // namespace tamrel::cli
