@@ -16,23 +16,20 @@ std::string_view reason_entry(std::string_view reason) {
     constexpr std::string_view table = clsGenMeldung::kBlockTable;
     if (reason.size() != 2) return {};
     for (std::size_t at = 0; at + 9 <= table.size(); at += 9)
-        if (table.substr(at, 2) == reason) return table.substr(at, 9);
+        if (table[at] == reason[0] && table[at + 1] == reason[1]) return table.substr(at, 9);
     return {};
 }
 bool wanted(std::string_view entry, int block) { return !entry.empty() && entry[1 + block] == 'J'; }
 constexpr int kDBME = 1, kDBNA = 2;
 
-bool among(std::string_view reason, std::initializer_list<std::string_view> reasons) {
-    for (std::string_view r : reasons)
-        if (r == reason) return true;
-    return false;
+// The reason as a number, -1 for anything but two digits.
+int reason_code(std::string_view r) {
+    if (r.size() != 2 || r[0] < '0' || r[0] > '9' || r[1] < '0' || r[1] > '9') return -1;
+    return (r[0] - '0') * 10 + (r[1] - '0');
 }
 // Registrations (which begin an employment) and the reports that end a period.
-bool registration(std::string_view r) { return among(r, {"10", "11", "12", "13"}); }
-bool ends_period(std::string_view r) {
-    return among(r, {"30", "31", "32", "33", "34", "35", "36", "40", "49", "50",
-                     "51", "52", "53", "54", "55", "56", "57", "70", "71", "72"});
-}
+bool registration(int r) { return r >= 10 && r <= 13; }
+bool ends_period(int r) { return (r >= 30 && r <= 36) || r == 40 || (r >= 49 && r <= 57) || (r >= 70 && r <= 72); }
 
 }  // namespace
 
@@ -40,6 +37,7 @@ void check_report(const Meldung& m, Findings& f) {
     const FieldChecks c(f);
     const std::string_view reason = m.Meldegrund;
     const std::string_view entry = reason_entry(reason);
+    const int code = reason_code(reason);
     if (reason.empty())
         c.add(kMissing, "Meldegrund", reason);
     else if (entry.empty())
@@ -50,7 +48,7 @@ void check_report(const Meldung& m, Findings& f) {
     const FieldChecks v = c.within("Vorgang");
     const Vorgang& p = m.Vorgang;
     v.versicherungsnummer("Versicherungsnummer", p.Versicherungsnummer);
-    if (p.Versicherungsnummer.empty() && (registration(reason) || reason == "20" || reason == "40")) {
+    if (p.Versicherungsnummer.empty() && (registration(code) || code == 20 || code == 40)) {
         v.required("Geburtsdatum", p.Geburtsdatum);
         v.required("Geschlecht", p.Geschlecht);
         v.required("Geburtsort", p.Geburtsort);
@@ -59,6 +57,24 @@ void check_report(const Meldung& m, Findings& f) {
         v.required("Familienname", p.Familienname);
         v.required("Vorname", p.Vorname);
     }
+    // Names and address as the blocks DBNA, DBGB and DBAN hold them.
+    const std::pair<std::string_view, std::pair<const std::string*, std::size_t>> texts[] = {
+        {"Familienname", {&p.Familienname, 30}},
+        {"Vorname", {&p.Vorname, 30}},
+        {"Vorsatzwort", {&p.Vorsatzwort, 20}},
+        {"Namenszusatz", {&p.Namenszusatz, 20}},
+        {"Titel", {&p.Titel, 20}},
+        {"Geburtsname", {&p.Geburtsname, 30}},
+        {"GeburtsVorsatzwort", {&p.GeburtsVorsatzwort, 20}},
+        {"GeburtsNamenszusatz", {&p.GeburtsNamenszusatz, 20}},
+        {"Geburtsort", {&p.Geburtsort, 34}},
+        {"PLZ", {&p.PLZ, 10}},
+        {"Ort", {&p.Ort, 34}},
+        {"Strasse", {&p.Strasse, 33}},
+        {"Hausnummer", {&p.Hausnummer, 9}},
+        {"Adresszusatz", {&p.Adresszusatz, 40}},
+        {"Aktenzeichen", {&p.Aktenzeichen, 20}}};
+    for (const auto& [name, field] : texts) v.text(name, *field.first, field.second);
     v.date("Geburtsdatum", p.Geburtsdatum);
     v.one_of("Geschlecht", p.Geschlecht, {"M", "W", "D", "X"}, kGender);
     v.digits("Laenderschluessel", p.Laenderschluessel, 3);
@@ -66,15 +82,18 @@ void check_report(const Meldung& m, Findings& f) {
     // The employment (block DBME): person group, period, contribution
     // groups, pay in whole euros.
     c.digits("Personengruppe", m.Personengruppe, 3);
+    c.key("Zusatzmerkmal", m.Zusatzmerkmal, 1);
+    c.key("Statuskennzeichen", m.Statuskennzeichen, 1);
+    c.key("Meldekennzeichen", m.Meldekennzeichen, 1);
     if (wanted(entry, kDBME)) {
         c.required("Personengruppe", m.Personengruppe);
         c.required("Beginn", m.Beginn);
-        if (ends_period(reason)) c.required("Ende", m.Ende);
-        if (registration(reason) && !m.Ende.empty()) c.add(kEndOnRegistration, "Ende", m.Ende);
-        const std::pair<const char*, const std::string*> groups[] = {{"Beitragsgruppe1", &m.Beitragsgruppe1},
-                                                                     {"Beitragsgruppe2", &m.Beitragsgruppe2},
-                                                                     {"Beitragsgruppe3", &m.Beitragsgruppe3},
-                                                                     {"Beitragsgruppe4", &m.Beitragsgruppe4}};
+        if (ends_period(code)) c.required("Ende", m.Ende);
+        if (registration(code) && !m.Ende.empty()) c.add(kEndOnRegistration, "Ende", m.Ende);
+        const std::pair<std::string_view, const std::string*> groups[] = {{"Beitragsgruppe1", &m.Beitragsgruppe1},
+                                                                          {"Beitragsgruppe2", &m.Beitragsgruppe2},
+                                                                          {"Beitragsgruppe3", &m.Beitragsgruppe3},
+                                                                          {"Beitragsgruppe4", &m.Beitragsgruppe4}};
         for (const auto& [name, value] : groups) c.required(name, *value);
         if (m.Beitragsgruppe1 == "2")
             c.add(kContributionGroupOld, "Beitragsgruppe1", m.Beitragsgruppe1);

@@ -40,6 +40,23 @@ void FieldChecks::one_of(std::string_view name, std::string_view value, std::ini
     add(rule, name, value);
 }
 
+namespace {
+std::size_t characters(std::string_view utf8) {
+    std::size_t n = 0;
+    for (char c : utf8) n += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    return n;
+}
+}  // namespace
+
+// A text of no more bytes than the width fits without counting its characters.
+void FieldChecks::text(std::string_view name, std::string_view value, std::size_t width) const {
+    if (value.size() > width && characters(value) > width) add(kTextLength, name, value);
+}
+
+void FieldChecks::key(std::string_view name, std::string_view value, std::size_t width) const {
+    if (value.size() > width && characters(value) > width) add(kKeyLength, name, value);
+}
+
 void FieldChecks::versicherungsnummer(std::string_view name, std::string_view value) const {
     if (value.empty()) return;
     if (const Rule* r = versicherungsnummer_fault(value)) add(*r, name, value);

@@ -26,6 +26,9 @@ public:
     void digits(std::string_view name, std::string_view value, std::size_t width) const;
     void one_of(std::string_view name, std::string_view value, std::initializer_list<std::string_view> keys,
                 const Rule& rule) const;
+    // Longer than `width` characters: a text is cut (a warning), a key is wrong.
+    void text(std::string_view name, std::string_view value, std::size_t width) const;
+    void key(std::string_view name, std::string_view value, std::size_t width) const;
     void versicherungsnummer(std::string_view name, std::string_view value) const;
     void betriebsnummer(std::string_view name, std::string_view value) const;
     void add(const Rule& rule, std::string_view name, std::string_view value) const { f_.add(rule, path(name), value); }

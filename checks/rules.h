@@ -52,6 +52,9 @@ inline constexpr Rule kContributionGroupOld{"CONTRIBUTION-GROUP-2008", W,
                                             "contribution group 2 (increased rate) applies only until 2008-12-31"};
 inline constexpr Rule kGender{"GENDER", E, "Geschlecht: M, W, D oder X erwartet", "gender: expected M, W, D or X"};
 inline constexpr Rule kMissing{"MISSING", E, "Angabe fehlt", "missing"};
+inline constexpr Rule kTextLength{"TEXT-LENGTH", W, "Text länger als sein Feld: er wird abgeschnitten",
+                                  "text longer than its field: it is cut"};
+inline constexpr Rule kKeyLength{"KEY-LENGTH", E, "Schlüssel länger als sein Feld", "key longer than its field"};
 inline constexpr Rule kEndOnRegistration{"END-ON-REGISTRATION", W, "Ende bei einer Anmeldung angegeben",
                                          "an end date on a registration"};
 
@@ -91,6 +94,8 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,
                                          &kGender,
                                          &kMissing,
                                          &kEndOnRegistration,
+                                         &kTextLength,
+                                         &kKeyLength,
                                          &kFileFirst,
                                          &kFileSecond,
                                          &kFileLast,

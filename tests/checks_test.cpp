@@ -159,6 +159,17 @@ TEST(DataChecks, DeuevReport) {
              m.Vorgang.Vorname.clear();
          },
          ""},
+        {"a name cut, a key too long",
+         [](Meldung& m) {
+             m.Vorgang.Familienname = "Müller-Lüdenscheidt-Großkopf-Übermann";  // 36 characters
+             m.Statuskennzeichen = "12";
+         },
+         "warning TEXT-LENGTH Vorgang.Familienname (Müller-Lüdenscheidt-Großkopf-Übermann): text longer than its "
+         "field: it is cut\n"
+         "error KEY-LENGTH Statuskennzeichen (12): key longer than its field\n"},
+        {"umlauts count as one character each",
+         [](Meldung& m) { m.Vorgang.Familienname = "Müller-Lüdenscheidt-Großkopf-"; },  // 30 characters
+         ""},
         {"person group of two digits", [](Meldung& m) { m.Personengruppe = "10"; },
          "error DIGITS Personengruppe (10): expected digits of the field's length\n"},
     };
