@@ -29,11 +29,9 @@ void check_report(const BeitrNachw& b, Findings& f) {
     for (const auto& [name, value] : amounts) c.decimal_amount(name, *value, 9, 2, true);
 
     const FieldChecks a = c.within("Arbeitgeber");
-    a.required("Betriebsnummer", b.Arbeitgeber.Betriebsnummer);
-    a.betriebsnummer("Betriebsnummer", b.Arbeitgeber.Betriebsnummer);
+    a.establishment("Betriebsnummer", b.Arbeitgeber.Betriebsnummer);
     const FieldChecks e = c.within("Empfaenger");
-    e.required("Betriebsnummer", b.Empfaenger.Betriebsnummer);
-    e.betriebsnummer("Betriebsnummer", b.Empfaenger.Betriebsnummer);
+    e.establishment("Betriebsnummer", b.Empfaenger.Betriebsnummer);
 }
 
 }  // namespace tamrel::checks

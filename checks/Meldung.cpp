@@ -110,11 +110,9 @@ void check_report(const Meldung& m, Findings& f) {
 
     // The employer and the receiving health insurer.
     const FieldChecks a = v.within("Arbeitgeber");
-    a.required("Betriebsnummer", p.Arbeitgeber.Betriebsnummer);
-    a.betriebsnummer("Betriebsnummer", p.Arbeitgeber.Betriebsnummer);
+    a.establishment("Betriebsnummer", p.Arbeitgeber.Betriebsnummer);
     const FieldChecks e = c.within("Empfaenger");
-    e.required("Betriebsnummer", m.Empfaenger.Betriebsnummer);
-    e.betriebsnummer("Betriebsnummer", m.Empfaenger.Betriebsnummer);
+    e.establishment("Betriebsnummer", m.Empfaenger.Betriebsnummer);
 }
 
 }  // namespace tamrel::checks

@@ -31,6 +31,11 @@ public:
     void key(std::string_view name, std::string_view value, std::size_t width) const;
     void versicherungsnummer(std::string_view name, std::string_view value) const;
     void betriebsnummer(std::string_view name, std::string_view value) const;
+    // A required establishment number: present, of its form, its check digit right.
+    void establishment(std::string_view name, std::string_view value) const {
+        required(name, value);
+        betriebsnummer(name, value);
+    }
     void add(const Rule& rule, std::string_view name, std::string_view value) const { f_.add(rule, path(name), value); }
 
 private:

@@ -7,10 +7,8 @@ namespace tamrel::checks {
 
 void check_frame(std::string_view strBNRAb, std::string_view strBNREm, Findings& f) {
     const FieldChecks c(f);
-    c.required("strBNRAb", strBNRAb);
-    c.betriebsnummer("strBNRAb", strBNRAb);
-    c.required("strBNREm", strBNREm);
-    c.betriebsnummer("strBNREm", strBNREm);
+    c.establishment("strBNRAb", strBNRAb);
+    c.establishment("strBNREm", strBNREm);
 }
 
 }  // namespace tamrel::checks

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <string>
 
+#include "component/com/class_factory.h"
 #include "component/com/classes.h"
 #include "component/com/com_error.h"
 #include "component/com/com_object.h"
@@ -35,48 +36,6 @@ ITypeLib* type_library() {
     }();
     return lib;
 }
-
-class Factory : public IClassFactory {
-public:
-    explicit Factory(const ClassEntry& entry) : entry_(entry) {}
-    virtual ~Factory() = default;
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-        if (!out) return E_POINTER;
-        if (iid == IID_IUnknown || iid == IID_IClassFactory) {
-            *out = static_cast<IClassFactory*>(this);
-            AddRef();
-            return S_OK;
-        }
-        *out = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG n = --refs_;
-        if (n == 0) delete this;
-        return n;
-    }
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
-        if (!out) return E_POINTER;
-        *out = nullptr;
-        if (outer) return CLASS_E_NOAGGREGATION;
-        IUnknown* object = nullptr;
-        // A generator that cannot be made (its test object failing) says why.
-        const HRESULT made = guarded([&] { object = entry_.create(); });
-        if (FAILED(made)) return made;
-        const HRESULT hr = object->QueryInterface(iid, out);
-        object->Release();
-        return hr;
-    }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
-        lock ? ++g_live : --g_live;
-        return S_OK;
-    }
-
-private:
-    const ClassEntry& entry_;
-    std::atomic<ULONG> refs_{1};
-};
 
 std::wstring guid_text(const GUID& g) {
     wchar_t buffer[40];
@@ -126,7 +85,7 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
     *out = nullptr;
     for (std::size_t i = 0; i < kClassCount; ++i) {
         if (kClasses[i].clsid != clsid || !kClasses[i].create) continue;
-        Factory* f = new (std::nothrow) Factory(kClasses[i]);
+        auto* f = new (std::nothrow) ClassFactory(kClasses[i].create, &g_live);
         if (!f) return E_OUTOFMEMORY;
         const HRESULT hr = f->QueryInterface(iid, out);
         f->Release();
