@@ -6,9 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
 #include <functional>
-#include <sstream>
 
 #include <nlohmann/json.hpp>
 
@@ -205,14 +203,6 @@ TEST(DataChecks, ContributionStatementAmountsAndPeriod) {
         change(b);
         EXPECT_EQ(findings_of(b), want);
     }
-}
-
-TEST(DataChecks, EveryRuleIsDocumented) {
-    std::ifstream in(std::string(TAMREL_SOURCE_DIR) + "/docs/checks.md");
-    std::stringstream doc;
-    doc << in.rdbuf();
-    for (const checks::Rule* r : checks::kRules)
-        EXPECT_NE(doc.str().find("`" + std::string(r->id) + "`"), std::string::npos) << r->id;
 }
 
 TEST(DataChecks, TheCallProtocolAnswersWithTheFindings) {

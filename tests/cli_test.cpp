@@ -217,28 +217,6 @@ TEST_F(Cli, CallAnswersEveryLineInOrder) {
     EXPECT_EQ(json::parse(c)["request_error"], "method: clsGenAsyl has no method GenDSKO");
 }
 
-}  // namespace
-
-namespace {
-
-// Every example job writes its transfer file and protocol.
-TEST_F(Cli, EveryExampleJobGenerates) {
-    for (const auto& e : fs::directory_iterator(fs::path(TAMREL_SOURCE_DIR) / "examples")) {
-        if (e.path().extension() != ".json") continue;
-        std::string proto = std::string(e.path().filename().string()).starts_with("xml-")
-                                ? ""
-                                : " --protocol " + (dir_ / "p.txt").string();
-        Result r = run("generate " + e.path().string() + proto + " -o " + (dir_ / "o.txt").string());
-        EXPECT_EQ(r.status, 0) << e.path();
-        std::string file = slurp(dir_ / "o.txt");
-        EXPECT_TRUE(file.starts_with("VOSZ") || file.starts_with("<?xml")) << e.path();
-    }
-}
-
-}  // namespace
-
-namespace {
-
 // The checks before generating: an error stops the report, a warning is told,
 // --findings holds both, --no-check builds the report as given.
 TEST_F(Cli, ChecksStopABadReportAndTellWarnings) {
@@ -277,10 +255,6 @@ TEST_F(Cli, ChecksStopABadReportAndTellWarnings) {
     EXPECT_EQ(unchecked.status, 0) << unchecked.out;
     EXPECT_NE(slurp(out).find("0-5400"), std::string::npos);  // what the record builder makes of it
 }
-
-}  // namespace
-
-namespace {
 
 // tamrel check and tamrel inspect on a file tamrel generate wrote.
 TEST_F(Cli, CheckAndInspectAFile) {

@@ -5,8 +5,6 @@
 //                                         LF) and one protocol line per report
 //   com_client data JOB                   each report's GenData as one JSON
 //                                         line: result, or error and log lines
-//   com_client trace JOB OUT PROTOCOL     as generate, and every property read
-//                                         on standard output
 //   com_client bench JOB N                N calls of GenData with the first
 //                                         report, as reports per second
 #include <cstdio>
@@ -245,7 +243,7 @@ void write_lines(const std::string& path, const std::vector<std::string>& lines)
 
 struct Object {
     IDispatch* d;
-    explicit Object(const json& report) : d(new JsonObject(report, "obj")) {}
+    explicit Object(const json& report) : d(new JsonObject(report)) {}
     ~Object() { d->Release(); }
     Object(const Object&) = delete;
     Object& operator=(const Object&) = delete;
@@ -332,8 +330,7 @@ void bench(const json& job, const std::string& cls, const std::string& count) {
 template <class Itf>
 void run(const std::string& mode, const json& job, const std::string& cls, const std::vector<std::string>& args) {
     const std::string a = args.size() > 2 ? args[2] : "", b = args.size() > 3 ? args[3] : "";
-    if (mode == "trace") JsonObject::trace = stdout;
-    if (mode == "generate" || mode == "trace")
+    if (mode == "generate")
         generate<Itf>(job, cls, a, b);
     else if (mode == "data")
         data<Itf>(job, cls);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "component/com/class_factory.h"
 #include "component/com/com_text.h"
 #include "component/com/server_host.h"
 
@@ -49,7 +50,7 @@ const json* entry(const json& v, long index) {
     return nullptr;
 }
 
-HRESULT to_variant(const json* v, VARIANT& out, const std::string& path) {
+HRESULT to_variant(const json* v, VARIANT& out) {
     if (!v || v->is_null()) return S_OK;
     if (v->is_string()) {
         V_VT(&out) = VT_BSTR;
@@ -71,7 +72,7 @@ HRESULT to_variant(const json* v, VARIANT& out, const std::string& path) {
         V_R8(&out) = v->get<double>();
     } else if (v->is_object()) {
         V_VT(&out) = VT_DISPATCH;
-        V_DISPATCH(&out) = new JsonObject(*v, path);
+        V_DISPATCH(&out) = new JsonObject(*v);
     }
     return S_OK;
 }
@@ -101,7 +102,7 @@ std::size_t JsonObject::NameHash::operator()(std::string_view name) const {
     return static_cast<std::size_t>(h);
 }
 
-JsonObject::JsonObject(const json& value, std::string path) : value_(value), path_(std::move(path)) {
+JsonObject::JsonObject(const json& value) : value_(value) {
     if (!value.is_object()) return;
     for (const auto& [k, v] : value.items()) {
         slots_.push_back({k, &v, false, 0, {}, nullptr});
@@ -166,20 +167,19 @@ HRESULT JsonObject::whole(Slot& slot, VARIANT& result) {
         return S_OK;
     }
     if (v.is_object()) {
-        if (!slot.child) slot.child = new JsonObject(v, path_ + "." + slot.name);
+        if (!slot.child) slot.child = new JsonObject(v);
         slot.child->AddRef();
         V_VT(&result) = VT_DISPATCH;
         V_DISPATCH(&result) = slot.child;
         return S_OK;
     }
-    return to_variant(&v, result, path_ + "." + slot.name);
+    return to_variant(&v, result);
 }
 
 HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result, EXCEPINFO* error) {
     if (id < 1 || static_cast<std::size_t>(id) > slots_.size()) return DISP_E_MEMBERNOTFOUND;
     Slot& slot = slots_[static_cast<std::size_t>(id - 1)];
     const long index = index_argument(params);
-    if (trace) std::fprintf(trace, "%s\t%s\t%ld\n", path_.c_str(), slot.name.c_str(), index);
     if (!slot.value) {
         if (index == 0 && slot.has_derived) {
             V_VT(&result) = VT_I4;
@@ -189,7 +189,7 @@ HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result,
     }
     if (slot.value->is_object() && slot.value->contains("$raise")) return raise(slot.value->at("$raise"), error);
     if (index == 0) return whole(slot, result);
-    return to_variant(entry(*slot.value, index), result, path_ + "." + slot.name + "()");
+    return to_variant(entry(*slot.value, index), result);
 }
 
 namespace {
@@ -221,38 +221,6 @@ namespace {
 // The client's own class id for its test object.
 constexpr CLSID kTestAnswers = {0x3f1e2a5c, 0x7d41, 0x4b8e, {0x9a, 0x60, 0x2c, 0x51, 0xe8, 0x0b, 0x4f, 0x17}};
 
-class Factory : public IClassFactory {
-public:
-    explicit Factory(const json& tests) : tests_(tests) {}
-    virtual ~Factory() = default;
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-        if (iid == IID_IUnknown || iid == IID_IClassFactory) {
-            *out = static_cast<IClassFactory*>(this);
-            AddRef();
-            return S_OK;
-        }
-        *out = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG n = --refs_;
-        if (n == 0) delete this;
-        return n;
-    }
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID iid, void** out) override {
-        TestAnswers* t = new TestAnswers(tests_);
-        const HRESULT hr = t->QueryInterface(iid, out);
-        t->Release();
-        return hr;
-    }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
-
-private:
-    const json& tests_;
-    std::atomic<ULONG> refs_{1};
-};
-
 // Under HKEY_CLASSES_ROOT: wine does not merge the user's classes into it.
 std::wstring prog_id_key() { return tamrel::com::kObjectTestsProgId; }
 
@@ -261,7 +229,8 @@ std::wstring prog_id_key() { return tamrel::com::kObjectTestsProgId; }
 TestAnswersRegistration::TestAnswersRegistration(const json& tests) {
     RegDeleteTreeW(HKEY_CLASSES_ROOT, prog_id_key().c_str());
     if (tests.is_null()) return;
-    Factory* f = new Factory(tests);
+    auto* f =
+        new tamrel::com::ClassFactory([&tests] { return static_cast<IUnknown*>(new TestAnswers(tests)); }, nullptr);
     CoRegisterClassObject(kTestAnswers, f, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_);
     f->Release();
     wchar_t guid[64];

@@ -8,7 +8,6 @@
 #pragma once
 #include <nlohmann/json.hpp>
 
-#include <cstdio>
 #include <unordered_map>
 #include <vector>
 
@@ -20,11 +19,7 @@ using nlohmann::json;
 
 class JsonObject : public AutomationObject {
 public:
-    // `value` outlives the object; `path` names it in the trace.
-    explicit JsonObject(const json& value, std::string path = "");
-    // When set, every read is written to it as "path<TAB>property<TAB>index":
-    // the shape of each data object as the server reads it.
-    static inline std::FILE* trace = nullptr;
+    explicit JsonObject(const json& value);  // `value` outlives the object
 
 protected:
     DISPID id_of(std::string_view name) override;
@@ -57,7 +52,6 @@ private:
     std::vector<Slot> slots_;  // by DISPID - 1
     std::unordered_map<std::string, DISPID, NameHash, NameEqual> ids_;
     const json& value_;
-    std::string path_;
 };
 
 // The host program's test object: NameTest, EmpfBknTest1 and EmpfBknTest2
