@@ -205,20 +205,6 @@ TEST(DataChecks, ContributionStatementAmountsAndPeriod) {
     }
 }
 
-TEST(DataChecks, TheCallProtocolAnswersWithTheFindings) {
-    Meldung m = registration();
-    const json request = json::parse(R"({"class":"clsGenMeldung","method":"Check","args":{"objMeldung":
-        {"Meldegrund":"10","Personengruppe":"101","Beginn":"20240301","Beitragsgruppe1":"1","Beitragsgruppe2":"1",
-         "Beitragsgruppe3":"1","Beitragsgruppe4":"1","Entgelt":"-5","Vorgang":{"Versicherungsnummer":"65170839J003",
-         "Familienname":"Muster","Vorname":"Erika","Arbeitgeber":{"Betriebsnummer":"98765432"}},
-         "Empfaenger":{"Betriebsnummer":"12345671"}}}})");
-    EXPECT_EQ(
-        call(request).dump(),
-        R"({"result":"","out":{"findings":[{"rule":"AMOUNT-NEGATIVE","severity":"error","field":"Entgelt",)"
-        R"("value":"-5","message":"Betrag: darf nicht negativ sein","message_en":"amount: must not be negative"}]},)"
-        R"("log":[]})");
-}
-
 TEST(DataChecks, EveryExampleIsClean) {
     for (const auto& e : tamrel::testing::example_jobs()) {
         for (const json& report : e.job["reports"]) {

@@ -192,14 +192,6 @@ TEST_F(Outputs, TransliterationWritesTheUsualSubstitutesAndSaysSo) {
         << file("p.txt");
 }
 
-TEST_F(Outputs, EncodingsAreAcceptedInTheirCommonSpellings) {
-    for (const char* e : {"utf-8", "UTF8", "latin1", "Latin-1", "iso-8859-1", "ISO8859-15", "l9"})
-        EXPECT_EQ(run(std::string("generate job.json -o out.txt --encoding ") + e).status, 0) << e;
-    const Outcome r = run("generate job.json -o out.txt --encoding ebcdic");
-    EXPECT_EQ(r.status, 2);
-    EXPECT_NE(r.err.find("latin1"), std::string::npos);
-}
-
 TEST_F(Outputs, LeftoversOfAKilledRunAreRemovedOrReported) {
     put(".out.txt.tamrel-999999999-Ab12Cd", "partial");
     put(".out.txt.tmp-Ab12Cd", "partial of an older version");
