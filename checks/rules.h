@@ -72,6 +72,17 @@ inline constexpr Rule kFileParties{"FILE-PARTIES", E, "Absender oder Empfänger 
                                    "sender or receiver differs from the VOSZ's"};
 inline constexpr Rule kRecordLength{"RECORD-LENGTH", E, "Satzlänge stimmt nicht", "the record's length is wrong"};
 inline constexpr Rule kFieldLiteral{"FIELD-LITERAL", E, "fester Feldinhalt falsch", "a fixed field content is wrong"};
+inline constexpr Rule kBlockMissing{"BLOCK-MISSING", E,
+                                    "Angekündigter Datenbaustein fehlt oder steht an falscher Stelle",
+                                    "a block the record announces is missing or out of order"};
+inline constexpr Rule kBlockUnannounced{"BLOCK-UNANNOUNCED", E,
+                                        "Datenbaustein oder Text, den der Datensatz nicht ankündigt",
+                                        "a block or text the record does not announce"};
+inline constexpr Rule kRecordUnknown{"RECORD-ID", E, "Unbekannte Satzart", "unknown record identifier"};
+inline constexpr Rule kFlag{"FLAG", E, "J oder N erwartet", "expected J or N"};
+inline constexpr Rule kAmountDigits{"AMOUNT-FIELD", E,
+                                    "Betragsfeld: Ziffern (und, wo vorgesehen, ein Vorzeichen) erwartet",
+                                    "amount field: expected digits (and, where the field has one, a sign)"};
 inline constexpr Rule kDateTime{"DATETIME", E, "kein gültiger Zeitpunkt (JJJJMMTTHHMMSS)",
                                 "not a date and time (YYYYMMDDHHMMSS)"};
 
@@ -104,6 +115,11 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,
                                          &kFileParties,
                                          &kRecordLength,
                                          &kFieldLiteral,
-                                         &kDateTime};
+                                         &kDateTime,
+                                         &kBlockMissing,
+                                         &kBlockUnannounced,
+                                         &kRecordUnknown,
+                                         &kFlag,
+                                         &kAmountDigits};
 
 }  // namespace tamrel::checks

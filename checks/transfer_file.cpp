@@ -2,7 +2,10 @@
 
 #include <stdexcept>
 
+#include "checks/field_kinds.h"
+#include "checks/line_walk.h"
 #include "checks/numbers.h"
+#include "checks/record_layouts.h"
 #include "checks/rules.h"
 #include "checks/values.h"
 #include "core/frame_layouts.h"
@@ -38,30 +41,6 @@ bool valid_utf8(std::string_view s) {
     return true;
 }
 
-std::string utf8(std::u32string_view s) {
-    std::string out;
-    for (char32_t c : s) {
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | (c >> 6));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | (c >> 12));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (c >> 18));
-            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
-    }
-    return out;
-}
-
-const RecordLayout* const kLayouts[] = {&layouts::kVOSZ, &layouts::kDSKO, &layouts::kNCSZ};
-
 std::string trimmed(std::string s) {
     while (!s.empty() && s.back() == ' ') s.pop_back();
     return s;
@@ -76,7 +55,7 @@ public:
     void add(std::u32string_view r) {
         const std::size_t i = out_.records++;
         if (i > 0 && id_ == "NCSZ") finding(i - 1, &kFileFrame);  // a trailer that was not the last record
-        id_ = utf8(r.substr(0, 4));
+        id_ = to_utf8(r.substr(0, 4));
         if (i == 0 && id_ != "VOSZ") finding(i, &kFileFirst);
         if (i == 1 && id_ != "DSKO") finding(i, &kFileSecond);
         if ((id_ == "VOSZ" && i != 0) || (id_ == "DSKO" && i != 1)) finding(i, &kFileFrame);
@@ -99,51 +78,47 @@ public:
     }
 
 private:
-    void finding(std::size_t i, const Rule* rule, const FieldLayout* f = nullptr, std::string value = {}) {
-        const std::string id = i + 1 == out_.records ? id_ : utf8(std::u32string_view(last_).substr(0, 4));
-        out_.findings.push_back({i + 1, id, f ? std::string(f->name) : std::string(), f ? f->pos : std::uint16_t{0},
-                                 f ? f->len : std::uint16_t{0}, std::move(value), rule});
+    // `at` places a finding that names no field; `p` is the part of the
+    // line the field belongs to.
+    void finding(std::size_t i, const Rule* rule, const FieldLayout* f = nullptr, std::string value = {},
+                 const FieldLayout* at = nullptr, const Part* p = nullptr) {
+        const std::string id = i + 1 == out_.records ? id_ : to_utf8(std::u32string_view(last_).substr(0, 4));
+        const FieldLayout* place = f ? f : at;
+        out_.findings.push_back({i + 1, id, p ? part_label(*p) : std::string(),
+                                 f ? std::string(f->name) : std::string(), place ? place->pos : std::uint16_t{0},
+                                 place ? place->len : std::uint16_t{0}, std::move(value), rule});
     }
 
     void record(std::size_t i, std::u32string_view r) {
         const RecordLayout* layout = find_layout(r);
         if (!layout) {
-            ++out_.undeclared;
+            finding(i, &kRecordUnknown, nullptr, to_utf8(r.substr(0, 4)));
             return;
         }
-        if (r.size() != layout->length) {
-            finding(i, &kRecordLength, nullptr,
-                    std::to_string(r.size()) + " instead of " + std::to_string(layout->length));
-            return;
+        const bool frame = layout == &layouts::kVOSZ || layout == &layouts::kDSKO || layout == &layouts::kNCSZ;
+        WalkProblem problem;
+        const bool fits = walk_line(
+            r, *layout,
+            [&](const Part& p) {
+                for (const FieldLayout& f : p.layout->fields) field(i, r, p, f, frame);
+            },
+            problem);
+        if (!fits) {
+            const FieldLayout where{"", static_cast<std::uint16_t>(problem.at + 1), 0, FieldKind::An};
+            finding(i, problem.rule, problem.announce, problem.value,
+                    problem.announce || problem.at == 0 ? nullptr : &where);
         }
-        for (const FieldLayout& f : layout->fields) field(i, r, f);
     }
 
-    void field(std::size_t i, std::u32string_view r, const FieldLayout& f) {
-        const std::string text = field_text(r, f);
-        switch (f.kind) {
-            case FieldKind::Literal:
-                if (text != f.literal) finding(i, &kFieldLiteral, &f, text);
-                break;
-            case FieldKind::N:
-                if (!is_digits(text, f.len)) finding(i, &kDigits, &f, text);
-                break;
-            case FieldKind::Date:
-                if (!is_date(text)) finding(i, &kDate, &f, text);
-                break;
-            case FieldKind::DateTime:
-                if (!is_digits(text, 14) || !is_date(text.substr(0, 8)) || text.substr(8, 2) > "23" ||
-                    text.substr(10, 2) > "59" || text.substr(12, 2) > "59")
-                    finding(i, &kDateTime, &f, text);
-                break;
-            case FieldKind::Code:
-            case FieldKind::An:
-                break;
+    void field(std::size_t i, std::u32string_view r, const Part& p, const FieldLayout& f, bool frame) {
+        const std::u32string_view text = slice(r, p, f);
+        if (const Rule* rule = fault(text, f)) {
+            const bool number = f.kind == FieldKind::Vsnr || f.kind == FieldKind::Bnr;
+            finding(i, rule, &f, number ? trimmed(to_utf8(text)) : to_utf8(text), nullptr, &p);
         }
         // The parties: establishment numbers, the same in every frame record.
-        if (f.name != "strBNRAb" && f.name != "strBNREm") return;
-        const std::string number = trimmed(text);
-        if (const Rule* rule = betriebsnummer_fault(number)) finding(i, rule, &f, number);
+        if (!frame || (f.name != "strBNRAb" && f.name != "strBNREm")) return;
+        const std::string number = trimmed(to_utf8(text));
         std::string& first = f.name == "strBNRAb" ? sender_ : receiver_;
         if (first.empty() && i == 0)
             first = number;
@@ -184,15 +159,11 @@ void read_records(std::istream& in, const std::function<void(std::u32string_view
     });
 }
 
-const RecordLayout* find_layout(std::u32string_view record) {
-    for (const RecordLayout* l : kLayouts)
-        if (record.size() >= 4 && utf8(record.substr(0, 4)) == l->id) return l;
-    return nullptr;
-}
+std::string to_utf8(std::u32string_view s) { return walk_detail::utf8_of(s); }
 
 std::string field_text(std::u32string_view record, const FieldLayout& f) {
     if (f.pos - 1u >= record.size()) return {};
-    return utf8(record.substr(f.pos - 1u, f.len));
+    return to_utf8(record.substr(f.pos - 1u, f.len));
 }
 
 FileCheck check_transfer_file(std::istream& in) {
@@ -205,8 +176,11 @@ FileCheck check_transfer_file(std::istream& in) {
 
 std::string describe(const FileFinding& f) {
     std::string s = "record " + std::to_string(f.record) + " " + f.id;
+    if (!f.part.empty()) s += "/" + f.part;
     if (!f.field.empty())
         s += " " + f.field + " (pos " + std::to_string(f.pos) + "-" + std::to_string(f.pos + f.len - 1) + ")";
+    else if (f.pos)
+        s += " (character " + std::to_string(f.pos) + ")";
     if (!f.value.empty() || !f.field.empty()) s += " \"" + f.value + "\"";
     return s + ": " + (f.rule->severity == Severity::Error ? "error " : "warning ") + std::string(f.rule->id) + " " +
            std::string(f.rule->english);

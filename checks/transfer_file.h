@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "checks/finding.h"
+#include "checks/record_layouts.h"
 #include "core/layout.h"
 
 namespace tamrel::checks {
@@ -22,15 +23,15 @@ namespace tamrel::checks {
 // transfer file.
 void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each);
 
-// The layout of a record identifier, or nullptr where none is declared.
-const RecordLayout* find_layout(std::u32string_view record);
-
 // A field's characters, as UTF-8.
 std::string field_text(std::u32string_view record, const FieldLayout& f);
+// Characters as UTF-8.
+std::string to_utf8(std::u32string_view s);
 
 struct FileFinding {
     std::size_t record;  // 1-based
     std::string id;      // the record's identifier
+    std::string part;    // the block or entry of the line ("DBME", "DBSE 2"), empty for the record
     std::string field;   // empty: the record as a whole
     std::uint16_t pos = 0, len = 0;
     std::string value;
@@ -39,13 +40,12 @@ struct FileFinding {
 
 struct FileCheck {
     std::size_t records = 0;
-    std::size_t undeclared = 0;  // records checked for their place and identifier only
     std::vector<FileFinding> findings;
 };
 
 FileCheck check_transfer_file(std::istream& in);
 
-// "record 3 DSME Entgelt (pos 132-137) "0-5400": error DIGITS expected digits …"
+// "record 3 DSME/DBME Entgelt (pos 26-31) "0-5400": error DIGITS expected digits …"
 std::string describe(const FileFinding& f);
 
 }  // namespace tamrel::checks

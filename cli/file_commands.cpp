@@ -7,6 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "checks/field_kinds.h"
+#include "checks/line_walk.h"
 #include "checks/rules.h"
 #include "checks/transfer_file.h"
 
@@ -30,41 +32,6 @@ int with_file(const std::string& command, const std::string& path, Body&& body) 
     }
 }
 
-const char* kind_name(FieldKind k) {
-    switch (k) {
-        case FieldKind::Literal:
-            return "fixed";
-        case FieldKind::Code:
-            return "code";
-        case FieldKind::An:
-            return "text";
-        case FieldKind::N:
-            return "digits";
-        case FieldKind::Date:
-            return "date";
-        case FieldKind::DateTime:
-            return "date-time";
-    }
-    return "";
-}
-
-// What a field means, beyond its characters: text without its padding,
-// digits without their leading zeros, dates as YYYY-MM-DD.
-std::string decoded(const std::string& raw, FieldKind k) {
-    std::string s = raw;
-    if (k == FieldKind::An || k == FieldKind::Code) {
-        while (!s.empty() && s.back() == ' ') s.pop_back();
-    } else if (k == FieldKind::N) {
-        const std::size_t first = s.find_first_not_of('0');
-        s = first == std::string::npos ? (s.empty() ? s : "0") : s.substr(first);
-    } else if ((k == FieldKind::Date || k == FieldKind::DateTime) && s.size() >= 8) {
-        std::string d = s.substr(0, 4) + "-" + s.substr(4, 2) + "-" + s.substr(6, 2);
-        if (s.size() == 14) d += "T" + s.substr(8, 2) + ":" + s.substr(10, 2) + ":" + s.substr(12, 2);
-        s = d;
-    }
-    return s;
-}
-
 }  // namespace
 
 int check_file(const std::string& path) {
@@ -75,49 +42,65 @@ int check_file(const std::string& path) {
             std::cout << checks::describe(f) << '\n';
             ++(f.rule->severity == checks::Severity::Error ? errors : warnings);
         }
-        std::cout << path << ": " << result.records << " records, " << errors << " errors, " << warnings << " warnings";
-        if (result.undeclared)
-            std::cout << "; " << result.undeclared
-                      << " records checked for their place only (their layout is not declared yet)";
-        std::cout << '\n';
+        std::cout << path << ": " << result.records << " records, " << errors << " errors, " << warnings
+                  << " warnings\n";
         return errors ? 1 : 0;
     });
 }
 
 namespace {
 
-void show_record(std::size_t number, std::u32string_view r, bool json) {
-    const RecordLayout* layout = checks::find_layout(r);
-    const std::string id = checks::field_text(r, {"identifier", 1, 4, FieldKind::An});
-    auto line = [&](nlohmann::ordered_json j) {
-        std::cout << j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
-    };
-    if (!json) std::cout << "record " << number << " " << id << " (" << r.size() << " characters)\n";
-    if (!layout) {
-        const FieldLayout whole{"record", 1, static_cast<std::uint16_t>(r.size()), FieldKind::An};
-        if (json)
-            line({{"record", number}, {"id", id}, {"raw", checks::field_text(r, whole)}});
-        else
-            std::cout << "  (its layout is not declared yet)\n";
-        return;
-    }
-    for (const FieldLayout& f : layout->fields) {
-        const std::string raw = checks::field_text(r, f), value = decoded(raw, f.kind);
+void print_json(const nlohmann::ordered_json& j) {
+    std::cout << j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+}
+
+// One part of a record line (the record, a block, an entry), field by field.
+void show_part(std::size_t number, const std::string& id, std::u32string_view r, const checks::Part& p, bool json) {
+    const std::string label = checks::part_label(p);
+    if (!json && !label.empty()) std::cout << " " << label << "\n";
+    for (const FieldLayout& f : p.layout->fields) {
+        const std::string raw = checks::to_utf8(checks::slice(r, p, f)), value = checks::decoded(raw, f);
         if (json) {
-            line({{"record", number},
-                  {"id", id},
-                  {"field", f.name},
-                  {"pos", f.pos},
-                  {"len", f.len},
-                  {"kind", kind_name(f.kind)},
-                  {"raw", raw},
-                  {"value", value}});
+            nlohmann::ordered_json j = {{"record", number}, {"id", id}};
+            if (!label.empty()) j["part"] = label;
+            j.update(nlohmann::ordered_json{{"field", f.name},
+                                            {"pos", f.pos},
+                                            {"len", f.len},
+                                            {"kind", checks::kind_name(f.kind)},
+                                            {"raw", raw},
+                                            {"value", value}});
+            print_json(j);
             continue;
         }
-        char head[64];
-        std::snprintf(head, sizeof head, "  %3u-%-3u  %-20.*s %-9s ", f.pos, f.pos + f.len - 1u,
-                      static_cast<int>(f.name.size()), f.name.data(), kind_name(f.kind));
-        std::cout << head << "[" << raw << "]" << (value != raw ? "  " + value : std::string()) << '\n';
+        char head[96];
+        std::snprintf(head, sizeof head, "  %3u-%-3u  %-40.*s %-9s ", f.pos, f.pos + f.len - 1u,
+                      static_cast<int>(f.name.size()), f.name.data(), checks::kind_name(f.kind));
+        std::cout << head << "[" << raw << "]" << (value != raw && !value.empty() ? "  " + value : std::string())
+                  << '\n';
+    }
+}
+
+void show_record(std::size_t number, std::u32string_view r, bool json) {
+    const RecordLayout* layout = checks::find_layout(r);
+    const std::string id = checks::to_utf8(r.substr(0, 4));
+    if (!json) std::cout << "record " << number << " " << id << " (" << r.size() << " characters)\n";
+    if (!layout) {
+        if (json)
+            print_json({{"record", number}, {"id", id}, {"raw", checks::to_utf8(r)}});
+        else
+            std::cout << "  (not a record of a known layout)\n";
+        return;
+    }
+    checks::WalkProblem problem;
+    if (!checks::walk_line(
+            r, *layout, [&](const checks::Part& p) { show_part(number, id, r, p, json); }, problem)) {
+        const std::string rest = checks::to_utf8(r.substr(std::min(r.size(), problem.at)));
+        if (json)
+            print_json(
+                {{"record", number}, {"id", id}, {"at", problem.at + 1}, {"raw", rest}, {"problem", problem.rule->id}});
+        else
+            std::cout << "  from character " << problem.at + 1 << ": " << problem.rule->english << ": [" << rest
+                      << "]\n";
     }
 }
 

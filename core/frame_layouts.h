@@ -8,8 +8,8 @@ namespace tamrel::layouts {
 inline constexpr FieldLayout kVOSZFields[] = {
     {"identifier", 1, 4, FieldKind::Literal, "VOSZ"},
     {"procedure", 5, 5, FieldKind::Code},
-    {"strBNRAb", 10, 15, FieldKind::An},
-    {"strBNREm", 25, 15, FieldKind::An},
+    {"strBNRAb", 10, 15, FieldKind::Bnr},
+    {"strBNREm", 25, 15, FieldKind::Bnr},
     {"strDatum", 40, 8, FieldKind::Date},
     {"strFileNr", 48, 6, FieldKind::N},
     {"strFirma", 54, 50, FieldKind::An},
@@ -20,8 +20,8 @@ inline constexpr RecordLayout kVOSZ{"VOSZ", 105, kVOSZFields};
 inline constexpr FieldLayout kNCSZFields[] = {
     {"identifier", 1, 4, FieldKind::Literal, "NCSZ"},
     {"procedure", 5, 5, FieldKind::Code},
-    {"strBNRAb", 10, 15, FieldKind::An},
-    {"strBNREm", 25, 15, FieldKind::An},
+    {"strBNRAb", 10, 15, FieldKind::Bnr},
+    {"strBNREm", 25, 15, FieldKind::Bnr},
     {"date", 40, 8, FieldKind::Date},
     {"strFileNr", 48, 6, FieldKind::N},
     {"strCount", 54, 8, FieldKind::N},
@@ -32,8 +32,8 @@ inline constexpr RecordLayout kNCSZ{"NCSZ", 63, kNCSZFields};
 inline constexpr FieldLayout kDSKOFields[] = {
     {"identifier", 1, 4, FieldKind::Literal, "DSKO"},
     {"procedure", 5, 5, FieldKind::Code},
-    {"strBNRAb", 10, 15, FieldKind::An},
-    {"strBNREm", 25, 15, FieldKind::An},
+    {"strBNRAb", 10, 15, FieldKind::Bnr},
+    {"strBNREm", 25, 15, FieldKind::Bnr},
     {"version", 40, 2, FieldKind::Literal, "04"},
     {"created", 42, 14, FieldKind::DateTime},
     {"strMicroSec", 56, 6, FieldKind::N},

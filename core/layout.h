@@ -1,7 +1,9 @@
-// The declared layout of a record: each field's name, position, width and
-// kind, as the record's layout table gives them. Transfer files are read by
-// these declarations (tamrel check, tamrel inspect); a test holds each one
-// to the builder next to which it is declared.
+// The declared layout of a record or block: each field's name, position,
+// width and kind, as the layout table gives them, the blocks that the
+// record's fields announce, and a list of repeated entries where the
+// layout has one. Transfer files are read by these declarations (tamrel
+// check, tamrel inspect); a test holds each one to the builder next to
+// which it is declared.
 #pragma once
 #include <cstdint>
 #include <span>
@@ -10,13 +12,29 @@
 namespace tamrel {
 
 enum class FieldKind : std::uint8_t {
-    Literal,   // a fixed text (`literal`)
-    Code,      // a key chosen by the class, written as it is
-    An,        // text, left-aligned, blank-padded
-    N,         // digits, right-aligned, zero-padded
-    Date,      // yyyymmdd
-    DateTime,  // yyyymmddhhnnss
+    Literal,       // a fixed text (`literal`)
+    Code,          // a key chosen by the class, written as it is
+    An,            // text, left-aligned, blank-padded
+    N,             // digits, right-aligned, zero-padded
+    Date,          // yyyymmdd; zeros where none is given, nines for "open"
+    DateTime,      // yyyymmddhhnnss
+    Flag,          // "J" or "N"
+    Amount,        // digits: the integer places, then `decimals` places
+    SignedAmount,  // "+" or "-", then as Amount
+    Vsnr,          // an insurance number, as text (blank where none)
+    Bnr,           // an establishment number, as text (blank where none)
 };
+
+// How a field of a record says which blocks follow it.
+enum class Announce : std::uint8_t {
+    None,
+    Flag,      // "J": the block follows
+    Count,     // the number of times the block follows
+    Always,    // a fixed "J": the block follows
+    Optional,  // a fixed "J", but the block follows only where it holds data
+};
+
+struct RecordLayout;
 
 struct FieldLayout {
     std::string_view name;  // the property or argument it comes from, or what it is
@@ -24,12 +42,49 @@ struct FieldLayout {
     std::uint16_t len;
     FieldKind kind;
     std::string_view literal = {};
+    std::uint8_t decimals = 0;  // of an amount
+    Announce announce = Announce::None;
+    const RecordLayout* block = nullptr;  // what `announce` announces
 };
 
 struct RecordLayout {
     std::string_view id;
-    std::uint16_t length;
+    std::uint16_t length;  // without its entries
     std::span<const FieldLayout> fields;
+    // A list of entries that follows the fixed part, as many as the digits
+    // at [count_pos, count_pos + count_len) say.
+    const RecordLayout* entry = nullptr;
+    std::uint16_t count_pos = 0;
+    std::uint16_t count_len = 0;
+    // Where one identifier has several layouts: the first of these whose
+    // fixed fields match (and, for a record, that fits the text) is read.
+    std::span<const RecordLayout* const> forms = {};
 };
+
+// Field helpers that keep the declarations one line a field.
+namespace layout {
+constexpr FieldLayout lit(std::string_view name, std::uint16_t pos, std::string_view text) {
+    return {name, pos, static_cast<std::uint16_t>(text.size()), FieldKind::Literal, text};
+}
+constexpr FieldLayout amount(std::string_view name, std::uint16_t pos, std::uint16_t len, std::uint8_t decimals) {
+    return {name, pos, len, FieldKind::Amount, {}, decimals};
+}
+constexpr FieldLayout signed_amount(std::string_view name, std::uint16_t pos, std::uint16_t len,
+                                    std::uint8_t decimals) {
+    return {name, pos, len, FieldKind::SignedAmount, {}, decimals};
+}
+// A J/N flag that announces `block`.
+constexpr FieldLayout flag(const RecordLayout& block, std::uint16_t pos) {
+    return {block.id, pos, 1, FieldKind::Flag, {}, 0, Announce::Flag, &block};
+}
+// A fixed "J": `block` always follows (or, `optional`, where it holds data).
+constexpr FieldLayout always(const RecordLayout& block, std::uint16_t pos, bool optional = false) {
+    return {block.id, pos, 1, FieldKind::Literal, "J", 0, optional ? Announce::Optional : Announce::Always, &block};
+}
+// A count of `block`s that follow.
+constexpr FieldLayout count(const RecordLayout& block, std::uint16_t pos, std::uint16_t len) {
+    return {block.id, pos, len, FieldKind::N, {}, 0, Announce::Count, &block};
+}
+}  // namespace layout
 
 }  // namespace tamrel

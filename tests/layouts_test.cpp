@@ -1,30 +1,49 @@
 // The declared record layouts and the files read by them: each layout covers
-// its record without gap or overlap; each frame record that the builders make
-// holds, in each declared field, exactly the encoder's output for the value
-// that field names; every example's file passes tamrel check's rules; and
-// files broken in each way are found.
+// its record without gap or overlap; each record and block that the builders
+// make (frames with random values, data records for every example report
+// and random variants of it) holds, in each declared field, exactly the
+// encoder's output for the value that field names; every example's file
+// passes tamrel check's rules; and files broken in each way are found.
 #include <gtest/gtest.h>
 
 #include <map>
 #include <random>
+#include <regex>
+#include <set>
 #include <sstream>
 
+#include "checks/line_walk.h"
+#include "checks/record_layouts.h"
 #include "checks/transfer_file.h"
 #include "cli/transfer.h"
+#include "component/call_protocol.h"
 #include "core/frame_layouts.h"
 #include "core/frames.h"
 #include "core/text_fields.h"
+#include "tests/encoder_forms.h"
 #include "tests/example_jobs.h"
+#include "tests/mutator.h"
+#include "tests/record_layouts.h"
 #include "tests/test_support.h"
 
 using namespace tamrel;
 
 namespace {
 
-const RecordLayout* const kFrameLayouts[] = {&layouts::kVOSZ, &layouts::kDSKO, &layouts::kNCSZ};
+// Every layout reachable from the records: its forms, blocks and entries.
+void reachable(const RecordLayout& l, std::set<const RecordLayout*>& all) {
+    if (!all.insert(&l).second) return;
+    for (const RecordLayout* f : l.forms) reachable(*f, all);
+    if (l.entry) reachable(*l.entry, all);
+    for (const FieldLayout& f : l.fields)
+        if (f.block) reachable(*f.block, all);
+}
 
 TEST(Layouts, CoverTheirRecordsWithoutGapOrOverlap) {
-    for (const RecordLayout* l : kFrameLayouts) {
+    std::set<const RecordLayout*> all;
+    for (const RecordLayout* l : checks::record_layouts()) reachable(*l, all);
+    EXPECT_GT(all.size(), 70u);
+    for (const RecordLayout* l : all) {
         std::uint16_t next = 1;
         for (const FieldLayout& f : l->fields) {
             EXPECT_EQ(f.pos, next) << l->id << " " << f.name;
@@ -34,80 +53,173 @@ TEST(Layouts, CoverTheirRecordsWithoutGapOrOverlap) {
     }
 }
 
-std::u32string chars(const std::string& s) {
-    std::istringstream in(s);
-    std::u32string first;
-    checks::read_records(in, [&](std::u32string_view r) {
-        if (first.empty()) first = r;
-    });
-    return first;
+// A name that is a property path ("Vorgang.Versicherungsnummer"), not a
+// description of a computed field ("file reference (strVersion, Laufnummer)").
+bool is_path(std::string_view name) {
+    static const std::regex path(R"([A-Za-z][A-Za-z0-9]*(\.[A-Za-z][A-Za-z0-9]*)*)");
+    return std::regex_match(name.begin(), name.end(), path);
 }
 
-// Every field that names a value holds that value's encoding.
-void expect_fields(const RecordLayout& l, const std::string& record,
-                   const std::map<std::string_view, std::string>& values) {
-    const std::u32string r = chars(record);
-    ASSERT_EQ(r.size(), l.length) << record;
-    for (const FieldLayout& f : l.fields) {
-        const std::string slice = checks::field_text(r, f);
-        bool filled = false;
-        if (f.kind == FieldKind::Literal) {
-            EXPECT_EQ(slice, f.literal) << l.id << " " << f.name;
-        } else if (auto v = values.find(f.name); v != values.end()) {
-            const std::string want = f.kind == FieldKind::N ? mlGen::StrToN(v->second, f.len, filled)
-                                                            : mlGen::StrToAn(v->second, f.len, filled);
-            EXPECT_EQ(slice, want) << l.id << " " << f.name << " of \"" << v->second << "\"";
+// The value a path names: in the job's record identification for
+// "DatensatzData.", else in the report; a list on the way is taken at the
+// block's item. Null where the report leaves it out.
+nlohmann::json lookup(const nlohmann::json& job, const nlohmann::json& report, std::string_view path,
+                      std::size_t item) {
+    const nlohmann::json* at = &report;
+    if (path.starts_with("DatensatzData.")) at = &job["udtDatensatzData"], path.remove_prefix(14);
+    for (std::size_t from = 0; at;) {
+        const std::size_t dot = path.find('.', from);
+        const std::string key(path.substr(from, dot - from));
+        if (at->is_array()) at = item - 1 < at->size() ? &(*at)[item - 1] : nullptr;
+        at = at && at->is_object() && at->contains(key) ? &(*at)[key] : nullptr;
+        if (dot == std::string_view::npos) break;
+        from = dot + 1;
+    }
+    return at ? *at : nlohmann::json();
+}
+
+// What the field's encoder makes of the value.
+std::string encoded(const FieldLayout& f, const nlohmann::json& v) {
+    if (f.kind == FieldKind::Flag) return v.is_boolean() && v.get<bool>() ? "J" : "N";
+    const std::string text = v.is_null()      ? std::string()
+                             : v.is_string()  ? v.get<std::string>()
+                             : v.is_boolean() ? std::string(v.get<bool>() ? "-1" : "0")
+                                              : v.dump();
+    bool filled = false;
+    switch (f.kind) {
+        case FieldKind::N:
+        case FieldKind::Date:
+            return mlGen::StrToN(text, f.len, filled);
+        case FieldKind::Amount:
+            return mlGen::StrToPB(text, f.len - f.decimals, f.decimals, filled);
+        case FieldKind::SignedAmount:
+            return mlGen::StrToBG(text, f.len - 1 - f.decimals, f.decimals, filled);
+        default:
+            return mlGen::StrToAn(text, f.len, filled);
+    }
+}
+
+TEST(Layouts, AgreeWithTheDataRecordBuilders) {
+    constexpr int kVariants = 250;
+    int records = 0;
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        if (e.info->xml()) continue;
+        tamrel::testing::Mutator mutate(static_cast<unsigned>(std::hash<std::string>{}(e.path.filename().string())));
+        for (const nlohmann::json& report : e.job["reports"]) {
+            for (int v = 0; v < kVariants; ++v) {
+                const nlohmann::json variant = v == 0 ? report : mutate.vary(report);
+                const nlohmann::json r = call(tamrel::testing::gen_data_request(e, variant));
+                if (!r.contains("result")) continue;
+                ++records;
+                const std::u32string line = tamrel::testing::chars(r["result"].get<std::string>());
+                const std::string where = e.path.filename().string() + " variant " + std::to_string(v);
+                const RecordLayout* layout = checks::find_layout(line);
+                ASSERT_NE(layout, nullptr) << where;
+                checks::WalkProblem problem;
+                const bool fits = checks::walk_line(
+                    line, *layout,
+                    [&](const checks::Part& p) {
+                        for (const FieldLayout& f : p.layout->fields) {
+                            const std::string text = checks::to_utf8(checks::slice(line, p, f));
+                            const std::string field =
+                                std::string(layout->id) + "/" + std::string(p.layout->id) + " " + std::string(f.name);
+                            if (f.kind == FieldKind::Literal) {
+                                EXPECT_EQ(text, f.literal) << field << ", " << where;
+                                continue;
+                            }
+                            if (!is_path(f.name) || f.announce != Announce::None) continue;
+                            const nlohmann::json value = lookup(e.job, variant, f.name, p.item);
+                            EXPECT_EQ(text, encoded(f, value)) << field << " of " << value << ", " << where;
+                        }
+                    },
+                    problem);
+                EXPECT_TRUE(fits) << problem.rule->id << " at character " << problem.at + 1 << ", " << where;
+            }
         }
     }
+    EXPECT_GT(records, 3000);
 }
 
-TEST(Layouts, AgreeWithTheFrameBuilders) {
-    std::mt19937 random(20261124);
-    const char* texts[] = {"98765432",
-                           "",
-                           "12345671",
-                           "Müller & Söhne GmbH",
-                           "ABC",
-                           "1",
-                           "a very long name of a firm that "
-                           "does not fit its field at all"};
-    auto pick = [&] { return std::string(texts[random() % std::size(texts)]); };
-    const Date date{2024, 3, 1, 10, 11, 12};
-    for (int round = 0; round < 200; ++round) {
-        const std::string sender = pick(), receiver = pick(), file = std::to_string(random() % 1000), firm = pick();
-        std::string datum;
-        expect_fields(layouts::kVOSZ, mlGen::GenVOSZ("AGDEU", sender, receiver, file, firm, datum, date, "01"),
-                      {{"strBNRAb", sender}, {"strBNREm", receiver}, {"strFileNr", file}, {"strFirma", firm}});
-        const std::string count = std::to_string(random() % 100000);
-        expect_fields(layouts::kNCSZ, mlGen::GenNCSZ("AGDEU", sender, receiver, file, count, date, "01"),
-                      {{"strBNRAb", sender}, {"strBNREm", receiver}, {"strFileNr", file}, {"strCount", count}});
-        DSKOData d;
-        d.strBNRAb = sender, d.strBNREm = receiver, d.strMicroSec = std::to_string(random() % 999999);
-        d.strProdID = pick(), d.strModID = pick(), d.strName1 = firm, d.strName2 = pick(), d.strName3 = pick();
-        d.strStrasse = pick(), d.strHausNr = pick(), d.strPLZ = pick(), d.strOrt = pick();
-        d.strAnGeschl = "W", d.strAnName = pick(), d.strAnTel = pick(), d.strAnFax = pick(), d.strAnEMail = pick();
-        DSKOData copy = d;
-        expect_fields(layouts::kDSKO, mlGen::GenDSKO(copy, "DEUEV", date),
-                      {{"strBNRAb", d.strBNRAb},
-                       {"strBNREm", d.strBNREm},
-                       {"strMicroSec", d.strMicroSec},
-                       {"causer (strBNRAb)", d.strBNRAb},
-                       {"strProdID", d.strProdID},
-                       {"strModID", d.strModID},
-                       {"strName1", d.strName1},
-                       {"strName2", d.strName2},
-                       {"strName3", d.strName3},
-                       {"strPLZ", d.strPLZ},
-                       {"strOrt", d.strOrt},
-                       {"strStrasse", d.strStrasse},
-                       {"strHausNr", d.strHausNr},
-                       {"strAnGeschl", d.strAnGeschl},
-                       {"strAnName", d.strAnName},
-                       {"strAnTel", d.strAnTel},
-                       {"strAnFax", d.strAnFax},
-                       {"strAnEMail", d.strAnEMail},
-                       {"reserve", ""}});
+// A value of the field's kind that shows in the field.
+nlohmann::json sample(const FieldLayout& f) {
+    switch (f.kind) {
+        case FieldKind::Flag:
+            return true;
+        case FieldKind::Date:
+            return "20240131";
+        case FieldKind::Vsnr:
+            return "65170839J003";
+        case FieldKind::Bnr:
+            return "98765432";
+        case FieldKind::N:
+        case FieldKind::Amount:
+        case FieldKind::SignedAmount:
+            return "1";
+        default:
+            return f.len == 1 ? "X" : "X7";
     }
+}
+
+// Sets the value a path names (see lookup), making the objects on the way.
+void set_path(nlohmann::json& job, nlohmann::json& report, std::string_view path, std::size_t item,
+              const nlohmann::json& value) {
+    nlohmann::json* at = &report;
+    if (path.starts_with("DatensatzData.")) at = &job["udtDatensatzData"], path.remove_prefix(14);
+    for (std::size_t from = 0;;) {
+        if (at->is_array()) at = &(*at)[item - 1];
+        const std::size_t dot = path.find('.', from);
+        at = &(*at)[std::string(path.substr(from, dot - from))];
+        if (dot == std::string_view::npos) break;
+        from = dot + 1;
+    }
+    *at = value;
+}
+
+// Each field that names a property shows a value set on that property: a
+// misspelt or misplaced name would otherwise only be compared with empty
+// values where the examples leave the property out.
+TEST(Layouts, EachNamedFieldShowsItsProperty) {
+    std::map<const FieldLayout*, std::string> named;  // reached by an example, with where
+    std::set<const FieldLayout*> shown;
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        if (e.info->xml()) continue;
+        const nlohmann::json& report = e.job["reports"][0];
+        auto walk = [&](const tamrel::testing::ExampleJob& job, const nlohmann::json& r, auto&& each) {
+            const nlohmann::json response = call(tamrel::testing::gen_data_request(job, r));
+            if (!response.contains("result")) return;
+            const std::u32string line = tamrel::testing::chars(response["result"].get<std::string>());
+            checks::WalkProblem problem;
+            checks::walk_line(
+                line, *checks::find_layout(line),
+                [&](const checks::Part& p) {
+                    if (p.entry) return;
+                    for (const FieldLayout& f : p.layout->fields) each(line, p, f);
+                },
+                problem);
+        };
+        std::vector<std::pair<const FieldLayout*, std::size_t>> fields;
+        walk(e, report, [&](std::u32string_view, const checks::Part& p, const FieldLayout& f) {
+            if (f.kind == FieldKind::Literal || f.announce != Announce::None || !is_path(f.name) || f.name == "reserve")
+                return;
+            fields.emplace_back(&f, p.item);
+            named.emplace(&f, std::string(p.layout->id) + " " + std::string(f.name));
+        });
+        for (const auto& [field, item] : fields) {
+            tamrel::testing::ExampleJob changed = e;
+            nlohmann::json r = report;
+            const nlohmann::json value =
+                lookup(e.job, report, field->name, item).is_number() ? nlohmann::json(7) : sample(*field);
+            set_path(changed.job, r, field->name, item, value);
+            walk(changed, r, [&](std::u32string_view line, const checks::Part& p, const FieldLayout& f) {
+                if (&f != field || p.item != item) return;
+                const std::string text = checks::to_utf8(checks::slice(line, p, f));
+                EXPECT_EQ(text, encoded(f, value)) << named[field] << ", " << e.path.filename();
+                shown.insert(field);
+            });
+        }
+    }
+    EXPECT_GT(named.size(), 300u);
+    for (const auto& [field, where] : named) EXPECT_TRUE(shown.count(field)) << where << " never generated";
 }
 
 // An example job's whole file, as tamrel generate writes it (UTF-8).
@@ -192,6 +304,28 @@ TEST(TransferFiles, BrokenFilesAreFound) {
          "record 1 VOSZ strDatum (pos 40-47) \"20241399\": error DATE not a calendar date (YYYYMMDD)\n"
          "record 1 VOSZ strFileNr (pos 48-53) \"00000A\": error DIGITS expected digits of the field's length\n"
          "record 5 NCSZ version (pos 62-63) \"02\": error FIELD-LITERAL a fixed field content is wrong\n"},
+        // The registration: DSME (559 characters), DBME, DBNA, DBGB, DBAN, DBKS.
+        {"a wrong check digit in the insurance number", [](auto& l) { l[2].replace(74, 1, "4"); },
+         "record 3 DSME Vorgang.Versicherungsnummer (pos 64-75) \"65170839J004\": error VSNR-CHECKDIGIT insurance "
+         "number: wrong check digit\n"},
+        {"an impossible begin and a flag that is neither J nor N in DBME",
+         [](auto& l) {
+             l[2].replace(559 + 6, 8, "20241399");
+             l[2].replace(559 + 4, 1, "X");
+         },
+         "record 3 DSME/DBME Storno (pos 5-5) \"X\": error FLAG expected J or N\n"
+         "record 3 DSME/DBME Beginn (pos 7-14) \"20241399\": error DATE not a calendar date (YYYYMMDD)\n"},
+        {"a block announced but not sent", [](auto& l) { l[2][174] = 'J'; },
+         "record 3 DSME DBEU (pos 175-175) \"DBKS\": error BLOCK-MISSING a block the record announces is missing "
+         "or out of order\n"},
+        {"a block sent but not announced", [](auto& l) { l[2][176] = 'N'; },
+         "record 3 DSME DBKS (pos 177-177) \"DBKS\": error BLOCK-UNANNOUNCED a block or text the record does not "
+         "announce\n"},
+        {"the last block cut short", [](auto& l) { l[2].resize(l[2].size() - 10); },
+         "record 3 DSME (character 1082) \"DBKS: 210 instead of 220\": error RECORD-LENGTH the record's length is "
+         "wrong\n"},
+        {"an unknown record", [](auto& l) { l[3].replace(0, 4, "DSXX"); },
+         "record 4 DSXX \"DSXX\": error RECORD-ID unknown record identifier\n"},
     };
     for (const Case& c : cases) {
         std::vector<std::string> l = lines;
