@@ -4,6 +4,7 @@
 #include "reports/clsGenBeitrNachw/BeitrNachw.h"
 #include "checks/checks.h"
 #include "checks/field_checks.h"
+#include "checks/person.h"
 
 namespace tamrel::checks {
 
@@ -28,10 +29,8 @@ void check_report(const BeitrNachw& b, Findings& f) {
         {"Betrag27", &b.Betrag27}};
     for (const auto& [name, value] : amounts) c.decimal_amount(name, *value, 9, 2, true);
 
-    const FieldChecks a = c.within("Arbeitgeber");
-    a.establishment("Betriebsnummer", b.Arbeitgeber.Betriebsnummer);
-    const FieldChecks e = c.within("Empfaenger");
-    e.establishment("Betriebsnummer", b.Empfaenger.Betriebsnummer);
+    check_employer(c, b.Arbeitgeber);
+    check_receiver(c, b.Empfaenger);
 }
 
 }  // namespace tamrel::checks

@@ -4,6 +4,7 @@
 #include "reports/clsGenMeldung/Meldung.h"
 #include "checks/checks.h"
 #include "checks/field_checks.h"
+#include "checks/person.h"
 #include "checks/rules.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
@@ -47,7 +48,7 @@ void check_report(const Meldung& m, Findings& f) {
     // the birth data that identify the person instead.
     const FieldChecks v = c.within("Vorgang");
     const Vorgang& p = m.Vorgang;
-    v.versicherungsnummer("Versicherungsnummer", p.Versicherungsnummer);
+    check_person(v, p);
     if (p.Versicherungsnummer.empty() && (registration(code) || code == 20 || code == 40)) {
         v.required("Geburtsdatum", p.Geburtsdatum);
         v.required("Geschlecht", p.Geschlecht);
@@ -57,26 +58,6 @@ void check_report(const Meldung& m, Findings& f) {
         v.required("Familienname", p.Familienname);
         v.required("Vorname", p.Vorname);
     }
-    // Names and address as the blocks DBNA, DBGB and DBAN hold them.
-    const std::pair<std::string_view, std::pair<const std::string*, std::size_t>> texts[] = {
-        {"Familienname", {&p.Familienname, 30}},
-        {"Vorname", {&p.Vorname, 30}},
-        {"Vorsatzwort", {&p.Vorsatzwort, 20}},
-        {"Namenszusatz", {&p.Namenszusatz, 20}},
-        {"Titel", {&p.Titel, 20}},
-        {"Geburtsname", {&p.Geburtsname, 30}},
-        {"GeburtsVorsatzwort", {&p.GeburtsVorsatzwort, 20}},
-        {"GeburtsNamenszusatz", {&p.GeburtsNamenszusatz, 20}},
-        {"Geburtsort", {&p.Geburtsort, 34}},
-        {"PLZ", {&p.PLZ, 10}},
-        {"Ort", {&p.Ort, 34}},
-        {"Strasse", {&p.Strasse, 33}},
-        {"Hausnummer", {&p.Hausnummer, 9}},
-        {"Adresszusatz", {&p.Adresszusatz, 40}},
-        {"Aktenzeichen", {&p.Aktenzeichen, 20}}};
-    for (const auto& [name, field] : texts) v.text(name, *field.first, field.second);
-    v.date("Geburtsdatum", p.Geburtsdatum);
-    v.one_of("Geschlecht", p.Geschlecht, {"M", "W", "D", "X"}, kGender);
     v.digits("Laenderschluessel", p.Laenderschluessel, 3);
 
     // The employment (block DBME): person group, period, contribution
@@ -109,10 +90,8 @@ void check_report(const Meldung& m, Findings& f) {
     c.period("Beginn", m.Beginn, m.Ende);
 
     // The employer and the receiving health insurer.
-    const FieldChecks a = v.within("Arbeitgeber");
-    a.establishment("Betriebsnummer", p.Arbeitgeber.Betriebsnummer);
-    const FieldChecks e = c.within("Empfaenger");
-    e.establishment("Betriebsnummer", m.Empfaenger.Betriebsnummer);
+    check_employer(v, p.Arbeitgeber);
+    check_receiver(c, m.Empfaenger);
 }
 
 }  // namespace tamrel::checks

@@ -8,16 +8,33 @@
 namespace tamrel {
 struct Meldung;
 struct BeitrNachw;
+struct BeitrErh;
+struct Erst;
+struct Zahl;
+struct ArbeitsBesch;
+struct Entgelt;
+struct Betrieb;
+struct AbfrVers;
+struct AbfrStammdatenUV;
+struct Lohnnachweis;
+struct Asyl;
 }  // namespace tamrel
 
 namespace tamrel::checks {
 
-// The rules of a procedure's data object. A procedure without rules of its
-// own yet finds nothing.
-template <class Obj>
-void check_report(const Obj&, Findings&) {}
+// The rules of each procedure's data object.
 void check_report(const Meldung& m, Findings& f);
 void check_report(const BeitrNachw& b, Findings& f);
+void check_report(const BeitrErh& b, Findings& f);
+void check_report(const Erst& e, Findings& f);
+void check_report(const Zahl& z, Findings& f);
+void check_report(const ArbeitsBesch& a, Findings& f);
+void check_report(const Entgelt& e, Findings& f);
+void check_report(const Betrieb& b, Findings& f);
+void check_report(const AbfrVers& a, Findings& f);
+void check_report(const AbfrStammdatenUV& a, Findings& f);
+void check_report(const Lohnnachweis& l, Findings& f);
+void check_report(const Asyl& a, Findings& f);
 
 // The establishment numbers of the frame records (sender and receiver).
 void check_frame(std::string_view strBNRAb, std::string_view strBNREm, Findings& f);

@@ -10,8 +10,13 @@ void FieldChecks::required(std::string_view name, std::string_view value) const 
     if (value.empty()) add(kMissing, name, value);
 }
 
+// Zeros and nines are the published "none" and "open" (ongoing) dates.
 void FieldChecks::date(std::string_view name, std::string_view value) const {
-    if (!value.empty() && !is_date(value)) add(kDate, name, value);
+    if (!value.empty() && !is_date(value) && value != "00000000" && value != "99999999") add(kDate, name, value);
+}
+
+void FieldChecks::month(std::string_view name, std::string_view value) const {
+    if (!value.empty() && !is_date(std::string(value) + "01")) add(kMonth, name, value);
 }
 
 void FieldChecks::period(std::string_view start_name, std::string_view start, std::string_view end) const {

@@ -9,6 +9,13 @@
 
 namespace tamrel::checks {
 
+// A text property and the width of its field.
+struct TextField {
+    std::string_view name;
+    const std::string& value;
+    std::size_t width;
+};
+
 // The path of a property is put together only when it has a finding: the
 // checks of a clean report allocate nothing.
 class FieldChecks {
@@ -16,9 +23,17 @@ public:
     explicit FieldChecks(Findings& f) : f_(f) {}
     // A sub-object's properties, named "Object.Name"; `this` must outlive it.
     FieldChecks within(std::string_view name) const { return FieldChecks(f_, this, name); }
+    // The `index`th item (1-based) of a list, named "List(index).Name".
+    FieldChecks within(std::string_view name, std::size_t index) const {
+        FieldChecks c(f_, this, name);
+        c.index_ = index;
+        return c;
+    }
 
     void required(std::string_view name, std::string_view value) const;
     void date(std::string_view name, std::string_view value) const;
+    // YYYYMM of a real month.
+    void month(std::string_view name, std::string_view value) const;
     void period(std::string_view start_name, std::string_view start, std::string_view end) const;
     void whole_amount(std::string_view name, std::string_view value, std::size_t width) const;
     void decimal_amount(std::string_view name, std::string_view value, std::size_t integers, std::size_t decimals,
@@ -29,6 +44,9 @@ public:
     // Longer than `width` characters: a text is cut (a warning), a key is wrong.
     void text(std::string_view name, std::string_view value, std::size_t width) const;
     void key(std::string_view name, std::string_view value, std::size_t width) const;
+    void texts(std::initializer_list<TextField> fields) const {
+        for (const TextField& t : fields) text(t.name, t.value, t.width);
+    }
     void versicherungsnummer(std::string_view name, std::string_view value) const;
     void betriebsnummer(std::string_view name, std::string_view value) const;
     // A required establishment number: present, of its form, its check digit right.
@@ -41,11 +59,14 @@ public:
 private:
     FieldChecks(Findings& f, const FieldChecks* parent, std::string_view name) : f_(f), parent_(parent), name_(name) {}
     std::string path(std::string_view name) const {
-        return parent_ ? parent_->path(name_) + "." + std::string(name) : std::string(name);
+        if (!parent_) return std::string(name);
+        return parent_->path(name_) + (index_ ? "(" + std::to_string(index_) + ")" : std::string()) + "." +
+               std::string(name);
     }
     Findings& f_;
     const FieldChecks* parent_ = nullptr;
     std::string_view name_;
+    std::size_t index_ = 0;
 };
 
 }  // namespace tamrel::checks

@@ -28,6 +28,7 @@ inline constexpr Rule kBnrCheckDigit{"BNR-CHECKDIGIT", E, "Betriebsnummer: Prüf
 
 // Dates, periods, amounts, keys, presence
 inline constexpr Rule kDate{"DATE", E, "kein gültiges Datum (JJJJMMTT)", "not a calendar date (YYYYMMDD)"};
+inline constexpr Rule kMonth{"MONTH", E, "kein gültiger Monat (JJJJMM)", "not a month (YYYYMM)"};
 inline constexpr Rule kPeriod{"PERIOD", E, "Beginn liegt nach dem Ende", "the start is after the end"};
 inline constexpr Rule kAmountChars{
     "AMOUNT-CHARS", E,
@@ -93,6 +94,7 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,
                                          &kBnrForm,
                                          &kBnrCheckDigit,
                                          &kDate,
+                                         &kMonth,
                                          &kPeriod,
                                          &kAmountChars,
                                          &kAmountNegative,

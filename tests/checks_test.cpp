@@ -205,6 +205,55 @@ TEST(DataChecks, ContributionStatementAmountsAndPeriod) {
     }
 }
 
+// Every procedure's rule set, through the call protocol's Check: one
+// example report with one property changed gives exactly the finding named.
+TEST(DataChecks, EachProcedureFindsItsFaults) {
+    struct Case {
+        const char* example;
+        const char* pointer;  // the property changed, as a JSON pointer into the report
+        json value;
+        const char* want;  // rule, field and value of the one finding
+    };
+    const Case cases[] = {
+        {"beitrag-collection.json", "/Zeitraum1", "202413", "MONTH Zeitraum1 202413"},
+        {"beitrag-collection.json", "/Betrag2", "1234567,00", "AMOUNT-LENGTH Betrag2 1234567,00"},
+        {"beitrag-collection.json", "/Vorgang/Arbeitgeber/PLZ", "D-101", "DIGITS Vorgang.Arbeitgeber.PLZ D-101"},
+        {"erst-reason-01-sickness.json", "/ZeitraumEnde", "20240131", "PERIOD ZeitraumBeginn 20240201-20240131"},
+        {"erst-reason-01-sickness.json", "/Satz1", "100,5", "AMOUNT-LENGTH Satz1 100,5"},
+        {"erst-reason-01-sickness.json", "/Vorgang/Arbeitgeber/Betriebsnummer", "",
+         "MISSING Vorgang.Arbeitgeber.Betriebsnummer "},
+        {"zahl-pay-agency.json", "/Vorgang/Versicherungsnummer", "", "MISSING Vorgang.Versicherungsnummer "},
+        {"zahl-pay-agency.json", "/ZKBetrag1", "-5", "AMOUNT-NEGATIVE ZKBetrag1 -5"},
+        {"bea-dsab.json", "/DBSE/0/AESTEDATBEG", "20240230", "DATE DBSE(1).AESTEDATBEG 20240230"},
+        {"bea-dsab.json", "/Vorgang/Versicherungsnummer", "65170839J004",
+         "VSNR-CHECKDIGIT Vorgang.Versicherungsnummer 65170839J004"},
+        {"eel-dslw.json", "/DBAL/DATUMAB", "2024-02-15", "DATE DBAL.DATUMAB 2024-02-15"},
+        {"eel-dslw.json", "/RUECKMELDUNGEEL", "Y", "FLAG RUECKMELDUNGEEL Y"},
+        {"eel-dslw.json", "/BBNRKK", "12345678", "BNR-CHECKDIGIT BBNRKK 12345678"},
+        {"betrieb-master-data.json", "/Kennziffer", "1A", "DIGITS Kennziffer 1A"},
+        {"abfrvers-query.json", "/Vorgang/Geburtsort", "", "MISSING Vorgang.Geburtsort "},
+        {"uv-master-data-query.json", "/Feld417", "20A4", "DIGITS Feld417 20A4"},
+        {"uv-wage-statement.json", "/Position/1/PosFeld4", "4,5", "DIGITS Position(2).PosFeld4 4,5"},
+        {"xml-asyl-report.json", "/ZrEnde", "20231231", "PERIOD ZrBeginn 20240101-20231231"},
+    };
+    const auto jobs = tamrel::testing::example_jobs();
+    for (const Case& c : cases) {
+        const auto e =
+            std::find_if(jobs.begin(), jobs.end(), [&](const auto& j) { return j.path.filename() == c.example; });
+        ASSERT_NE(e, jobs.end()) << c.example;
+        json report = e->job["reports"][0];
+        report[json::json_pointer(c.pointer)] = c.value;
+        const json request = {
+            {"class", e->job["class"]}, {"method", "Check"}, {"args", {{std::string(e->info->objParam), report}}}};
+        const json response = json::parse(call(request).dump());
+        std::string got;
+        for (const json& f : response["out"]["findings"])
+            got += f["rule"].get<std::string>() + " " + f["field"].get<std::string>() + " " +
+                   f["value"].get<std::string>() + "\n";
+        EXPECT_EQ(got, std::string(c.want) + "\n") << c.example << " " << c.pointer;
+    }
+}
+
 TEST(DataChecks, EveryExampleIsClean) {
     for (const auto& e : tamrel::testing::example_jobs()) {
         for (const json& report : e.job["reports"]) {
