@@ -18,123 +18,109 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
     for (std::size_t i = 0; i < a.DBAZ.size(); ++i) {
         const auto& x = a.DBAZ[i];
         const FieldChecks k = c.within("DBAZ", i + 1);
-        k.date("AZAEBEG", x.AZAEBEG);
-        k.decimal_amount("AZWOECH", x.AZWOECH, 2, 2, false);
-        k.decimal_amount("AZVG", x.AZVG, 2, 2, false);
+        k.dates(x, {{"AZAEBEG", &bea::DBAZ::AZAEBEG}});
+        k.amounts(x, {{"AZWOECH", &bea::DBAZ::AZWOECH, 2, 2}, {"AZVG", &bea::DBAZ::AZVG, 2, 2}});
     }
     for (std::size_t i = 0; i < a.DBEE.size(); ++i) {
         const auto& x = a.DBEE[i];
         const FieldChecks k = c.within("DBEE", i + 1);
-        k.date("MONATBEGEU", x.MONATBEGEU);
-        k.date("MONATENDEU", x.MONATENDEU);
-        k.decimal_amount("STBREGLFEU", x.STBREGLFEU, 8, 2, false);
-        k.decimal_amount("STBREGSOEU", x.STBREGSOEU, 8, 2, false);
+        k.dates(x, {{"MONATBEGEU", &bea::DBEE::MONATBEGEU}, {"MONATENDEU", &bea::DBEE::MONATENDEU}});
+        k.amounts(x, {{"STBREGLFEU", &bea::DBEE::STBREGLFEU, 8, 2}, {"STBREGSOEU", &bea::DBEE::STBREGSOEU, 8, 2}});
     }
     for (std::size_t i = 0; i < a.DBEN.size(); ++i) {
         const auto& x = a.DBEN[i];
         const FieldChecks k = c.within("DBEN", i + 1);
-        k.date("MONATBEG", x.MONATBEG);
-        k.date("MONATEND", x.MONATEND);
-        k.date("MIABEG", x.MIABEG);
-        k.date("MIAEND", x.MIAEND);
-        k.decimal_amount("SVBREGLF", x.SVBREGLF, 8, 2, false);
-        k.decimal_amount("SVBREGE", x.SVBREGE, 8, 2, false);
-        k.decimal_amount("FIBR", x.FIBR, 8, 2, false);
-        k.decimal_amount("URLEG", x.URLEG, 8, 2, false);
+        k.dates(x, {{"MONATBEG", &bea::DBEN::MONATBEG},
+                    {"MONATEND", &bea::DBEN::MONATEND},
+                    {"MIABEG", &bea::DBEN::MIABEG},
+                    {"MIAEND", &bea::DBEN::MIAEND}});
+        k.amounts(x, {{"SVBREGLF", &bea::DBEN::SVBREGLF, 8, 2},
+                      {"SVBREGE", &bea::DBEN::SVBREGE, 8, 2},
+                      {"FIBR", &bea::DBEN::FIBR, 8, 2},
+                      {"URLEG", &bea::DBEN::URLEG, 8, 2}});
     }
     for (std::size_t i = 0; i < a.DBEZ.size(); ++i) {
         const auto& x = a.DBEZ[i];
         const FieldChecks k = c.within("DBEZ", i + 1);
-        k.date("AZAEBEG", x.AZAEBEG);
-        k.decimal_amount("AZWOECH", x.AZWOECH, 2, 2, false);
-        k.decimal_amount("AZDUWOECH", x.AZDUWOECH, 2, 2, false);
-        k.decimal_amount("ATDUWOE", x.ATDUWOE, 1, 2, false);
+        k.dates(x, {{"AZAEBEG", &bea::DBEZ::AZAEBEG}});
+        k.amounts(x, {{"AZWOECH", &bea::DBEZ::AZWOECH, 2, 2},
+                      {"AZDUWOECH", &bea::DBEZ::AZDUWOECH, 2, 2},
+                      {"ATDUWOE", &bea::DBEZ::ATDUWOE, 1, 2}});
     }
     for (std::size_t i = 0; i < a.DBFZ.size(); ++i) {
         const auto& x = a.DBFZ[i];
         const FieldChecks k = c.within("DBFZ", i + 1);
-        k.date("FEHLBEG", x.FEHLBEG);
-        k.date("FEHLEND", x.FEHLEND);
+        k.dates(x, {{"FEHLBEG", &bea::DBFZ::FEHLBEG}, {"FEHLEND", &bea::DBFZ::FEHLEND}});
     }
     {
-        const auto& x = a.DBHN;
         const FieldChecks k = c.within("DBHN");
-        k.date("HEIMARBAUSG", x.HEIMARBAUSG);
-        k.date("HEIMARBABL", x.HEIMARBABL);
+        k.dates(a.DBHN, {{"HEIMARBAUSG", &bea::DBHN::HEIMARBAUSG}, {"HEIMARBABL", &bea::DBHN::HEIMARBABL}});
     }
     {
-        const auto& x = a.DBKE;
         const FieldChecks k = c.within("DBKE");
-        k.date("AVEND", x.AVEND);
-        k.date("BVEND", x.BVEND);
-        k.date("AVBFURSP", x.AVBFURSP);
-        k.date("AVBFABSCHL", x.AVBFABSCHL);
-        k.date("AVBFABVL", x.AVBFABVL);
-        k.date("AVKUEAM", x.AVKUEAM);
-        k.date("AVUWFWZBEG", x.AVUWFWZBEG);
-        k.date("AVAMDAT", x.AVAMDAT);
-        k.date("AGKUEAM", x.AGKUEAM);
-        k.date("AGKUEZU", x.AGKUEZU);
-        k.date("BVEGENB", x.BVEGENB);
-        k.date("BVENUR", x.BVENUR);
-        k.date("AVENVGB", x.AVENVGB);
-        k.date("BFHG", x.BFHG);
-        k.decimal_amount("ABFHOE", x.ABFHOE, 8, 2, false);
-        k.decimal_amount("AVENVG", x.AVENVG, 3, 2, false);
+        k.dates(a.DBKE, {{"AVEND", &bea::DBKE::AVEND},
+                         {"BVEND", &bea::DBKE::BVEND},
+                         {"AVBFURSP", &bea::DBKE::AVBFURSP},
+                         {"AVBFABSCHL", &bea::DBKE::AVBFABSCHL},
+                         {"AVBFABVL", &bea::DBKE::AVBFABVL},
+                         {"AVKUEAM", &bea::DBKE::AVKUEAM},
+                         {"AVUWFWZBEG", &bea::DBKE::AVUWFWZBEG},
+                         {"AVAMDAT", &bea::DBKE::AVAMDAT},
+                         {"AGKUEAM", &bea::DBKE::AGKUEAM},
+                         {"AGKUEZU", &bea::DBKE::AGKUEZU},
+                         {"BVEGENB", &bea::DBKE::BVEGENB},
+                         {"BVENUR", &bea::DBKE::BVENUR},
+                         {"AVENVGB", &bea::DBKE::AVENVGB},
+                         {"BFHG", &bea::DBKE::BFHG}});
+        k.amounts(a.DBKE, {{"ABFHOE", &bea::DBKE::ABFHOE, 8, 2}, {"AVENVG", &bea::DBKE::AVENVG, 3, 2}});
     }
     {
-        const auto& x = a.DBKU;
         const FieldChecks k = c.within("DBKU");
-        k.date("AVEND", x.AVEND);
-        k.date("BVEND", x.BVEND);
-        k.date("AVBFURSPR", x.AVBFURSPR);
-        k.date("AVUWFWZBEG", x.AVUWFWZBEG);
-        k.date("AVKUEAM", x.AVKUEAM);
-        k.date("BVEGENB", x.BVEGENB);
-        k.date("AVENUR", x.AVENUR);
-        k.decimal_amount("ABFHOE", x.ABFHOE, 8, 2, false);
-        k.decimal_amount("UAGHOE", x.UAGHOE, 8, 2, false);
+        k.dates(a.DBKU, {{"AVEND", &bea::DBKU::AVEND},
+                         {"BVEND", &bea::DBKU::BVEND},
+                         {"AVBFURSPR", &bea::DBKU::AVBFURSPR},
+                         {"AVUWFWZBEG", &bea::DBKU::AVUWFWZBEG},
+                         {"AVKUEAM", &bea::DBKU::AVKUEAM},
+                         {"BVEGENB", &bea::DBKU::BVEGENB},
+                         {"AVENUR", &bea::DBKU::AVENUR}});
+        k.amounts(a.DBKU, {{"ABFHOE", &bea::DBKU::ABFHOE, 8, 2}, {"UAGHOE", &bea::DBKU::UAGHOE, 8, 2}});
     }
     {
-        const auto& x = a.DBNB;
         const FieldChecks k = c.within("DBNB");
-        k.decimal_amount("STU1KW", x.STU1KW, 2, 2, false);
-        k.decimal_amount("STU2KW", x.STU2KW, 2, 2, false);
-        k.decimal_amount("STU3KW", x.STU3KW, 2, 2, false);
-        k.decimal_amount("STU4KW", x.STU4KW, 2, 2, false);
-        k.decimal_amount("STU5KW", x.STU5KW, 2, 2, false);
-        k.decimal_amount("STU6KW", x.STU6KW, 2, 2, false);
+        k.amounts(a.DBNB, {{"STU1KW", &bea::DBNB::STU1KW, 2, 2},
+                           {"STU2KW", &bea::DBNB::STU2KW, 2, 2},
+                           {"STU3KW", &bea::DBNB::STU3KW, 2, 2},
+                           {"STU4KW", &bea::DBNB::STU4KW, 2, 2},
+                           {"STU5KW", &bea::DBNB::STU5KW, 2, 2},
+                           {"STU6KW", &bea::DBNB::STU6KW, 2, 2}});
     }
     {
-        const auto& x = a.DBNE;
         const FieldChecks k = c.within("DBNE");
-        k.date("AVEND", x.AVEND);
-        k.date("MONATBEG", x.MONATBEG);
-        k.date("MONATEND", x.MONATEND);
-        k.date("SVBREGEBEG", x.SVBREGEBEG);
-        k.date("SVBREGEEND", x.SVBREGEEND);
-        k.decimal_amount("SVBREGLF", x.SVBREGLF, 8, 2, false);
-        k.decimal_amount("SVBREGE", x.SVBREGE, 8, 2, false);
-        k.decimal_amount("NETTOLFD", x.NETTOLFD, 8, 2, false);
-        k.decimal_amount("NETTOEINMAL", x.NETTOEINMAL, 8, 2, false);
-        k.decimal_amount("AZWOECH", x.AZWOECH, 2, 2, false);
+        k.dates(a.DBNE, {{"AVEND", &bea::DBNE::AVEND},
+                         {"MONATBEG", &bea::DBNE::MONATBEG},
+                         {"MONATEND", &bea::DBNE::MONATEND},
+                         {"SVBREGEBEG", &bea::DBNE::SVBREGEBEG},
+                         {"SVBREGEEND", &bea::DBNE::SVBREGEEND}});
+        k.amounts(a.DBNE, {{"SVBREGLF", &bea::DBNE::SVBREGLF, 8, 2},
+                           {"SVBREGE", &bea::DBNE::SVBREGE, 8, 2},
+                           {"NETTOLFD", &bea::DBNE::NETTOLFD, 8, 2},
+                           {"NETTOEINMAL", &bea::DBNE::NETTOEINMAL, 8, 2},
+                           {"AZWOECH", &bea::DBNE::AZWOECH, 2, 2}});
     }
     {
-        const auto& x = a.DBSA;
         const FieldChecks k = c.within("DBSA");
-        k.date("KNAPPRVBEG", x.KNAPPRVBEG);
+        k.dates(a.DBSA, {{"KNAPPRVBEG", &bea::DBSA::KNAPPRVBEG}});
     }
     for (std::size_t i = 0; i < a.DBSB.size(); ++i) {
         const auto& x = a.DBSB[i];
         const FieldChecks k = c.within("DBSB", i + 1);
-        k.date("PERSBYGRBEG", x.PERSBYGRBEG);
+        k.dates(x, {{"PERSBYGRBEG", &bea::DBSB::PERSBYGRBEG}});
     }
     for (std::size_t i = 0; i < a.DBSE.size(); ++i) {
         const auto& x = a.DBSE[i];
         const FieldChecks k = c.within("DBSE", i + 1);
-        k.date("AESTEDATBEG", x.AESTEDATBEG);
-        k.decimal_amount("FKT", x.FKT, 1, 3, false);
-        k.decimal_amount("KINDFRB", x.KINDFRB, 2, 1, false);
+        k.dates(x, {{"AESTEDATBEG", &bea::DBSE::AESTEDATBEG}});
+        k.amounts(x, {{"FKT", &bea::DBSE::FKT, 1, 3}, {"KINDFRB", &bea::DBSE::KINDFRB, 2, 1}});
     }
 }
 

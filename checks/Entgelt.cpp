@@ -21,165 +21,147 @@ void check_report(const Entgelt& e, Findings& f) {
     c.digits("ABGABEGRUND", e.ABGABEGRUND, 2);
     c.one_of("RUECKMELDUNGEEL", e.RUECKMELDUNGEEL, {"J", "N"}, kFlag);
     {
-        const auto& x = e.DBAE;
         const FieldChecks k = c.within("DBAE");
-        k.date("DATUMAEBIS", x.DATUMAEBIS);
-        k.date("EAZBEGINN1", x.EAZBEGINN1);
-        k.date("EAZENDE1", x.EAZENDE1);
-        k.date("EAZBEGINN2", x.EAZBEGINN2);
-        k.date("EAZENDE2", x.EAZENDE2);
-        k.date("EAZBEGINN3", x.EAZBEGINN3);
-        k.date("EAZENDE3", x.EAZENDE3);
-        k.decimal_amount("WAEHREELBRUTTO", x.WAEHREELBRUTTO, 6, 2, false);
-        k.decimal_amount("BRUTTO1", x.BRUTTO1, 6, 2, false);
-        k.decimal_amount("NETTO1", x.NETTO1, 6, 2, false);
-        k.decimal_amount("UMGEWAE", x.UMGEWAE, 6, 2, false);
-        k.decimal_amount("BRUTTOAE", x.BRUTTOAE, 6, 2, false);
-        k.decimal_amount("NETTOAE", x.NETTOAE, 6, 2, false);
-        k.decimal_amount("BRUTTO2", x.BRUTTO2, 6, 2, false);
-        k.decimal_amount("NETTO2", x.NETTO2, 6, 2, false);
-        k.decimal_amount("BRUTTO3", x.BRUTTO3, 6, 2, false);
-        k.decimal_amount("NETTO3", x.NETTO3, 6, 2, false);
-        k.decimal_amount("EZKV", x.EZKV, 6, 2, false);
-        k.decimal_amount("EZRV", x.EZRV, 6, 2, false);
-        k.decimal_amount("EZALV", x.EZALV, 6, 2, false);
+        k.dates(e.DBAE, {{"DATUMAEBIS", &eel::DBAE::DATUMAEBIS},
+                         {"EAZBEGINN1", &eel::DBAE::EAZBEGINN1},
+                         {"EAZENDE1", &eel::DBAE::EAZENDE1},
+                         {"EAZBEGINN2", &eel::DBAE::EAZBEGINN2},
+                         {"EAZENDE2", &eel::DBAE::EAZENDE2},
+                         {"EAZBEGINN3", &eel::DBAE::EAZBEGINN3},
+                         {"EAZENDE3", &eel::DBAE::EAZENDE3}});
+        k.amounts(e.DBAE, {{"WAEHREELBRUTTO", &eel::DBAE::WAEHREELBRUTTO, 6, 2},
+                           {"BRUTTO1", &eel::DBAE::BRUTTO1, 6, 2},
+                           {"NETTO1", &eel::DBAE::NETTO1, 6, 2},
+                           {"UMGEWAE", &eel::DBAE::UMGEWAE, 6, 2},
+                           {"BRUTTOAE", &eel::DBAE::BRUTTOAE, 6, 2},
+                           {"NETTOAE", &eel::DBAE::NETTOAE, 6, 2},
+                           {"BRUTTO2", &eel::DBAE::BRUTTO2, 6, 2},
+                           {"NETTO2", &eel::DBAE::NETTO2, 6, 2},
+                           {"BRUTTO3", &eel::DBAE::BRUTTO3, 6, 2},
+                           {"NETTO3", &eel::DBAE::NETTO3, 6, 2},
+                           {"EZKV", &eel::DBAE::EZKV, 6, 2},
+                           {"EZRV", &eel::DBAE::EZRV, 6, 2},
+                           {"EZALV", &eel::DBAE::EZALV, 6, 2}});
     }
     {
-        const auto& x = e.DBAL;
         const FieldChecks k = c.within("DBAL");
-        k.date("DATUMAB", x.DATUMAB);
-        k.date("DATUMEZGBIS", x.DATUMEZGBIS);
-        k.date("ENDEBVAM", x.ENDEBVAM);
-        k.date("ENDEBVZUM", x.ENDEBVZUM);
-        k.date("KUGBEGINN", x.KUGBEGINN);
-        k.date("KUGENDE", x.KUGENDE);
-        k.date("LAGBEGINN1", x.LAGBEGINN1);
-        k.date("LAGENDE1", x.LAGENDE1);
-        k.date("LAGBEGINN2", x.LAGBEGINN2);
-        k.date("LAGENDE2", x.LAGENDE2);
+        k.dates(e.DBAL, {{"DATUMAB", &eel::DBAL::DATUMAB},
+                         {"DATUMEZGBIS", &eel::DBAL::DATUMEZGBIS},
+                         {"ENDEBVAM", &eel::DBAL::ENDEBVAM},
+                         {"ENDEBVZUM", &eel::DBAL::ENDEBVZUM},
+                         {"KUGBEGINN", &eel::DBAL::KUGBEGINN},
+                         {"KUGENDE", &eel::DBAL::KUGENDE},
+                         {"LAGBEGINN1", &eel::DBAL::LAGBEGINN1},
+                         {"LAGENDE1", &eel::DBAL::LAGENDE1},
+                         {"LAGBEGINN2", &eel::DBAL::LAGBEGINN2},
+                         {"LAGENDE2", &eel::DBAL::LAGENDE2}});
     }
     {
-        const auto& x = e.DBBE;
         const FieldChecks k = c.within("DBBE");
-        k.date("ZAHLBEGINN", x.ZAHLBEGINN);
-        k.decimal_amount("BEITRPFLBRUTTO", x.BEITRPFLBRUTTO, 6, 2, false);
-        k.decimal_amount("BEITRPFLNETTO", x.BEITRPFLNETTO, 6, 2, false);
+        k.dates(e.DBBE, {{"ZAHLBEGINN", &eel::DBBE::ZAHLBEGINN}});
+        k.amounts(e.DBBE, {{"BEITRPFLBRUTTO", &eel::DBBE::BEITRPFLBRUTTO, 6, 2},
+                           {"BEITRPFLNETTO", &eel::DBBE::BEITRPFLNETTO, 6, 2}});
     }
     {
-        const auto& x = e.DBEE;
         const FieldChecks k = c.within("DBEE");
-        k.date("EELABAG", x.EELABAG);
-        k.date("EELABSV", x.EELABSV);
-        k.date("EELENDE", x.EELENDE);
+        k.dates(e.DBEE,
+                {{"EELABAG", &eel::DBEE::EELABAG}, {"EELABSV", &eel::DBEE::EELABSV}, {"EELENDE", &eel::DBEE::EELENDE}});
     }
     {
-        const auto& x = e.DBFR;
         const FieldChecks k = c.within("DBFR");
-        k.date("ENDEBVZUM", x.ENDEBVZUM);
-        k.date("FREISTVOM", x.FREISTVOM);
-        k.date("FREISTBIS", x.FREISTBIS);
-        k.date("BEZFREISTVOM", x.BEZFREISTVOM);
-        k.date("BEZFREISTBIS", x.BEZFREISTBIS);
-        k.decimal_amount("FREISTBRUTTO", x.FREISTBRUTTO, 6, 2, false);
-        k.decimal_amount("FREISTNETTO", x.FREISTNETTO, 6, 2, false);
+        k.dates(e.DBFR, {{"ENDEBVZUM", &eel::DBFR::ENDEBVZUM},
+                         {"FREISTVOM", &eel::DBFR::FREISTVOM},
+                         {"FREISTBIS", &eel::DBFR::FREISTBIS},
+                         {"BEZFREISTVOM", &eel::DBFR::BEZFREISTVOM},
+                         {"BEZFREISTBIS", &eel::DBFR::BEZFREISTBIS}});
+        k.amounts(e.DBFR,
+                  {{"FREISTBRUTTO", &eel::DBFR::FREISTBRUTTO, 6, 2}, {"FREISTNETTO", &eel::DBFR::FREISTNETTO, 6, 2}});
     }
     {
-        const auto& x = e.DBHE;
         const FieldChecks k = c.within("DBHE");
-        k.date("ZAHLBEGINN", x.ZAHLBEGINN);
-        k.decimal_amount("EELBRUTTO", x.EELBRUTTO, 6, 2, false);
-        k.decimal_amount("EELNETTO", x.EELNETTO, 6, 2, false);
+        k.dates(e.DBHE, {{"ZAHLBEGINN", &eel::DBHE::ZAHLBEGINN}});
+        k.amounts(e.DBHE, {{"EELBRUTTO", &eel::DBHE::EELBRUTTO, 6, 2}, {"EELNETTO", &eel::DBHE::EELNETTO, 6, 2}});
     }
     {
-        const auto& x = e.DBLT;
         const FieldChecks k = c.within("DBLT");
-        k.date("BVSEIT", x.BVSEIT);
-        k.date("BVBIS", x.BVBIS);
-        k.decimal_amount("VWL", x.VWL, 4, 2, false);
-        k.decimal_amount("BRUTTOSB", x.BRUTTOSB, 6, 2, false);
-        k.decimal_amount("NETTOSB", x.NETTOSB, 6, 2, false);
+        k.dates(e.DBLT, {{"BVSEIT", &eel::DBLT::BVSEIT}, {"BVBIS", &eel::DBLT::BVBIS}});
+        k.amounts(e.DBLT, {{"VWL", &eel::DBLT::VWL, 4, 2},
+                           {"BRUTTOSB", &eel::DBLT::BRUTTOSB, 6, 2},
+                           {"NETTOSB", &eel::DBLT::NETTOSB, 6, 2}});
     }
     {
-        const auto& x = e.DBMU;
         const FieldChecks k = c.within("DBMU");
-        k.date("SCHUTZFRBEGINN", x.SCHUTZFRBEGINN);
-        k.date("BVBEGINN", x.BVBEGINN);
-        k.date("LETZTTAG", x.LETZTTAG);
-        k.date("ENDEBVAM", x.ENDEBVAM);
-        k.date("ENDEBVZUM", x.ENDEBVZUM);
-        k.date("DATUMAEBIS", x.DATUMAEBIS);
-        k.date("BEGINN1", x.BEGINN1);
-        k.date("ENDE1", x.ENDE1);
-        k.date("BEGINN2", x.BEGINN2);
-        k.date("ENDE2", x.ENDE2);
-        k.date("BEGINN3", x.BEGINN3);
-        k.date("ENDE3", x.ENDE3);
-        k.decimal_amount("WAEHREELNETTO", x.WAEHREELNETTO, 6, 2, false);
-        k.decimal_amount("BEZAZ1", x.BEZAZ1, 3, 2, false);
-        k.decimal_amount("MASTD1", x.MASTD1, 3, 2, false);
-        k.decimal_amount("AZUNENTSTD1", x.AZUNENTSTD1, 3, 2, false);
-        k.decimal_amount("AZENTSCHSTD1", x.AZENTSCHSTD1, 3, 2, false);
-        k.decimal_amount("NETTO1", x.NETTO1, 6, 2, false);
-        k.decimal_amount("BEZAZ2", x.BEZAZ2, 3, 2, false);
-        k.decimal_amount("MASTD2", x.MASTD2, 3, 2, false);
-        k.decimal_amount("AZUNENTSTD2", x.AZUNENTSTD2, 3, 2, false);
-        k.decimal_amount("AZENTSCHSTD2", x.AZENTSCHSTD2, 3, 2, false);
-        k.decimal_amount("NETTO2", x.NETTO2, 6, 2, false);
-        k.decimal_amount("BEZAZ3", x.BEZAZ3, 3, 2, false);
-        k.decimal_amount("MASTD3", x.MASTD3, 3, 2, false);
-        k.decimal_amount("AZUNENTSTD3", x.AZUNENTSTD3, 3, 2, false);
-        k.decimal_amount("AZENTSCHSTD3", x.AZENTSCHSTD3, 3, 2, false);
-        k.decimal_amount("NETTO3", x.NETTO3, 6, 2, false);
-        k.decimal_amount("AZWOECH", x.AZWOECH, 2, 2, false);
+        k.dates(e.DBMU, {{"SCHUTZFRBEGINN", &eel::DBMU::SCHUTZFRBEGINN},
+                         {"BVBEGINN", &eel::DBMU::BVBEGINN},
+                         {"LETZTTAG", &eel::DBMU::LETZTTAG},
+                         {"ENDEBVAM", &eel::DBMU::ENDEBVAM},
+                         {"ENDEBVZUM", &eel::DBMU::ENDEBVZUM},
+                         {"DATUMAEBIS", &eel::DBMU::DATUMAEBIS},
+                         {"BEGINN1", &eel::DBMU::BEGINN1},
+                         {"ENDE1", &eel::DBMU::ENDE1},
+                         {"BEGINN2", &eel::DBMU::BEGINN2},
+                         {"ENDE2", &eel::DBMU::ENDE2},
+                         {"BEGINN3", &eel::DBMU::BEGINN3},
+                         {"ENDE3", &eel::DBMU::ENDE3}});
+        k.amounts(e.DBMU, {{"WAEHREELNETTO", &eel::DBMU::WAEHREELNETTO, 6, 2},
+                           {"BEZAZ1", &eel::DBMU::BEZAZ1, 3, 2},
+                           {"MASTD1", &eel::DBMU::MASTD1, 3, 2},
+                           {"AZUNENTSTD1", &eel::DBMU::AZUNENTSTD1, 3, 2},
+                           {"AZENTSCHSTD1", &eel::DBMU::AZENTSCHSTD1, 3, 2},
+                           {"NETTO1", &eel::DBMU::NETTO1, 6, 2},
+                           {"BEZAZ2", &eel::DBMU::BEZAZ2, 3, 2},
+                           {"MASTD2", &eel::DBMU::MASTD2, 3, 2},
+                           {"AZUNENTSTD2", &eel::DBMU::AZUNENTSTD2, 3, 2},
+                           {"AZENTSCHSTD2", &eel::DBMU::AZENTSCHSTD2, 3, 2},
+                           {"NETTO2", &eel::DBMU::NETTO2, 6, 2},
+                           {"BEZAZ3", &eel::DBMU::BEZAZ3, 3, 2},
+                           {"MASTD3", &eel::DBMU::MASTD3, 3, 2},
+                           {"AZUNENTSTD3", &eel::DBMU::AZUNENTSTD3, 3, 2},
+                           {"AZENTSCHSTD3", &eel::DBMU::AZENTSCHSTD3, 3, 2},
+                           {"NETTO3", &eel::DBMU::NETTO3, 6, 2},
+                           {"AZWOECH", &eel::DBMU::AZWOECH, 2, 2}});
     }
     {
-        const auto& x = e.DBSF;
         const FieldChecks k = c.within("DBSF");
-        k.date("AUBORD", x.AUBORD);
-        k.date("AUINLAND", x.AUINLAND);
-        k.date("VERLAENGVON", x.VERLAENGVON);
-        k.date("VERLAENGBIS", x.VERLAENGBIS);
-        k.decimal_amount("DHEU", x.DHEU, 6, 2, false);
-        k.decimal_amount("HEUNETTO", x.HEUNETTO, 6, 2, false);
+        k.dates(e.DBSF, {{"AUBORD", &eel::DBSF::AUBORD},
+                         {"AUINLAND", &eel::DBSF::AUINLAND},
+                         {"VERLAENGVON", &eel::DBSF::VERLAENGVON},
+                         {"VERLAENGBIS", &eel::DBSF::VERLAENGBIS}});
+        k.amounts(e.DBSF, {{"DHEU", &eel::DBSF::DHEU, 6, 2}, {"HEUNETTO", &eel::DBSF::HEUNETTO, 6, 2}});
     }
     {
-        const auto& x = e.DBTK;
         const FieldChecks k = c.within("DBTK");
-        k.decimal_amount("BRUTTOSOLL", x.BRUTTOSOLL, 6, 2, false);
-        k.decimal_amount("NETTOSOLL", x.NETTOSOLL, 6, 2, false);
-        k.decimal_amount("TRANSFERKUG", x.TRANSFERKUG, 6, 2, false);
-        k.decimal_amount("BRUTTOIST", x.BRUTTOIST, 6, 2, false);
-        k.decimal_amount("NETTOIST", x.NETTOIST, 6, 2, false);
-        k.decimal_amount("AUFSTOCKUNGSBETRAG", x.AUFSTOCKUNGSBETRAG, 6, 2, false);
+        k.amounts(e.DBTK, {{"BRUTTOSOLL", &eel::DBTK::BRUTTOSOLL, 6, 2},
+                           {"NETTOSOLL", &eel::DBTK::NETTOSOLL, 6, 2},
+                           {"TRANSFERKUG", &eel::DBTK::TRANSFERKUG, 6, 2},
+                           {"BRUTTOIST", &eel::DBTK::BRUTTOIST, 6, 2},
+                           {"NETTOIST", &eel::DBTK::NETTOIST, 6, 2},
+                           {"AUFSTOCKUNGSBETRAG", &eel::DBTK::AUFSTOCKUNGSBETRAG, 6, 2}});
     }
     {
-        const auto& x = e.DBUN;
         const FieldChecks k = c.within("DBUN");
-        k.date("VTAG", x.VTAG);
-        k.decimal_amount("ZUSCHL1", x.ZUSCHL1, 6, 2, false);
-        k.decimal_amount("ZUSCHL2", x.ZUSCHL2, 6, 2, false);
-        k.decimal_amount("ZUSCHL3", x.ZUSCHL3, 6, 2, false);
-        k.decimal_amount("FREISTZUSCHL", x.FREISTZUSCHL, 6, 2, false);
-        k.decimal_amount("EZUV", x.EZUV, 6, 2, false);
+        k.dates(e.DBUN, {{"VTAG", &eel::DBUN::VTAG}});
+        k.amounts(e.DBUN, {{"ZUSCHL1", &eel::DBUN::ZUSCHL1, 6, 2},
+                           {"ZUSCHL2", &eel::DBUN::ZUSCHL2, 6, 2},
+                           {"ZUSCHL3", &eel::DBUN::ZUSCHL3, 6, 2},
+                           {"FREISTZUSCHL", &eel::DBUN::FREISTZUSCHL, 6, 2},
+                           {"EZUV", &eel::DBUN::EZUV, 6, 2}});
     }
     {
-        const auto& x = e.DBVO;
         const FieldChecks k = c.within("DBVO");
-        k.date("AUABAG", x.AUABAG);
-        k.date("AUABSV", x.AUABSV);
+        k.dates(e.DBVO, {{"AUABAG", &eel::DBVO::AUABAG}, {"AUABSV", &eel::DBVO::AUABSV}});
     }
     {
-        const auto& x = e.DBZA;
         const FieldChecks k = c.within("DBZA");
-        k.date("AZBEGINN2", x.AZBEGINN2);
-        k.date("AZENDE2", x.AZENDE2);
-        k.date("AZBEGINN3", x.AZBEGINN3);
-        k.date("AZENDE3", x.AZENDE3);
-        k.decimal_amount("ANZAHLSTD", x.ANZAHLSTD, 3, 2, false);
-        k.decimal_amount("REGAZ", x.REGAZ, 2, 2, false);
-        k.decimal_amount("MAZR1", x.MAZR1, 3, 2, false);
-        k.decimal_amount("MAZR2", x.MAZR2, 3, 2, false);
-        k.decimal_amount("MAZR3", x.MAZR3, 3, 2, false);
+        k.dates(e.DBZA, {{"AZBEGINN2", &eel::DBZA::AZBEGINN2},
+                         {"AZENDE2", &eel::DBZA::AZENDE2},
+                         {"AZBEGINN3", &eel::DBZA::AZBEGINN3},
+                         {"AZENDE3", &eel::DBZA::AZENDE3}});
+        k.amounts(e.DBZA, {{"ANZAHLSTD", &eel::DBZA::ANZAHLSTD, 3, 2},
+                           {"REGAZ", &eel::DBZA::REGAZ, 2, 2},
+                           {"MAZR1", &eel::DBZA::MAZR1, 3, 2},
+                           {"MAZR2", &eel::DBZA::MAZR2, 3, 2},
+                           {"MAZR3", &eel::DBZA::MAZR3, 3, 2}});
     }
 }
 

@@ -16,6 +16,20 @@ struct TextField {
     std::size_t width;
 };
 
+// A member of a block that holds a date, or an amount of `integers` and
+// `decimals` places.
+template <class Block>
+struct DateMember {
+    std::string_view name;
+    std::string Block::*member;
+};
+template <class Block>
+struct AmountMember {
+    std::string_view name;
+    std::string Block::*member;
+    std::size_t integers, decimals;
+};
+
 // The path of a property is put together only when it has a finding: the
 // checks of a clean report allocate nothing.
 class FieldChecks {
@@ -44,6 +58,15 @@ public:
     // Longer than `width` characters: a text is cut (a warning), a key is wrong.
     void text(std::string_view name, std::string_view value, std::size_t width) const;
     void key(std::string_view name, std::string_view value, std::size_t width) const;
+    template <class Block>
+    void dates(const Block& b, std::initializer_list<DateMember<Block>> fields) const {
+        for (const auto& f : fields) date(f.name, b.*f.member);
+    }
+    // Unsigned amounts.
+    template <class Block>
+    void amounts(const Block& b, std::initializer_list<AmountMember<Block>> fields) const {
+        for (const auto& f : fields) decimal_amount(f.name, b.*f.member, f.integers, f.decimals, false);
+    }
     void texts(std::initializer_list<TextField> fields) const {
         for (const TextField& t : fields) text(t.name, t.value, t.width);
     }

@@ -5,6 +5,7 @@
 // check, tamrel inspect); a test holds each one to the builder next to
 // which it is declared.
 #pragma once
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -84,6 +85,16 @@ constexpr FieldLayout always(const RecordLayout& block, std::uint16_t pos, bool 
 // A count of `block`s that follow.
 constexpr FieldLayout count(const RecordLayout& block, std::uint16_t pos, std::uint16_t len) {
     return {block.id, pos, len, FieldKind::N, {}, 0, Announce::Count, &block};
+}
+// A layout's fields made of a part that several layouts share and a part of
+// its own.
+template <std::size_t N, std::size_t M>
+constexpr std::array<FieldLayout, N + M> joined(const std::array<FieldLayout, N>& a,
+                                                const std::array<FieldLayout, M>& b) {
+    std::array<FieldLayout, N + M> all{};
+    for (std::size_t i = 0; i < N; ++i) all[i] = a[i];
+    for (std::size_t i = 0; i < M; ++i) all[N + i] = b[i];
+    return all;
 }
 }  // namespace layout
 

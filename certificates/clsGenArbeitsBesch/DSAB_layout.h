@@ -244,28 +244,34 @@ inline constexpr FieldLayout kDBHNFields[] = {
 };
 inline constexpr RecordLayout kDBHN{"DBHN", 20, kDBHNFields};
 
-inline constexpr FieldLayout kDSABFields[] = {
-    lit("identifier", 1, "DSAB"),
-    lit("version", 5, "03"),
-    {"procedure (ALG)", 7, 5, FieldKind::An},
-    {"DatensatzData.strBNRAb", 12, 15, FieldKind::Bnr},
-    {"created (ErstellDatum)", 27, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 41, 6, FieldKind::N},
-    lit("error marker", 47, "0"),
-    lit("number of errors", 48, "0"),
-    {"Vorgang.Versicherungsnummer", 49, 12, FieldKind::Vsnr},
-    {"Vorgang.Arbeitgeber.Betriebsnummer", 61, 15, FieldKind::Bnr},
-    {"Vorgang.Aktenzeichen", 76, 20, FieldKind::An},
-    {"DatensatzData.strBNRSt", 96, 15, FieldKind::An},
-    {"DatensatzData.strVersion", 111, 10, FieldKind::An},
-    {"DatensatzNr", 121, 10, FieldKind::N},
-    {"reserve", 131, 12, FieldKind::An},
-    {"reserve", 143, 8, FieldKind::An},
-    {"Feld151", 151, 8, FieldKind::N},
-    always(kDBNA, 159),
-    always(kDBAN, 160),
-    always(kDBAG, 161),
-    flag(kDBAB, 162),
+// Positions 1-162, the same in the three records.
+constexpr std::array<FieldLayout, 21> head(std::string_view id) {
+    return {{
+        lit("identifier", 1, id),
+        lit("version", 5, "03"),
+        {"procedure (ALG)", 7, 5, FieldKind::An},
+        {"DatensatzData.strBNRAb", 12, 15, FieldKind::Bnr},
+        {"created (ErstellDatum)", 27, 14, FieldKind::DateTime},
+        {"DatensatzData.strMicroseconds", 41, 6, FieldKind::N},
+        lit("error marker", 47, "0"),
+        lit("number of errors", 48, "0"),
+        {"Vorgang.Versicherungsnummer", 49, 12, FieldKind::Vsnr},
+        {"Vorgang.Arbeitgeber.Betriebsnummer", 61, 15, FieldKind::Bnr},
+        {"Vorgang.Aktenzeichen", 76, 20, FieldKind::An},
+        {"DatensatzData.strBNRSt", 96, 15, FieldKind::An},
+        {"DatensatzData.strVersion", 111, 10, FieldKind::An},
+        {"DatensatzNr", 121, 10, FieldKind::N},
+        {"reserve", 131, 12, FieldKind::An},
+        {"reserve", 143, 8, FieldKind::An},
+        {"Feld151", 151, 8, FieldKind::N},
+        always(kDBNA, 159),
+        always(kDBAN, 160),
+        always(kDBAG, 161),
+        flag(kDBAB, 162),
+    }};
+}
+
+inline constexpr std::array<FieldLayout, 9> kDSABTail{{
     count(kDBSE, 163, 2),
     {"reserve", 165, 2, FieldKind::N},
     always(kDBSA, 167),
@@ -275,31 +281,11 @@ inline constexpr FieldLayout kDSABFields[] = {
     count(kDBFZ, 174, 2),
     flag(kDBHA, 176),
     always(kDBKE, 177),
-};
+}};
+inline constexpr auto kDSABFields = layout::joined(head("DSAB"), kDSABTail);
 inline constexpr RecordLayout kDSAB{"DSAB", 177, kDSABFields};
 
-inline constexpr FieldLayout kDSEUFields[] = {
-    lit("identifier", 1, "DSEU"),
-    lit("version", 5, "03"),
-    {"procedure (ALG)", 7, 5, FieldKind::An},
-    {"DatensatzData.strBNRAb", 12, 15, FieldKind::Bnr},
-    {"created (ErstellDatum)", 27, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 41, 6, FieldKind::N},
-    lit("error marker", 47, "0"),
-    lit("number of errors", 48, "0"),
-    {"Vorgang.Versicherungsnummer", 49, 12, FieldKind::Vsnr},
-    {"Vorgang.Arbeitgeber.Betriebsnummer", 61, 15, FieldKind::Bnr},
-    {"Vorgang.Aktenzeichen", 76, 20, FieldKind::An},
-    {"DatensatzData.strBNRSt", 96, 15, FieldKind::An},
-    {"DatensatzData.strVersion", 111, 10, FieldKind::An},
-    {"DatensatzNr", 121, 10, FieldKind::N},
-    {"reserve", 131, 12, FieldKind::An},
-    {"reserve", 143, 8, FieldKind::An},
-    {"Feld151", 151, 8, FieldKind::N},
-    always(kDBNA, 159),
-    always(kDBAN, 160),
-    always(kDBAG, 161),
-    flag(kDBAB, 162),
+inline constexpr std::array<FieldLayout, 8> kDSEUTail{{
     count(kDBSE, 163, 2),
     {"reserve", 165, 2, FieldKind::N},
     always(kDBSA, 167),
@@ -308,37 +294,18 @@ inline constexpr FieldLayout kDSEUFields[] = {
     count(kDBEE, 172, 2),
     count(kDBFZ, 174, 2),
     always(kDBKU, 176),
-};
+}};
+inline constexpr auto kDSEUFields = layout::joined(head("DSEU"), kDSEUTail);
 inline constexpr RecordLayout kDSEU{"DSEU", 176, kDSEUFields};
 
-inline constexpr FieldLayout kDSNEFields[] = {
-    lit("identifier", 1, "DSNE"),
-    lit("version", 5, "03"),
-    {"procedure (ALG)", 7, 5, FieldKind::An},
-    {"DatensatzData.strBNRAb", 12, 15, FieldKind::Bnr},
-    {"created (ErstellDatum)", 27, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 41, 6, FieldKind::N},
-    lit("error marker", 47, "0"),
-    lit("number of errors", 48, "0"),
-    {"Vorgang.Versicherungsnummer", 49, 12, FieldKind::Vsnr},
-    {"Vorgang.Arbeitgeber.Betriebsnummer", 61, 15, FieldKind::Bnr},
-    {"Vorgang.Aktenzeichen", 76, 20, FieldKind::An},
-    {"DatensatzData.strBNRSt", 96, 15, FieldKind::An},
-    {"DatensatzData.strVersion", 111, 10, FieldKind::An},
-    {"DatensatzNr", 121, 10, FieldKind::N},
-    {"reserve", 131, 12, FieldKind::An},
-    {"reserve", 143, 8, FieldKind::An},
-    {"Feld151", 151, 8, FieldKind::N},
-    always(kDBNA, 159),
-    always(kDBAN, 160),
-    always(kDBAG, 161),
-    flag(kDBAB, 162),
+inline constexpr std::array<FieldLayout, 5> kDSNETail{{
     always(kDBNE, 163),
     {"reserve", 164, 2, FieldKind::N},
     always(kDBSA, 166),
     always(kDBNB, 167),
     flag(kDBHN, 168),
-};
+}};
+inline constexpr auto kDSNEFields = layout::joined(head("DSNE"), kDSNETail);
 inline constexpr RecordLayout kDSNE{"DSNE", 168, kDSNEFields};
 
 }  // namespace tamrel::layouts::bea
