@@ -1,6 +1,7 @@
 // The layouts of the DSLW record and its blocks, as GenDSLW.cpp and
 // GenDSLW_blocks.cpp build them; DBNA and DBAN are the shared blocks.
 #pragma once
+#include "core/common_layouts.h"
 #include "core/layout.h"
 #include "core/shared_block_layouts.h"
 
@@ -232,21 +233,10 @@ inline constexpr FieldLayout kDBTKFields[] = {
 };
 inline constexpr RecordLayout kDBTK{"DBTK", 52, kDBTKFields};
 
-inline constexpr FieldLayout kDBAPFields[] = {
-    lit("identifier", 1, "DBAP"),
-    {"ApAnrede", 5, 1, FieldKind::An},
-    {"ApName", 6, 30, FieldKind::An},
-    {"ApTel", 36, 20, FieldKind::An},
-    {"ApFax", 56, 20, FieldKind::An},
-    {"ApEmail", 76, 70, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name1", 146, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name2", 176, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name3", 206, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.PLZ", 236, 10, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Ort", 246, 34, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Strasse", 280, 33, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Hausnummer", 313, 9, FieldKind::An},
-};
+inline constexpr auto kDBAPFields =
+    contact_block("DBAP", {"ApAnrede", "ApName", "ApTel", "ApFax", "ApEmail", "Vorgang.Arbeitgeber.Name1",
+                           "Vorgang.Arbeitgeber.Name2", "Vorgang.Arbeitgeber.Name3", "Vorgang.Arbeitgeber.PLZ",
+                           "Vorgang.Arbeitgeber.Ort", "Vorgang.Arbeitgeber.Strasse", "Vorgang.Arbeitgeber.Hausnummer"});
 inline constexpr RecordLayout kDBAP{"DBAP", 321, kDBAPFields};
 
 inline constexpr FieldLayout kDBIDFields[] = {
@@ -256,16 +246,7 @@ inline constexpr FieldLayout kDBIDFields[] = {
 };
 inline constexpr RecordLayout kDBID{"DBID", 44, kDBIDFields};
 
-inline constexpr FieldLayout kDSLWFields[] = {
-    lit("identifier", 1, "DSLW"),
-    lit("procedure", 5, "LEIST"),
-    {"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr},
-    {"Empfaenger.Betriebsnummer", 25, 15, FieldKind::Bnr},
-    lit("version", 40, "10"),
-    {"created (ErstellDatum)", 42, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 56, 6, FieldKind::N},
-    lit("error marker", 62, "0"),
-    lit("number of errors", 63, "0"),
+inline constexpr std::array<FieldLayout, 31> kDSLWOwn{{
     {"Vorgang.Versicherungsnummer", 64, 12, FieldKind::Vsnr},
     {"Vorgang.Geburtsdatum", 76, 8, FieldKind::Date},
     {"Vorgang.Arbeitgeber.Betriebsnummer", 84, 15, FieldKind::Bnr},
@@ -297,7 +278,9 @@ inline constexpr FieldLayout kDSLWFields[] = {
     flag(kDBTK, 217),
     flag(kDBAP, 218),
     flag(kDBID, 219),
-};
+}};
+inline constexpr auto kDSLWFields =
+    layout::joined(record_head("DSLW", "LEIST", "10", "created (ErstellDatum)"), kDSLWOwn);
 inline constexpr RecordLayout kDSLW{"DSLW", 219, kDSLWFields};
 
 }  // namespace tamrel::layouts::eel

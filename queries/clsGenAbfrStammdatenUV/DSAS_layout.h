@@ -2,21 +2,12 @@
 // block DBAP follows where it holds data.
 #pragma once
 #include "core/layout.h"
-#include "queries/contact_block_layout.h"
+#include "queries/uv_layouts.h"
 
 namespace tamrel::layouts::uv {
 using layout::lit;
 
-inline constexpr FieldLayout kDSASFields[] = {
-    lit("identifier", 1, "DSAS"),
-    lit("procedure", 5, "UVSDD"),
-    {"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr},
-    {"receiver (fixed)", 25, 15, FieldKind::An},
-    lit("version", 40, "01"),
-    {"reserve", 42, 2, FieldKind::N},
-    {"reserve", 44, 2, FieldKind::N},
-    {"created (ErstellDatum)", 46, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 60, 6, FieldKind::N},
+inline constexpr std::array<FieldLayout, 23> kDSASOwn{{
     lit("fixed", 66, "N"),
     lit("error marker", 67, "0"),
     lit("number of errors", 68, "0"),
@@ -40,7 +31,8 @@ inline constexpr FieldLayout kDSASFields[] = {
     {"Feld444", 444, 15, FieldKind::An},
     layout::flag(kDBAP, 459),
     lit("fixed", 460, "UV10"),
-};
+}};
+inline constexpr auto kDSASFields = layout::joined(head("DSAS", "UVSDD"), kDSASOwn);
 inline constexpr RecordLayout kDSAS{"DSAS", 463, kDSASFields};
 
 }  // namespace tamrel::layouts::uv

@@ -1,6 +1,7 @@
 // The layouts of the DSBD record and its block DBKA, as GenDSBD.cpp builds
 // them.
 #pragma once
+#include "core/common_layouts.h"
 #include "core/layout.h"
 
 namespace tamrel::layouts::betrieb {
@@ -21,16 +22,7 @@ inline constexpr FieldLayout kDBKAFields[] = {
 };
 inline constexpr RecordLayout kDBKA{"DBKA", 208, kDBKAFields};
 
-inline constexpr FieldLayout kDSBDFields[] = {
-    lit("identifier", 1, "DSBD"),
-    lit("procedure", 5, "BTRAG"),
-    {"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr},
-    {"Empfaenger.Betriebsnummer", 25, 15, FieldKind::Bnr},
-    lit("version", 40, "01"),
-    {"created (ErstellDatum)", 42, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 56, 6, FieldKind::N},
-    lit("error marker", 62, "0"),
-    lit("number of errors", 63, "0"),
+inline constexpr std::array<FieldLayout, 29> kDSBDOwn{{
     {"Arbeitgeber.Betriebsnummer", 64, 15, FieldKind::Bnr},
     {"reserve", 79, 11, FieldKind::An},
     {"ConvertBNRSt(DatensatzData.strBNRSt)", 90, 15, FieldKind::An},
@@ -60,7 +52,9 @@ inline constexpr FieldLayout kDSBDFields[] = {
     layout::flag(kDBKA, 535),
     lit("fixed", 536, "N"),
     {"reserve", 537, 5, FieldKind::An},
-};
+}};
+inline constexpr auto kDSBDFields =
+    layout::joined(record_head("DSBD", "BTRAG", "01", "created (ErstellDatum)"), kDSBDOwn);
 inline constexpr RecordLayout kDSBD{"DSBD", 541, kDSBDFields};
 
 }  // namespace tamrel::layouts::betrieb

@@ -2,7 +2,7 @@
 // it; the contact block DBAP follows where it holds data.
 #pragma once
 #include "core/layout.h"
-#include "queries/contact_block_layout.h"
+#include "queries/uv_layouts.h"
 
 namespace tamrel::layouts::uv {
 using layout::lit;
@@ -14,16 +14,7 @@ inline constexpr FieldLayout kDSLNPositionFields[] = {
 };
 inline constexpr RecordLayout kDSLNPosition{"DSLN position", 59, kDSLNPositionFields};
 
-inline constexpr FieldLayout kDSLNFields[] = {
-    lit("identifier", 1, "DSLN"),
-    lit("procedure", 5, "UVELN"),
-    {"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr},
-    {"receiver (fixed)", 25, 15, FieldKind::An},
-    lit("version", 40, "01"),
-    {"reserve", 42, 2, FieldKind::N},
-    {"reserve", 44, 2, FieldKind::N},
-    {"created (ErstellDatum)", 46, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 60, 6, FieldKind::N},
+inline constexpr std::array<FieldLayout, 27> kDSLNOwn{{
     {"reserve", 66, 20, FieldKind::N},
     lit("fixed", 86, "N"),
     lit("error marker", 87, "0"),
@@ -51,7 +42,8 @@ inline constexpr FieldLayout kDSLNFields[] = {
     {"Feld484", 484, 3, FieldKind::An},
     {"Feld487", 487, 6, FieldKind::N},
     {"AnzahlPositionen (or the number of Positionen)", 493, 2, FieldKind::N},
-};
+}};
+inline constexpr auto kDSLNFields = layout::joined(head("DSLN", "UVELN"), kDSLNOwn);
 inline constexpr RecordLayout kDSLN{"DSLN", 494, kDSLNFields, &kDSLNPosition, 493, 2};
 
 }  // namespace tamrel::layouts::uv

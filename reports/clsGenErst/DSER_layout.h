@@ -2,6 +2,7 @@
 // DBAA, as GenDSER.cpp and GenDSER_blocks.cpp build them; DBNA is the
 // shared block.
 #pragma once
+#include "core/common_layouts.h"
 #include "core/layout.h"
 #include "core/shared_block_layouts.h"
 
@@ -83,33 +84,13 @@ inline constexpr FieldLayout kDBBVFields[] = {
 };
 inline constexpr RecordLayout kDBBV{"DBBV", 174, kDBBVFields};
 
-inline constexpr FieldLayout kDBAAFields[] = {
-    lit("identifier", 1, "DBAA"),
-    {"AnGeschl", 5, 1, FieldKind::An},
-    {"AnName", 6, 30, FieldKind::An},
-    {"AnTel", 36, 20, FieldKind::An},
-    {"AnFax", 56, 20, FieldKind::An},
-    {"AnEMail", 76, 70, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name1", 146, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name2", 176, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name3", 206, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.PLZ", 236, 10, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Ort", 246, 34, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Strasse", 280, 33, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Hausnummer", 313, 9, FieldKind::An},
-};
+inline constexpr auto kDBAAFields =
+    contact_block("DBAA", {"AnGeschl", "AnName", "AnTel", "AnFax", "AnEMail", "Vorgang.Arbeitgeber.Name1",
+                           "Vorgang.Arbeitgeber.Name2", "Vorgang.Arbeitgeber.Name3", "Vorgang.Arbeitgeber.PLZ",
+                           "Vorgang.Arbeitgeber.Ort", "Vorgang.Arbeitgeber.Strasse", "Vorgang.Arbeitgeber.Hausnummer"});
 inline constexpr RecordLayout kDBAA{"DBAA", 321, kDBAAFields};
 
-inline constexpr FieldLayout kDSERFields[] = {
-    lit("identifier", 1, "DSER"),
-    lit("procedure", 5, "AAGER"),
-    {"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr},
-    {"Empfaenger.Betriebsnummer", 25, 15, FieldKind::Bnr},
-    lit("version", 40, "05"),
-    {"created (ErstelltAm)", 42, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 56, 6, FieldKind::N},
-    lit("error marker", 62, "0"),
-    lit("number of errors", 63, "0"),
+inline constexpr std::array<FieldLayout, 25> kDSEROwn{{
     {"Vorgang.Versicherungsnummer", 64, 12, FieldKind::Vsnr},
     {"Vorgang.Geburtsdatum", 76, 8, FieldKind::Date},
     {"Vorgang.Arbeitgeber.Betriebsnummer", 84, 15, FieldKind::Bnr},
@@ -135,7 +116,9 @@ inline constexpr FieldLayout kDSERFields[] = {
     layout::flag(kDBAA, 354),
     {"reserve", 355, 1, FieldKind::An},
     {"reserve", 356, 100, FieldKind::An},
-};
+}};
+inline constexpr auto kDSERFields =
+    layout::joined(record_head("DSER", "AAGER", "05", "created (ErstelltAm)"), kDSEROwn);
 inline constexpr RecordLayout kDSER{"DSER", 455, kDSERFields};
 
 }  // namespace tamrel::layouts::erst

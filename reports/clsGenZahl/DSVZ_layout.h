@@ -1,6 +1,7 @@
 // The layouts of the DSVZ record and its blocks DBZK, DBNA and DBGA, as
 // GenDSVZ.cpp builds them; DBAN is the shared block.
 #pragma once
+#include "core/common_layouts.h"
 #include "core/layout.h"
 #include "core/shared_block_layouts.h"
 
@@ -46,16 +47,7 @@ inline constexpr FieldLayout kDBGAFields[] = {
 };
 inline constexpr RecordLayout kDBGA{"DBGA", 13, kDBGAFields};
 
-inline constexpr FieldLayout kDSVZFields[] = {
-    lit("identifier", 1, "DSVZ"),
-    lit("procedure", 5, "ZAHLS"),
-    {"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr},
-    {"Empfaenger.Betriebsnummer", 25, 15, FieldKind::Bnr},
-    lit("version", 40, "02"),
-    {"created (ErstelltAm)", 42, 14, FieldKind::DateTime},
-    {"DatensatzData.strMicroseconds", 56, 6, FieldKind::N},
-    lit("error marker", 62, "0"),
-    lit("number of errors", 63, "0"),
+inline constexpr std::array<FieldLayout, 23> kDSVZOwn{{
     {"Vorgang.Kennung14", 64, 14, FieldKind::An},
     {"Vorgang.Arbeitgeber.Betriebsnummer", 78, 15, FieldKind::Bnr},
     {"Vorgang.Aktenzeichen", 93, 20, FieldKind::An},
@@ -79,7 +71,9 @@ inline constexpr FieldLayout kDSVZFields[] = {
     lit("fixed", 223, "N"),
     {"Vorgang.Versicherungsnummer (zeros when pseudonymised)", 224, 12, FieldKind::Vsnr},
     {"reserve", 236, 2, FieldKind::An},
-};
+}};
+inline constexpr auto kDSVZFields =
+    layout::joined(record_head("DSVZ", "ZAHLS", "02", "created (ErstelltAm)"), kDSVZOwn);
 inline constexpr RecordLayout kDSVZ{"DSVZ", 237, kDSVZFields};
 
 }  // namespace tamrel::layouts::zahl
