@@ -9,6 +9,7 @@ namespace tamrel::checks {
 
 void check_report(const AbfrVers& a, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("Datum", a.Datum);
     const FieldChecks v = c.within("Vorgang");
     check_person(v, a.Vorgang);
     for (const auto& [name, value] : {std::pair{"Familienname", &a.Vorgang.Familienname},

@@ -10,6 +10,7 @@ namespace tamrel::checks {
 
 void check_report(const ArbeitsBesch& a, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("ErstellDatum", a.ErstellDatum);
     const FieldChecks v = c.within("Vorgang");
     check_person(v, a.Vorgang);
     v.required("Versicherungsnummer", a.Vorgang.Versicherungsnummer);
@@ -19,6 +20,7 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
         const auto& x = a.DBAZ[i];
         const FieldChecks k = c.within("DBAZ", i + 1);
         k.dates(x, {{"AZAEBEG", &bea::DBAZ::AZAEBEG}});
+        k.numbers(x, {{"AZAEGR", &bea::DBAZ::AZAEGR, 2}});
         k.amounts(x, {{"AZWOECH", &bea::DBAZ::AZWOECH, 2, 2}, {"AZVG", &bea::DBAZ::AZVG, 2, 2}});
     }
     for (std::size_t i = 0; i < a.DBEE.size(); ++i) {
@@ -34,6 +36,7 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                     {"MONATEND", &bea::DBEN::MONATEND},
                     {"MIABEG", &bea::DBEN::MIABEG},
                     {"MIAEND", &bea::DBEN::MIAEND}});
+        k.numbers(x, {{"TATSURLTAGE", &bea::DBEN::TATSURLTAGE, 3}, {"URLEGGEZ", &bea::DBEN::URLEGGEZ, 1}});
         k.amounts(x, {{"SVBREGLF", &bea::DBEN::SVBREGLF, 8, 2},
                       {"SVBREGE", &bea::DBEN::SVBREGE, 8, 2},
                       {"FIBR", &bea::DBEN::FIBR, 8, 2},
@@ -43,6 +46,7 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
         const auto& x = a.DBEZ[i];
         const FieldChecks k = c.within("DBEZ", i + 1);
         k.dates(x, {{"AZAEBEG", &bea::DBEZ::AZAEBEG}});
+        k.numbers(x, {{"AZAEGR", &bea::DBEZ::AZAEGR, 2}});
         k.amounts(x, {{"AZWOECH", &bea::DBEZ::AZWOECH, 2, 2},
                       {"AZDUWOECH", &bea::DBEZ::AZDUWOECH, 2, 2},
                       {"ATDUWOE", &bea::DBEZ::ATDUWOE, 1, 2}});
@@ -51,6 +55,11 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
         const auto& x = a.DBFZ[i];
         const FieldChecks k = c.within("DBFZ", i + 1);
         k.dates(x, {{"FEHLBEG", &bea::DBFZ::FEHLBEG}, {"FEHLEND", &bea::DBFZ::FEHLEND}});
+        k.numbers(x, {{"FEHLART", &bea::DBFZ::FEHLART, 2}});
+    }
+    {
+        const FieldChecks k = c.within("DBHA");
+        k.numbers(a.DBHA, {{"URLTAGE", &bea::DBHA::URLTAGE, 3}});
     }
     {
         const FieldChecks k = c.within("DBHN");
@@ -72,6 +81,14 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                          {"BVENUR", &bea::DBKE::BVENUR},
                          {"AVENVGB", &bea::DBKE::AVENVGB},
                          {"BFHG", &bea::DBKE::BFHG}});
+        k.numbers(a.DBKE, {{"AVLETZTRL", &bea::DBKE::AVLETZTRL, 6},
+                           {"AVKUEDU", &bea::DBKE::AVKUEDU, 1},
+                           {"AVKUEZUST", &bea::DBKE::AVKUEZUST, 1},
+                           {"KF", &bea::DBKE::KF, 3},
+                           {"KFZE", &bea::DBKE::KFZE, 1},
+                           {"KFBZ", &bea::DBKE::KFBZ, 1},
+                           {"AVENLZG", &bea::DBKE::AVENLZG, 2},
+                           {"BETZU", &bea::DBKE::BETZU, 2}});
         k.amounts(a.DBKE, {{"ABFHOE", &bea::DBKE::ABFHOE, 8, 2}, {"AVENVG", &bea::DBKE::AVENVG, 3, 2}});
     }
     {
@@ -83,6 +100,14 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                          {"AVKUEAM", &bea::DBKU::AVKUEAM},
                          {"BVEGENB", &bea::DBKU::BVEGENB},
                          {"AVENUR", &bea::DBKU::AVENUR}});
+        k.numbers(a.DBKU, {{"AVKUEDU", &bea::DBKU::AVKUEDU, 1},
+                           {"AVENLZG", &bea::DBKU::AVENLZG, 2},
+                           {"BETZU", &bea::DBKU::BETZU, 2},
+                           {"URLTAGEAV", &bea::DBKU::URLTAGEAV, 3},
+                           {"AVVERZ", &bea::DBKU::AVVERZ, 1},
+                           {"KF", &bea::DBKU::KF, 3},
+                           {"KFZE", &bea::DBKU::KFZE, 1},
+                           {"KFBZ", &bea::DBKU::KFBZ, 1}});
         k.amounts(a.DBKU, {{"ABFHOE", &bea::DBKU::ABFHOE, 8, 2}, {"UAGHOE", &bea::DBKU::UAGHOE, 8, 2}});
     }
     {
@@ -101,6 +126,7 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                          {"MONATEND", &bea::DBNE::MONATEND},
                          {"SVBREGEBEG", &bea::DBNE::SVBREGEBEG},
                          {"SVBREGEEND", &bea::DBNE::SVBREGEEND}});
+        k.numbers(a.DBNE, {{"TTAUFENT", &bea::DBNE::TTAUFENT, 1}});
         k.amounts(a.DBNE, {{"SVBREGLF", &bea::DBNE::SVBREGLF, 8, 2},
                            {"SVBREGE", &bea::DBNE::SVBREGE, 8, 2},
                            {"NETTOLFD", &bea::DBNE::NETTOLFD, 8, 2},
@@ -110,16 +136,19 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
     {
         const FieldChecks k = c.within("DBSA");
         k.dates(a.DBSA, {{"KNAPPRVBEG", &bea::DBSA::KNAPPRVBEG}});
+        k.numbers(a.DBSA, {{"BYGRA", &bea::DBSA::BYGRA, 4}, {"PERSGRA", &bea::DBSA::PERSGRA, 3}});
     }
     for (std::size_t i = 0; i < a.DBSB.size(); ++i) {
         const auto& x = a.DBSB[i];
         const FieldChecks k = c.within("DBSB", i + 1);
         k.dates(x, {{"PERSBYGRBEG", &bea::DBSB::PERSBYGRBEG}});
+        k.numbers(x, {{"BYGRB", &bea::DBSB::BYGRB, 4}, {"PERSGRB", &bea::DBSB::PERSGRB, 3}});
     }
     for (std::size_t i = 0; i < a.DBSE.size(); ++i) {
         const auto& x = a.DBSE[i];
         const FieldChecks k = c.within("DBSE", i + 1);
         k.dates(x, {{"AESTEDATBEG", &bea::DBSE::AESTEDATBEG}});
+        k.numbers(x, {{"STKL", &bea::DBSE::STKL, 1}});
         k.amounts(x, {{"FKT", &bea::DBSE::FKT, 1, 3}, {"KINDFRB", &bea::DBSE::KINDFRB, 2, 1}});
     }
 }

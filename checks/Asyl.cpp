@@ -9,6 +9,7 @@ namespace tamrel::checks {
 
 void check_report(const Asyl& a, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("ErstellDatum", a.ErstellDatum);
     c.betriebsnummer("BbnrVu", a.BbnrVu);
     check_receiver(c, a.Empfaenger);
     c.date("ZrBeginn", a.ZrBeginn);

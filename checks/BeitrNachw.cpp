@@ -10,6 +10,7 @@ namespace tamrel::checks {
 
 void check_report(const BeitrNachw& b, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("Zeitpunkt", b.Zeitpunkt);
     c.required("Zeitraum1", b.Zeitraum1);
     c.required("Zeitraum2", b.Zeitraum2);
     c.date("Zeitraum1", b.Zeitraum1);

@@ -9,6 +9,7 @@ namespace tamrel::checks {
 
 void check_report(const Betrieb& b, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("ErstellDatum", b.ErstellDatum);
     check_employer(c, b.Arbeitgeber);
     check_receiver(c, b.Empfaenger);
     c.required("Kennziffer", b.Kennziffer);

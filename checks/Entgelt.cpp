@@ -11,6 +11,7 @@ namespace tamrel::checks {
 
 void check_report(const Entgelt& e, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("ErstellDatum", e.ErstellDatum);
     const FieldChecks v = c.within("Vorgang");
     check_person(v, e.Vorgang);
     v.required("Geburtsdatum", e.Vorgang.Geburtsdatum);
@@ -29,6 +30,7 @@ void check_report(const Entgelt& e, Findings& f) {
                          {"EAZENDE2", &eel::DBAE::EAZENDE2},
                          {"EAZBEGINN3", &eel::DBAE::EAZBEGINN3},
                          {"EAZENDE3", &eel::DBAE::EAZENDE3}});
+        k.numbers(e.DBAE, {{"ENTGART", &eel::DBAE::ENTGART, 1}});
         k.amounts(e.DBAE, {{"WAEHREELBRUTTO", &eel::DBAE::WAEHREELBRUTTO, 6, 2},
                            {"BRUTTO1", &eel::DBAE::BRUTTO1, 6, 2},
                            {"NETTO1", &eel::DBAE::NETTO1, 6, 2},
@@ -55,6 +57,12 @@ void check_report(const Entgelt& e, Findings& f) {
                          {"LAGENDE1", &eel::DBAL::LAGENDE1},
                          {"LAGBEGINN2", &eel::DBAL::LAGBEGINN2},
                          {"LAGENDE2", &eel::DBAL::LAGENDE2}});
+        k.numbers(e.DBAL, {{"GRUNDBEEND", &eel::DBAL::GRUNDBEEND, 2}, {"MMKUG", &eel::DBAL::MMKUG, 1}});
+    }
+    {
+        const FieldChecks k = c.within("DBAW");
+        k.numbers(e.DBAW,
+                  {{"TAGE1", &eel::DBAW::TAGE1, 2}, {"TAGE2", &eel::DBAW::TAGE2, 2}, {"TAGE3", &eel::DBAW::TAGE3, 2}});
     }
     {
         const FieldChecks k = c.within("DBBE");
@@ -66,6 +74,7 @@ void check_report(const Entgelt& e, Findings& f) {
         const FieldChecks k = c.within("DBEE");
         k.dates(e.DBEE,
                 {{"EELABAG", &eel::DBEE::EELABAG}, {"EELABSV", &eel::DBEE::EELABSV}, {"EELENDE", &eel::DBEE::EELENDE}});
+        k.numbers(e.DBEE, {{"EELENDEGRUND", &eel::DBEE::EELENDEGRUND, 2}});
     }
     {
         const FieldChecks k = c.within("DBFR");
@@ -74,6 +83,10 @@ void check_report(const Entgelt& e, Findings& f) {
                          {"FREISTBIS", &eel::DBFR::FREISTBIS},
                          {"BEZFREISTVOM", &eel::DBFR::BEZFREISTVOM},
                          {"BEZFREISTBIS", &eel::DBFR::BEZFREISTBIS}});
+        k.numbers(e.DBFR, {{"TAGE", &eel::DBFR::TAGE, 2},
+                           {"KEINEFREIST", &eel::DBFR::KEINEFREIST, 1},
+                           {"BEGRZFREIST", &eel::DBFR::BEGRZFREIST, 2},
+                           {"BEZFREISTJAHR", &eel::DBFR::BEZFREISTJAHR, 2}});
         k.amounts(e.DBFR,
                   {{"FREISTBRUTTO", &eel::DBFR::FREISTBRUTTO, 6, 2}, {"FREISTNETTO", &eel::DBFR::FREISTNETTO, 6, 2}});
     }
@@ -103,6 +116,15 @@ void check_report(const Entgelt& e, Findings& f) {
                          {"ENDE2", &eel::DBMU::ENDE2},
                          {"BEGINN3", &eel::DBMU::BEGINN3},
                          {"ENDE3", &eel::DBMU::ENDE3}});
+        k.numbers(e.DBMU, {{"BVGEKUEND", &eel::DBMU::BVGEKUEND, 2},
+                           {"FEHLZEIT", &eel::DBMU::FEHLZEIT, 2},
+                           {"ENTGART", &eel::DBMU::ENTGART, 1},
+                           {"AZUNENTTAGE1", &eel::DBMU::AZUNENTTAGE1, 2},
+                           {"AZENTSCHTAGE1", &eel::DBMU::AZENTSCHTAGE1, 2},
+                           {"AZUNENTTAGE2", &eel::DBMU::AZUNENTTAGE2, 2},
+                           {"AZENTSCHTAGE2", &eel::DBMU::AZENTSCHTAGE2, 2},
+                           {"AZUNENTTAGE3", &eel::DBMU::AZUNENTTAGE3, 2},
+                           {"AZENTSCHTAGE3", &eel::DBMU::AZENTSCHTAGE3, 2}});
         k.amounts(e.DBMU, {{"WAEHREELNETTO", &eel::DBMU::WAEHREELNETTO, 6, 2},
                            {"BEZAZ1", &eel::DBMU::BEZAZ1, 3, 2},
                            {"MASTD1", &eel::DBMU::MASTD1, 3, 2},
@@ -127,6 +149,7 @@ void check_report(const Entgelt& e, Findings& f) {
                          {"AUINLAND", &eel::DBSF::AUINLAND},
                          {"VERLAENGVON", &eel::DBSF::VERLAENGVON},
                          {"VERLAENGBIS", &eel::DBSF::VERLAENGBIS}});
+        k.numbers(e.DBSF, {{"UANSPRUCH", &eel::DBSF::UANSPRUCH, 2}, {"KZDHEU", &eel::DBSF::KZDHEU, 4}});
         k.amounts(e.DBSF, {{"DHEU", &eel::DBSF::DHEU, 6, 2}, {"HEUNETTO", &eel::DBSF::HEUNETTO, 6, 2}});
     }
     {
@@ -150,6 +173,7 @@ void check_report(const Entgelt& e, Findings& f) {
     {
         const FieldChecks k = c.within("DBVO");
         k.dates(e.DBVO, {{"AUABAG", &eel::DBVO::AUABAG}, {"AUABSV", &eel::DBVO::AUABSV}});
+        k.numbers(e.DBVO, {{"GRUNDAV", &eel::DBVO::GRUNDAV, 1}, {"KZAKAU", &eel::DBVO::KZAKAU, 1}});
     }
     {
         const FieldChecks k = c.within("DBZA");

@@ -10,6 +10,7 @@ namespace tamrel::checks {
 
 void check_report(const Erst& e, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("ErstelltAm", e.ErstelltAm);
     const FieldChecks v = c.within("Vorgang");
     check_person(v, e.Vorgang);
     check_employer(v, e.Vorgang.Arbeitgeber);

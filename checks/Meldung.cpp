@@ -36,6 +36,7 @@ bool ends_period(int r) { return (r >= 30 && r <= 36) || r == 40 || (r >= 49 && 
 
 void check_report(const Meldung& m, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("Zeitpunkt", m.Zeitpunkt);
     const std::string_view reason = m.Meldegrund;
     const std::string_view entry = reason_entry(reason);
     const int code = reason_code(reason);

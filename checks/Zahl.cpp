@@ -9,6 +9,7 @@ namespace tamrel::checks {
 
 void check_report(const Zahl& z, Findings& f) {
     const FieldChecks c(f);
+    c.creation_date("ErstelltAm", z.ErstelltAm);
     const FieldChecks v = c.within("Vorgang");
     check_person(v, z.Vorgang);
     if (!z.Pseudonym) v.required("Versicherungsnummer", z.Vorgang.Versicherungsnummer);

@@ -37,6 +37,15 @@ void FieldChecks::digits(std::string_view name, std::string_view value, std::siz
     if (!value.empty() && !is_digits(value, width)) add(kDigits, name, value);
 }
 
+void FieldChecks::number(std::string_view name, std::string_view value, std::size_t width) const {
+    if (!value.empty() && value.size() <= width) digits(name, value, value.size());
+    key(name, value, width);
+}
+
+void FieldChecks::creation_date(std::string_view name, std::string_view value) const {
+    if (!value.empty() && !is_date(value)) add(kCreationDate, name, value);
+}
+
 void FieldChecks::one_of(std::string_view name, std::string_view value, std::initializer_list<std::string_view> keys,
                          const Rule& rule) const {
     if (value.empty()) return;

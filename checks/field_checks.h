@@ -24,6 +24,12 @@ struct DateMember {
     std::string Block::*member;
 };
 template <class Block>
+struct NumberMember {
+    std::string_view name;
+    std::string Block::*member;
+    std::size_t width;
+};
+template <class Block>
 struct AmountMember {
     std::string_view name;
     std::string Block::*member;
@@ -53,6 +59,11 @@ public:
     void decimal_amount(std::string_view name, std::string_view value, std::size_t integers, std::size_t decimals,
                         bool sign) const;
     void digits(std::string_view name, std::string_view value, std::size_t width) const;
+    // A numeric field's value: digits, no more than `width` of them.
+    void number(std::string_view name, std::string_view value, std::size_t width) const;
+    // The creation date a record's time stamp is made of: empty (the date
+    // of the run) or YYYYMMDD.
+    void creation_date(std::string_view name, std::string_view value) const;
     void one_of(std::string_view name, std::string_view value, std::initializer_list<std::string_view> keys,
                 const Rule& rule) const;
     // Longer than `width` characters: a text is cut (a warning), a key is wrong.
@@ -61,6 +72,10 @@ public:
     template <class Block>
     void dates(const Block& b, std::initializer_list<DateMember<Block>> fields) const {
         for (const auto& f : fields) date(f.name, b.*f.member);
+    }
+    template <class Block>
+    void numbers(const Block& b, std::initializer_list<NumberMember<Block>> fields) const {
+        for (const auto& f : fields) number(f.name, b.*f.member, f.width);
     }
     // Unsigned amounts.
     template <class Block>

@@ -28,6 +28,8 @@ inline constexpr Rule kBnrCheckDigit{"BNR-CHECKDIGIT", E, "Betriebsnummer: Prüf
 
 // Dates, periods, amounts, keys, presence
 inline constexpr Rule kDate{"DATE", E, "kein gültiges Datum (JJJJMMTT)", "not a calendar date (YYYYMMDD)"};
+inline constexpr Rule kCreationDate{"CREATION-DATE", E, "Erstellungsdatum: leer oder JJJJMMTT erwartet",
+                                    "creation date: expected empty or YYYYMMDD"};
 inline constexpr Rule kMonth{"MONTH", E, "kein gültiger Monat (JJJJMM)", "not a month (YYYYMM)"};
 inline constexpr Rule kPeriod{"PERIOD", E, "Beginn liegt nach dem Ende", "the start is after the end"};
 inline constexpr Rule kAmountChars{
@@ -94,6 +96,7 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,
                                          &kBnrForm,
                                          &kBnrCheckDigit,
                                          &kDate,
+                                         &kCreationDate,
                                          &kMonth,
                                          &kPeriod,
                                          &kAmountChars,

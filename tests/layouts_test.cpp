@@ -12,6 +12,7 @@
 #include <set>
 #include <sstream>
 
+#include "checks/field_kinds.h"
 #include "checks/line_walk.h"
 #include "checks/record_layouts.h"
 #include "checks/transfer_file.h"
@@ -101,7 +102,7 @@ std::string encoded(const FieldLayout& f, const nlohmann::json& v) {
 
 TEST(Layouts, AgreeWithTheDataRecordBuilders) {
     constexpr int kVariants = 250;
-    int records = 0;
+    int records = 0, clean_records = 0;
     for (const auto& e : tamrel::testing::example_jobs()) {
         if (e.info->xml()) continue;
         tamrel::testing::Mutator mutate(static_cast<unsigned>(std::hash<std::string>{}(e.path.filename().string())));
@@ -111,6 +112,14 @@ TEST(Layouts, AgreeWithTheDataRecordBuilders) {
                 const nlohmann::json r = call(tamrel::testing::gen_data_request(e, variant));
                 if (!r.contains("result")) continue;
                 ++records;
+                // What passes the data checks makes a record that passes the file checks.
+                const nlohmann::json checked = call({{"class", std::string(e.info->cls)},
+                                                     {"method", "Check"},
+                                                     {"args", {{std::string(e.info->objParam), variant}}}});
+                ASSERT_TRUE(checked.contains("out")) << checked.dump();
+                bool clean = true;
+                for (const auto& f : checked["out"]["findings"]) clean &= f["severity"] != "error";
+                clean_records += clean;
                 const std::u32string line = tamrel::testing::chars(r["result"].get<std::string>());
                 const std::string where = e.path.filename().string() + " variant " + std::to_string(v);
                 const RecordLayout* layout = checks::find_layout(line);
@@ -123,6 +132,10 @@ TEST(Layouts, AgreeWithTheDataRecordBuilders) {
                             const std::string text = checks::to_utf8(checks::slice(line, p, f));
                             const std::string field =
                                 std::string(layout->id) + "/" + std::string(p.layout->id) + " " + std::string(f.name);
+                            if (const checks::Rule* rule =
+                                    clean ? checks::fault(checks::slice(line, p, f), f) : nullptr)
+                                ADD_FAILURE() << rule->id << " in " << field << " \"" << text
+                                              << "\" of a checked report, " << where << ": " << variant.dump();
                             if (f.kind == FieldKind::Literal) {
                                 EXPECT_EQ(text, f.literal) << field << ", " << where;
                                 continue;
@@ -138,6 +151,7 @@ TEST(Layouts, AgreeWithTheDataRecordBuilders) {
         }
     }
     EXPECT_GT(records, 3000);
+    EXPECT_GT(clean_records, 50);
 }
 
 // A value of the field's kind that shows in the field.
