@@ -2,7 +2,7 @@
 // it; the contact block DBAP follows where it holds data.
 #pragma once
 #include "core/layout.h"
-#include "queries/uv_layouts.h"
+#include "core/accident_insurance_layouts.h"
 
 namespace tamrel::layouts::uv {
 using layout::lit;

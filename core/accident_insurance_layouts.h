@@ -1,5 +1,5 @@
-// What the accident-insurance records DSAS and DSLN share: their first 65
-// positions, and the contact-person block DBAP (core/contact_block.cpp
+// What the accident-insurance records DSAS and DSLN share: their first
+// 65 positions, and the contact-person block DBAP (core/contact_block.cpp
 // builds it).
 #pragma once
 #include "core/common_layouts.h"
