@@ -1,5 +1,7 @@
 #include "cli/commands.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -118,7 +120,8 @@ int run(int argc, char** argv) {
     }
     if (*checkCmd) return check_file(checkFile);
     if (*inspectCmd) return inspect_file(inspectFile, inspectJson, inspectRecord);
-    return generate(go);
+    go.progress = isatty(STDERR_FILENO);
+    return generate(go, [](const std::string& line) { std::cerr << line << '\n'; });
 }
 
 }  // namespace tamrel::cli

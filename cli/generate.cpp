@@ -3,8 +3,6 @@
 // outcome into the exit code.
 #include "cli/generate.h"
 
-#include <unistd.h>
-
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -70,7 +68,7 @@ std::string finding_line(std::size_t report, std::size_t line, const checks::Fin
 }
 
 // Temporary files of tamrel runs that were killed, in the outputs' folders.
-void sweep(const Outputs& outputs) {
+void sweep(const Outputs& outputs, const Say& say) {
     std::set<std::string> folders;
     for (const OutputTarget* t : {&outputs.transfer, outputs.protocol ? &*outputs.protocol : nullptr})
         if (t && t->is_file()) {
@@ -78,19 +76,42 @@ void sweep(const Outputs& outputs) {
             folders.insert(parent.empty() ? "." : parent);
         }
     for (const std::string& folder : folders)
-        for (const std::string& note : sweep_leftovers(folder)) std::cerr << "tamrel generate: " << note << '\n';
+        for (const std::string& note : sweep_leftovers(folder)) say("tamrel generate: " + note);
+}
+
+// Writes the transfer file and the protocol to their atomic files, or to
+// memory; returns what was written.
+TransferCounts write_outputs(const GenerateOptions& o, const Outputs& outputs, const Job& job, ReportSource& source,
+                             const TransferSettings& settings) {
+    if (o.outputText) {
+        StringSink out, proto;
+        const bool protocol = o.protocolText && !job.procedure->protoMethod.empty();
+        const TransferCounts counts = write_transfer(job, source, settings, out, protocol ? &proto : nullptr);
+        *o.outputText = std::move(out.text);
+        if (protocol) *o.protocolText = std::move(proto.text);
+        return counts;
+    }
+    FileSink out(outputs.transfer);
+    std::unique_ptr<FileSink> proto;
+    if (outputs.protocol) proto = std::make_unique<FileSink>(*outputs.protocol);
+    const TransferCounts counts = write_transfer(job, source, settings, out, proto.get());
+    if (proto)
+        commit_all({&out.file(), &proto->file()});
+    else
+        commit_all({&out.file()});
+    return counts;
 }
 
 }  // namespace
 
-int generate(const GenerateOptions& o) {
+int generate(const GenerateOptions& o, const Say& say) {
     auto started = std::chrono::steady_clock::now();
     Job job;
     auto enc = parse_encoding(o.encoding);
     std::ifstream reports_file;
     Outputs outputs;
     try {
-        job = read_job(o.job);
+        job = o.jobText.empty() ? read_job(o.job) : parse_job_text(o.jobText, o.job, o.folder);
         if (!enc) throw std::runtime_error(std::string("--encoding: expected ") + kEncodingSpellings);
         if (!o.protocol.empty() && job.procedure->protoMethod.empty())
             throw std::runtime_error("--protocol: " + std::string(job.procedure->cls) + " has no protocol line");
@@ -101,67 +122,65 @@ int generate(const GenerateOptions& o) {
             reports_file.open(file, std::ios::binary);
             if (!reports_file) throw std::runtime_error(file + ": cannot be read: " + std::strerror(errno));
         }
-        std::vector<std::string> inputs{o.job};
-        if (!file.empty()) inputs.push_back(file);
-        outputs = resolve_outputs(o, inputs);
+        if (!o.outputText) {
+            std::vector<std::string> inputs;
+            if (o.jobText.empty()) inputs.push_back(o.job);
+            if (!file.empty()) inputs.push_back(file);
+            outputs = resolve_outputs(o, inputs);
+        }
     } catch (const std::exception& e) {
-        std::cerr << "tamrel generate: " << e.what() << '\n';
+        say(std::string("tamrel generate: ") + e.what());
         return 2;
     }
-    sweep(outputs);
+    if (!o.outputText) sweep(outputs, say);
     ReportSource source = reports_file.is_open() ? ReportSource(reports_file) : ReportSource(job.reports);
 
-    const bool tty = isatty(STDERR_FILENO);
     TransferSettings settings;
     settings.encoding = *enc;
     settings.crlf = o.crlf;
     settings.keepGoing = o.keepGoing;
     settings.transliterate = o.transliterate;
-    settings.leftOut = [](const ReportFailure& f) { std::cerr << "tamrel generate: " << f.what() << " (left out)\n"; };
-    settings.note = [](const std::string& n) { std::cerr << "tamrel generate: " << n << '\n'; };
+    settings.leftOut = [&say](const ReportFailure& f) {
+        say(std::string("tamrel generate: ") + f.what() + " (left out)");
+    };
+    settings.note = [&say](const std::string& n) { say("tamrel generate: " + n); };
     settings.check = !o.noCheck;
     std::ofstream findings;
     if (!o.findings.empty()) {
         findings.open(o.findings, std::ios::binary | std::ios::trunc);
         if (!findings) {
-            std::cerr << "tamrel generate: --findings " << o.findings << ": cannot be written: " << std::strerror(errno)
-                      << '\n';
+            say("tamrel generate: --findings " + o.findings + ": cannot be written: " + std::strerror(errno));
             return 2;
         }
     }
     // Warnings are told here; an error fails its report, which says why.
-    settings.finding = [&findings](std::size_t report, std::size_t line, const checks::Finding& f) {
+    settings.finding = [&findings, &say](std::size_t report, std::size_t line, const checks::Finding& f) {
         if (f.rule->severity == checks::Severity::Warning)
-            std::cerr << "tamrel generate: " << (report ? "report " + std::to_string(report) : std::string("header"))
-                      << ": " << checks::describe(f) << '\n';
+            say("tamrel generate: " + (report ? "report " + std::to_string(report) : std::string("header")) + ": " +
+                checks::describe(f));
         if (findings.is_open()) findings << finding_line(report, line, f) << '\n';
     };
-    if (tty)
+    if (o.progress)
         settings.progress = [](std::size_t n) { std::cerr << "\rtamrel generate: " << n << " reports" << std::flush; };
 
     TransferCounts counts;
     try {
-        FileSink out(outputs.transfer);
-        std::unique_ptr<FileSink> proto;
-        if (outputs.protocol) proto = std::make_unique<FileSink>(*outputs.protocol);
-        counts = write_transfer(job, source, settings, out, proto.get());
-        if (proto)
-            commit_all({&out.file(), &proto->file()});
-        else
-            commit_all({&out.file()});
+        counts = write_outputs(o, outputs, job, source, settings);
     } catch (const ReportFailure& f) {
-        std::cerr << "tamrel generate: " << f.what() << "\ntamrel generate: no file written\n";
+        say(std::string("tamrel generate: ") + f.what());
+        say("tamrel generate: no file written");
         return 1;
     } catch (const std::exception& e) {
-        std::cerr << "tamrel generate: " << e.what() << "\ntamrel generate: no file written\n";
+        say(std::string("tamrel generate: ") + e.what());
+        say("tamrel generate: no file written");
         return 4;
     }
-    if (tty && counts.written + counts.failed >= 100000) std::cerr << '\n';
+    if (o.progress && counts.written + counts.failed >= 100000) std::cerr << '\n';
     double secs = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
     char summary[160];
-    std::snprintf(summary, sizeof summary, "tamrel generate: %zu reports written, %zu failed, %.2f s\n", counts.written,
+    std::snprintf(summary, sizeof summary, "tamrel generate: %zu reports written, %zu failed, %.2f s", counts.written,
                   counts.failed, secs);
-    std::cerr << summary;
+    say(summary);
     return counts.failed ? 3 : 0;
 }
 

@@ -61,18 +61,24 @@ void read_values(Job& job, const json& j, const std::string& path) {
 }  // namespace
 
 Job read_job(const std::string& path) {
-    const std::string text = read_job_text(path);
+    return parse_job_text(read_job_text(path), path, std::filesystem::path(path).parent_path().string());
+}
+
+Job parse_job_text(const std::string& text, const std::string& name, const std::string& folder) {
+    if (text.size() > kMaxJobBytes)
+        throw std::runtime_error(name + ": more than the " + std::to_string(kMaxJobBytes) +
+                                 " bytes a job may hold; give the reports as an NDJSON reports_file");
     json j;
     try {
         j = parse_bounded(text);
     } catch (const json::exception& e) {
-        throw std::runtime_error(path + ": not valid JSON: " + e.what());
+        throw std::runtime_error(name + ": not valid JSON: " + e.what());
     } catch (const DuplicateKey& e) {
-        throw std::runtime_error(path + ": " + e.what());
+        throw std::runtime_error(name + ": " + e.what());
     } catch (const json_binding::RequestError& e) {
-        throw std::runtime_error(path + ": " + e.what() + "; give the reports as an NDJSON reports_file");
+        throw std::runtime_error(name + ": " + e.what() + "; give the reports as an NDJSON reports_file");
     }
-    return parse_job(j, path, std::filesystem::path(path).parent_path().string());
+    return parse_job(j, name, folder);
 }
 
 Job parse_job(const json& j, const std::string& path, const std::string& folder) {

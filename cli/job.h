@@ -27,6 +27,9 @@ inline constexpr std::uintmax_t kMaxJobBytes = std::uintmax_t{16} << 20;
 
 // Reads and checks a job file; throws std::runtime_error with a clear message.
 Job read_job(const std::string& path);
+// A job given as JSON text, named `name` in the messages; a relative
+// reports_file is resolved against `folder`.
+Job parse_job_text(const std::string& text, const std::string& name, const std::string& folder);
 // Checks a parsed job; `name` prefixes the messages, a relative reports_file
 // is resolved against `folder`.
 Job parse_job(const nlohmann::json& j, const std::string& name, const std::string& folder);

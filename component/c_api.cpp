@@ -19,6 +19,10 @@ extern "C" char* tamrel_call(const char* request_json) {
     }
 }
 
-extern "C" void tamrel_free(char* response) { std::free(response); }
+extern "C" void tamrel_free(char* text) { std::free(text); }
 
 extern "C" const char* tamrel_version(void) { return tamrel::kVersionText; }
+
+extern "C" int tamrel_version_number(void) {
+    return TAMREL_VERSION_MAJOR * 10000 + TAMREL_VERSION_MINOR * 100 + TAMREL_VERSION_PATCH;
+}
