@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs, builds and runs the whole test suite: once in a Release build,
-# once under AddressSanitizer and UndefinedBehaviorSanitizer, then the COM
+# once under AddressSanitizer and UndefinedBehaviorSanitizer, the thread
+# tests under ThreadSanitizer, the installed library's consumers, then the COM
 # server under wine (scripts/com-test.sh) and the fuzzers for half a minute
 # each (scripts/fuzz.sh).
 set -euo pipefail
@@ -13,6 +14,12 @@ ctest --test-dir build --output-on-failure -j"$jobs"
 cmake -S . -B build-san -DCMAKE_BUILD_TYPE=Debug -DTAMREL_SANITIZE=ON >/dev/null
 cmake --build build-san -j"$jobs"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 ctest --test-dir build-san --output-on-failure -j"$jobs"
+# Many threads at once through the C interface and the generator classes.
+cmake -S . -B build-tsan -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=-O1 -DTAMREL_TSAN=ON >/dev/null
+cmake --build build-tsan -j"$jobs" --target tamrel_tests tamrel
+TSAN_OPTIONS=halt_on_error=1 build-tsan/tests/tamrel_tests --gtest_filter='Threads.*'
+# The installed library, its consumers and its Debian packages.
+scripts/install-test.sh build
 # The COM server, built for Windows and tested under wine.
 scripts/com-test.sh
 # The fuzzers, each for a bounded time under the same sanitizers.
