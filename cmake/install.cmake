@@ -53,6 +53,18 @@ write_basic_package_version_file(${CMAKE_BINARY_DIR}/tamrelConfigVersion.cmake C
 install(FILES ${CMAKE_BINARY_DIR}/tamrelConfig.cmake ${CMAKE_BINARY_DIR}/tamrelConfigVersion.cmake
   DESTINATION ${TAMREL_CONFIG_DIR} COMPONENT dev)
 
+# The Python module: beside the library in the build folder, and installed
+# where Debian's python3 finds it, each knowing where the library is.
+set(TAMREL_PYTHON_DIR lib/python3/dist-packages/tamrel)
+configure_file(python/tamrel/__init__.py ${CMAKE_BINARY_DIR}/python/tamrel/__init__.py COPYONLY)
+file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/python/tamrel/_library.py
+  CONTENT "LIBRARY = \"$<TARGET_FILE_DIR:tamrel_shared>/libtamrel.so.${PROJECT_VERSION_MAJOR}\"\n")
+file(RELATIVE_PATH TAMREL_PYTHON_TO_LIB /prefix/${TAMREL_PYTHON_DIR} /prefix/${CMAKE_INSTALL_LIBDIR})
+file(WRITE ${CMAKE_BINARY_DIR}/python-install/_library.py
+  "LIBRARY = \"${TAMREL_PYTHON_TO_LIB}/libtamrel.so.${PROJECT_VERSION_MAJOR}\"\n")
+install(FILES python/tamrel/__init__.py ${CMAKE_BINARY_DIR}/python-install/_library.py
+  DESTINATION ${TAMREL_PYTHON_DIR} COMPONENT runtime)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tamrel)
 set(CPACK_PACKAGE_VENDOR tamrel)

@@ -2,7 +2,8 @@
 # Installs the built library into a fresh prefix and builds the consumers of
 # examples/library against it: the C program through pkg-config (shared and
 # static), the C++ program through find_package; each must run and write
-# the records it should. Then the Debian packages are made and listed.
+# the records it should, and Python imports the installed module. Then the
+# Debian packages are made and listed.
 # Usage: scripts/install-test.sh BUILD_DIR
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -31,6 +32,10 @@ cmake --build "$work/cpp" >/dev/null
 LD_LIBRARY_PATH=$libdir "$work/cpp/registration" >"$work/cpp.txt"
 [ "$(wc -l <"$work/cpp.txt")" -eq 4 ] && grep -q '^DSMEDEUEV98765432' "$work/cpp.txt"
 
+# Python, from the installed module.
+PYTHONPATH=$(dirname "$(find "$prefix" -path '*/tamrel/_library.py')")/.. python3 -c \
+  'import tamrel, sys; sys.exit(tamrel.version() != "1.0.0")'
+
 # Only the C interface and the C++ API leave the shared library.
 extra=$(nm -D --defined-only "$libdir"/libtamrel.so | c++filt | grep -vE ' (tamrel_|tamrel::|typeinfo|vtable|TAMREL_1)' || true)
 if [ -n "$extra" ]; then
@@ -44,4 +49,4 @@ objdump -p "$libdir"/libtamrel.so | grep -q 'SONAME *libtamrel.so.1$'
 (cd "$build" && cpack -G DEB -B "$work/deb" >/dev/null)
 dpkg-deb -c "$work"/deb/tamrel_*.deb | grep 'usr/bin/tamrel$' >/dev/null
 dpkg-deb -c "$work"/deb/libtamrel-dev_*.deb | grep 'usr/include/tamrel/c_api.h$' >/dev/null
-echo "install-test: C (shared, static) and C++ consumers built and run; packages tamrel and libtamrel-dev made"
+echo "install-test: C (shared, static), C++ and Python consumers built and run; packages tamrel and libtamrel-dev made"
