@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -15,6 +16,7 @@
 #include "cli/line_reader.h"
 #include "cli/output_encoding.h"
 #include "component/call_protocol.h"
+#include "component/reference_docs.h"
 #include "component/json_limits.h"
 #include "core/version.h"
 
@@ -41,7 +43,21 @@ int call_stream(std::istream& in, bool numbered) {
     return any_request_error ? 2 : 0;
 }
 
-constexpr const char* kSubcommands[] = {"call", "generate", "check", "inspect"};
+// Writes the reference documentation below `dir`.
+int write_docs(const std::string& dir) {
+    for (const auto& [name, text] : reference_docs()) {
+        const std::filesystem::path path = std::filesystem::path(dir) / name;
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream out(path, std::ios::binary | std::ios::trunc);
+        if (!(out << text)) {
+            std::cerr << "tamrel docs: " << path.string() << ": cannot be written: " << std::strerror(errno) << '\n';
+            return 4;
+        }
+    }
+    return 0;
+}
+
+constexpr const char* kSubcommands[] = {"call", "generate", "check", "inspect", "docs"};
 
 // A first word that is no option and no subcommand is a typo: said so,
 // with the subcommands there are.
@@ -102,6 +118,10 @@ int run(int argc, char** argv) {
     inspectCmd->add_flag("--json", inspectJson, "One JSON object per field (NDJSON) instead of a table");
     inspectCmd->add_option("--record", inspectRecord, "Only this record (1 for the first)");
 
+    auto* docsCmd = app.add_subcommand("docs", "Write the reference documentation (call protocol, data objects)");
+    std::string docsDir = "docs";
+    docsCmd->add_option("DIR", docsDir, "Folder to write into (default: docs)");
+
     if (unknown_subcommand(argc, argv)) return 2;
     try {
         app.parse(argc, argv);
@@ -119,6 +139,7 @@ int run(int argc, char** argv) {
         return call_stream(in, numbered);
     }
     if (*checkCmd) return check_file(checkFile);
+    if (*docsCmd) return write_docs(docsDir);
     if (*inspectCmd) return inspect_file(inspectFile, inspectJson, inspectRecord);
     go.progress = isatty(STDERR_FILENO);
     return generate(go, [](const std::string& line) { std::cerr << line << '\n'; });

@@ -10,6 +10,7 @@
 
 #include "component/call_registry.h"
 #include "component/procedure.h"
+#include "component/property_list.h"
 #include "component/shared_bindings.h"
 #include "component/typed_runner.h"
 #include "protocol/clsProtoEntry.h"
@@ -98,6 +99,7 @@ constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view ob
     if constexpr (!std::is_same_v<decltype(Proto), std::nullptr_t>)
         d.CreateProto = &describing::create_proto<Obj, Proto>;
     d.Check = &describing::check<Obj>;
+    d.Properties = &properties<Obj>;
     d.runner = &describing::runner<Gen, Obj, D, Proto>;
     return d;
 }

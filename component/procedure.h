@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/date.h"
 #include "core/host.h"
@@ -18,6 +19,7 @@ namespace tamrel {
 class Invocation;
 class ReportRunner;
 struct RunnerSettings;
+struct PropertyRow;
 
 // The parameter lists of the frame methods, one per family of classes.
 enum class FrameForm {
@@ -60,6 +62,8 @@ struct ProcedureDescriptor {
     std::string (*CreateProto)(const ProcedureDescriptor&, Invocation&) = nullptr;  // nullptr without protoMethod
     // The checks of the data object, as the call protocol's method "Check".
     std::string (*Check)(const ProcedureDescriptor&, Invocation&) = nullptr;
+    // Every property of the data object, for the reference documentation.
+    std::vector<PropertyRow> (*Properties)() = nullptr;
     // The runner that turns report after report into its record.
     std::unique_ptr<ReportRunner> (*runner)(const ProcedureDescriptor&, const RunnerSettings&) = nullptr;
 

@@ -15,6 +15,7 @@
 #include <nlohmann/json.hpp>
 
 #include "component/c_api.h"
+#include "component/reference_docs.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 #include "tests/example_jobs.h"
 
@@ -190,6 +191,19 @@ TEST(Threads, GeneratorsOwnAndSharedAnswerAsFromOne) {
         });
     for (auto& t : threads) t.join();
     EXPECT_EQ(mismatches.load(), 0);
+}
+
+}  // namespace
+
+namespace {
+
+// The reference documentation in docs/ is what `tamrel docs` makes now: the
+// call table, the binding tables, the layouts and the checks it is made of
+// have not moved on without it, and its examples answer as written.
+TEST(ReferenceDocs, AreCurrent) {
+    for (const auto& [name, text] : tamrel::reference_docs())
+        EXPECT_EQ(slurp(fs::path(TAMREL_SOURCE_DIR) / "docs" / name), text)
+            << "docs/" << name << " is out of date: run `build/tamrel docs docs`";
 }
 
 }  // namespace

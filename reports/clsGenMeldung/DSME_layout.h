@@ -18,7 +18,7 @@ inline constexpr FieldLayout kDBMEFields[] = {
     {"Statuskennzeichen", 25, 1, FieldKind::An},
     {"Entgelt", 26, 6, FieldKind::N},
     {"Beitragsgruppe1-4", 32, 4, FieldKind::N},
-    {"activity key (SchluesselNeu1, 3, 2 or SchluesselAlt1-5)", 36, 9, FieldKind::An},
+    {"activity key (SchluesselNeu1, SchluesselNeu3, SchluesselNeu2, or SchluesselAlt1-5)", 36, 9, FieldKind::An},
     {"Vorgang.Arbeitgeber.Kennzeichen", 45, 1, FieldKind::An},
     {"Sonderkennzeichen", 46, 1, FieldKind::Flag},
     {"reserve", 47, 1, FieldKind::N},
