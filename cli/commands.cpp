@@ -16,8 +16,8 @@
 #include "cli/line_reader.h"
 #include "cli/output_encoding.h"
 #include "component/call_protocol.h"
-#include "component/reference_docs.h"
 #include "component/json_limits.h"
+#include "component/reference_docs.h"
 #include "core/version.h"
 
 namespace tamrel::cli {

@@ -29,7 +29,9 @@ GenerateOptions options_of(const char* job_json, const char* options_json) {
     if (!options_json || !*options_json) return o;
     const nlohmann::json j = nlohmann::json::parse(options_json, nullptr, false);
     if (!j.is_object()) throw std::runtime_error("options: expected a JSON object");
-    for (const auto& [key, value] : j.items()) {
+    for (const auto& item : j.items()) {
+        const std::string& key = item.key();
+        const nlohmann::json& value = item.value();
         auto text = [&](std::string& to) {
             if (!value.is_string()) throw std::runtime_error("options: \"" + key + "\" expects a text");
             to = value.get<std::string>();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "component/call_fast.h"
 #include "component/call_registry.h"
 #include "component/json_limits.h"
 #include "core/error.h"
@@ -136,6 +137,14 @@ ordered_json call(const json& request) {
 }
 
 std::string call_line(std::string_view line, bool& request_error) {
+    if (std::optional<std::string> fast = fast_call_line(line)) {
+        request_error = false;
+        return std::move(*fast);
+    }
+    return call_line_general(line, request_error);
+}
+
+std::string call_line_general(std::string_view line, bool& request_error) {
     auto refuse = [&](std::string text) {
         request_error = true;
         ordered_json r = ordered_json::object();

@@ -1,5 +1,7 @@
 #include "component/call_registry.h"
 
+#include <algorithm>
+
 #include "component/procedure_methods.h"
 
 namespace tamrel {
@@ -7,52 +9,65 @@ namespace tamrel {
 using json_binding::fail;
 using json_binding::Path;
 
-namespace {
-const Path kArgs{nullptr, "args"};
+bool Invocation::has(std::string_view name) const {
+    if (args_) return args_->contains(name);
+    if (scanned_)
+        return std::any_of(scanned_->begin(), scanned_->end(), [&](const auto& a) { return a.first == name; });
+    return simd_.at_key(name).error() == simdjson::SUCCESS;
 }
 
 std::string Invocation::str(const char* name) const {
     std::string v;
-    json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, Path{&kArgs, name});
+    with_value(name, [&](const auto& value, const Path& path) { json_binding::read(value, v, path); });
     return v;
 }
 
 std::string Invocation::opt_str(const char* name) const {
-    if (!args_.contains(name)) return {};  // left out; null is not a String
+    if (!has(name)) return {};  // left out; null is not a String
     return str(name);
 }
 
 Date Invocation::date(const char* name) const {
-    if (!args_.contains(name) || args_.at(name).is_null()) return {};
-    const auto& j = args_.at(name);
-    const Path path{&kArgs, name};
-    if (!j.is_string()) fail(path, "expected a date text");
-    auto d = parse_iso_date(j.get_ref<const std::string&>());
-    if (!d) fail(path, "expected \"YYYY-MM-DD\" or \"YYYY-MM-DDTHH:MM:SS\"");
-    return *d;
+    if (!has(name)) return {};
+    Date d;
+    with_value(name, [&](const auto& value, const Path& path) {
+        if (value.is_null()) return;
+        if (!value.is_string()) fail(path, "expected a date text");
+        auto parsed = parse_iso_date(value.string());
+        if (!parsed) fail(path, "expected \"YYYY-MM-DD\" or \"YYYY-MM-DDTHH:MM:SS\"");
+        d = *parsed;
+    });
+    return d;
 }
 
 std::int32_t Invocation::verf(const char* name) const {
-    const auto& j = args_.at(name);
-    if (j.is_string()) {
-        const auto& s = j.get_ref<const std::string&>();
-        if (s == "vmNormal") return 0;
-        if (s == "vmSofort") return 1;
-        if (s == "vmBV") return 2;
-        fail(Path{&kArgs, name}, "expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\"");
-    }
-    return enm(name);
+    std::int32_t v = -1;
+    bool named = false;
+    with_value(name, [&](const auto& value, const Path& path) {
+        if (!value.is_string()) return;
+        named = true;
+        const std::string_view s = value.string();
+        if (s == "vmNormal")
+            v = 0;
+        else if (s == "vmSofort")
+            v = 1;
+        else if (s == "vmBV")
+            v = 2;
+        else
+            fail(path, "expected an integer or one of \"vmNormal\", \"vmSofort\", \"vmBV\"");
+    });
+    return named ? v : enm(name);
 }
 
 std::int32_t Invocation::enm(const char* name) const {
     std::int32_t v = 0;
-    json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, Path{&kArgs, name});
+    with_value(name, [&](const auto& value, const Path& path) { json_binding::read(value, v, path); });
     return v;
 }
 
 bool Invocation::boolean(const char* name) const {
     bool v = false;
-    json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, Path{&kArgs, name});
+    with_value(name, [&](const auto& value, const Path& path) { json_binding::read(value, v, path); });
     return v;
 }
 

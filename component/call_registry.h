@@ -10,14 +10,22 @@
 #include <nlohmann/json.hpp>
 
 #include "component/json_binding.h"
+#include "component/json_scan.h"
+#include "component/json_simd.h"
 #include "core/host.h"
 
 namespace tamrel {
 
-// One call's arguments, read strictly by name and type.
+// One call's arguments, read strictly by name and type, from a parsed
+// nlohmann document or from simdjson's DOM (the fast path of call_line).
 class Invocation {
 public:
-    Invocation(const nlohmann::json& args, const Host& host) : args_(args), host_(host) {}
+    Invocation(const nlohmann::json& args, const Host& host) : args_(&args), host_(host) {}
+    Invocation(simdjson::dom::object args, const Host& host) : simd_(args), host_(host) {}
+    // Arguments scanned from the text (json_scan.h): each name with where
+    // its value begins.
+    using Scanned = std::vector<std::pair<std::string_view, const char*>>;
+    Invocation(const Scanned& args, const Host& host) : scanned_(&args), host_(host) {}
 
     const Host& host() const { return host_; }
     std::string str(const char* name) const;      // String parameter
@@ -28,15 +36,37 @@ public:
     bool boolean(const char* name) const;
     template <class T>
     T object(std::string_view name) const {
-        static const json_binding::Path args{nullptr, "args"};
         T v{};
-        json_binding::read(json_binding::NlohmannValue{args_.at(name)}, v, json_binding::Path{&args, name});
+        with_value(name,
+                   [&](const auto& value, const json_binding::Path& path) { json_binding::read(value, v, path); });
         return v;
     }
     nlohmann::ordered_json& out() { return out_; }
 
 private:
-    const nlohmann::json& args_;
+    bool has(std::string_view name) const;
+    // Calls f(value, path) with the argument `name` through the adapter of
+    // the document it is in.
+    template <class F>
+    void with_value(std::string_view name, F&& f) const {
+        static const json_binding::Path args{nullptr, "args"};
+        const json_binding::Path path{&args, name};
+        if (args_) {
+            f(json_binding::NlohmannValue{args_->at(name)}, path);
+        } else if (scanned_) {
+            for (const auto& [key, start] : *scanned_)
+                if (key == name) {
+                    const char* at = start;
+                    f(json_binding::ScanValue{&at}, path);
+                }
+        } else {
+            f(json_binding::SimdValue{simd_.at_key(name).value_unsafe()}, path);
+        }
+    }
+
+    const nlohmann::json* args_ = nullptr;  // or, when null, scanned_ or simd_
+    const Scanned* scanned_ = nullptr;
+    simdjson::dom::object simd_;
     const Host& host_;
     nlohmann::ordered_json out_ = nlohmann::ordered_json::object();
 };

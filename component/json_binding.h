@@ -33,6 +33,7 @@ using json = nlohmann::json;
 // else) serve tamrel generate.
 struct NlohmannValue {
     const json& j;
+    bool is_null() const { return j.is_null(); }
     bool is_string() const { return j.is_string(); }
     std::string_view string() const { return j.get_ref<const std::string&>(); }
     bool is_bool() const { return j.is_boolean(); }

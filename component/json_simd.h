@@ -15,6 +15,7 @@ struct SimdValue {
     simdjson::dom::element e;
     using type = simdjson::dom::element_type;
 
+    bool is_null() const { return e.type() == type::NULL_VALUE; }
     bool is_string() const { return e.type() == type::STRING; }
     std::string_view string() const { return e.get_string().value_unsafe(); }
     bool is_bool() const { return e.type() == type::BOOL; }

@@ -36,10 +36,14 @@ struct is_indexed<Indexed<I>> : std::true_type {
 
 template <class M>
 std::string scalar() {
-    if constexpr (std::is_same_v<M, std::string>) return "text";
-    else if constexpr (std::is_same_v<M, bool>) return "Boolean";
-    else if constexpr (std::is_same_v<M, std::int16_t>) return "16-bit integer";
-    else return "32-bit integer";
+    if constexpr (std::is_same_v<M, std::string>)
+        return "text";
+    else if constexpr (std::is_same_v<M, bool>)
+        return "Boolean";
+    else if constexpr (std::is_same_v<M, std::int16_t>)
+        return "16-bit integer";
+    else
+        return "32-bit integer";
 }
 
 template <class T>

@@ -30,16 +30,11 @@ using nlohmann::json;
 const std::map<std::string_view, std::vector<const RecordLayout*>>& records_of() {
     using namespace layouts;
     static const std::map<std::string_view, std::vector<const RecordLayout*>> r = {
-        {"clsGenMeldung", {&meldung::kDSME}},
-        {"clsGenBeitrNachw", {&beitrnachw::kBW02, &beitrnachw::kBW03}},
-        {"clsGenBeitrErh", {&beitrerh::kDSBE}},
-        {"clsGenErst", {&erst::kDSER}},
-        {"clsGenZahl", {&zahl::kDSVZ}},
-        {"clsGenArbeitsBesch", {&bea::kDSAB, &bea::kDSEU, &bea::kDSNE}},
-        {"clsGenEntgelt", {&eel::kDSLW}},
-        {"clsGenBetrieb", {&betrieb::kDSBD}},
-        {"clsGenAbfrVers", {&abfrvers::kDSVV}},
-        {"clsGenAbfrStammdatenUV", {&uv::kDSAS}},
+        {"clsGenMeldung", {&meldung::kDSME}},   {"clsGenBeitrNachw", {&beitrnachw::kBW02, &beitrnachw::kBW03}},
+        {"clsGenBeitrErh", {&beitrerh::kDSBE}}, {"clsGenErst", {&erst::kDSER}},
+        {"clsGenZahl", {&zahl::kDSVZ}},         {"clsGenArbeitsBesch", {&bea::kDSAB, &bea::kDSEU, &bea::kDSNE}},
+        {"clsGenEntgelt", {&eel::kDSLW}},       {"clsGenBetrieb", {&betrieb::kDSBD}},
+        {"clsGenAbfrVers", {&abfrvers::kDSVV}}, {"clsGenAbfrStammdatenUV", {&uv::kDSAS}},
         {"clsGenLohnnachweis", {&uv::kDSLN}},
     };
     return r;
@@ -108,10 +103,9 @@ std::string joined(const std::set<std::string>& parts, std::string_view sep) {
 
 // The properties the checks find missing in an object of only `given`.
 std::set<std::string> missing(const ProcedureDescriptor& p, const json& given) {
-    const json r = json::parse(call({{"class", std::string(p.cls)},
-                                     {"method", "Check"},
-                                     {"args", {{std::string(p.objParam), given}}}})
-                                   .dump());
+    const json r = json::parse(
+        call({{"class", std::string(p.cls)}, {"method", "Check"}, {"args", {{std::string(p.objParam), given}}}})
+            .dump());
     std::set<std::string> out;
     for (const json& f : r["out"]["findings"])
         if (f["rule"] == "MISSING") out.insert(f["field"].get<std::string>());
@@ -161,16 +155,16 @@ std::string property_page(const ProcedureDescriptor& p) {
         for (std::size_t at; (at = key.find("[]")) != std::string::npos;) key.erase(at, 2);
         const auto f = fields.find(key);
         const auto req = required.find(key);
-        s << "| `" << r.path << "` | " << r.type << " | " << (f == fields.end() ? "" : places_text(f->second))
-          << " | " << (req == required.end() ? "" : req->second) << " |\n";
+        s << "| `" << r.path << "` | " << r.type << " | " << (f == fields.end() ? "" : places_text(f->second)) << " | "
+          << (req == required.end() ? "" : req->second) << " |\n";
     }
     return s.str();
 }
 
 // A parameter's type, from its name (and the class, for enmVerfahren).
 std::string parameter_type(std::string_view cls, std::string_view name) {
-    if (name.starts_with("obj")) return "data object [`" + std::string(name.substr(3)) + "`](properties/" +
-                                        std::string(name.substr(3)) + ".md)";
+    if (name.starts_with("obj"))
+        return "data object [`" + std::string(name.substr(3)) + "`](properties/" + std::string(name.substr(3)) + ".md)";
     if (name == "udtDSKOData") return "structure `DSKOData`";
     if (name == "udtDatensatzData") return "structure `DatensatzData`";
     if (name.starts_with("dat")) return "date";
@@ -234,15 +228,17 @@ a data object is an object of its properties ([properties/](properties/)).
         s << "### `" << cls << "`\n\n| method | parameters |\n| --- | --- |\n";
         for (const auto& [name, m] : methods) {
             std::string params;
-            for (const auto& r : m.required) params += (params.empty() ? "" : "; ") + ("`" + r + "` " + parameter_type(cls, r));
+            for (const auto& r : m.required)
+                params += (params.empty() ? "" : "; ") + ("`" + r + "` " + parameter_type(cls, r));
             for (const auto& o : m.optional)
                 params += (params.empty() ? "" : "; ") + ("`" + o + "` " + parameter_type(cls, o) + ", optional");
             s << "| `" << name << "` | " << params << " |\n";
         }
         s << "\n";
     }
-    const nlohmann::ordered_json dsko = {{"strBNRAb", "98765432"}, {"strBNREm", "12345671"}, {"strMicroSec", "000001"},
-                       {"strProdID", "TAMREL1"}, {"strModID", "DEUEV01"},   {"strName1", "Muster GmbH"}};
+    const nlohmann::ordered_json dsko = {{"strBNRAb", "98765432"},  {"strBNREm", "12345671"},
+                                         {"strMicroSec", "000001"}, {"strProdID", "TAMREL1"},
+                                         {"strModID", "DEUEV01"},   {"strName1", "Muster GmbH"}};
     s << "## Examples\n\nA frame record:\n\n"
       << example({{"class", "clsGenMeldung"},
                   {"method", "GenNCSZ"},
@@ -273,22 +269,21 @@ a data object is an object of its properties ([properties/](properties/)).
                       {"Beitragsgruppe3", "1"},
                       {"Beitragsgruppe4", "1"},
                       {"Vorgang",
-                       {{"Versicherungsnummer", "65170839J003"},
-                        {"Arbeitgeber", {{"Betriebsnummer", "98765432"}}}}},
+                       {{"Versicherungsnummer", "65170839J003"}, {"Arbeitgeber", {{"Betriebsnummer", "98765432"}}}}},
                       {"Empfaenger", {{"Betriebsnummer", "12345671"}}}}}}}})
       << "\nA method that fails (a negative amount where the record has no sign):\n\n"
       << example({{"class", "clsGenErst"},
                   {"method", "GenData"},
                   {"now", "2024-03-01T10:11:12"},
                   {"args",
-                   {{"objErst", {{"Erstattungsgrund", 11}, {"Betrag1", "-5"}}},
-                    {"udtDatensatzData", json::object()}}}})
+                   {{"objErst", {{"Erstattungsgrund", 11}, {"Betrag1", "-5"}}}, {"udtDatensatzData", json::object()}}}})
       << "\nA request that is not valid:\n\n"
-      << example({{"id", 7},
-                  {"class", "clsGenMeldung"},
-                  {"method", "GenData"},
-                  {"args", {{"objMeldung", {{"Laufnummer", "1"}}}, {"udtDatensatzData", json::object()},
-                            {"enmVerfahren", 0}}}});
+      << example(
+             {{"id", 7},
+              {"class", "clsGenMeldung"},
+              {"method", "GenData"},
+              {"args",
+               {{"objMeldung", {{"Laufnummer", "1"}}}, {"udtDatensatzData", json::object()}, {"enmVerfahren", 0}}}});
     return s.str();
 }
 
@@ -297,8 +292,7 @@ a data object is an object of its properties ([properties/](properties/)).
 std::map<std::string, std::string> reference_docs() {
     std::map<std::string, std::string> docs;
     docs["call-protocol.md"] = call_protocol_page();
-    for (const ProcedureDescriptor& p : procedures())
-        docs["properties/" + object_name(p) + ".md"] = property_page(p);
+    for (const ProcedureDescriptor& p : procedures()) docs["properties/" + object_name(p) + ".md"] = property_page(p);
     return docs;
 }
 

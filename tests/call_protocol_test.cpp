@@ -4,6 +4,8 @@
 
 #include "component/c_api.h"
 #include "component/call_protocol.h"
+#include "tests/example_jobs.h"
+#include "tests/mutator.h"
 
 using nlohmann::json;
 
@@ -151,3 +153,64 @@ TEST(CallProtocol, FrameCodesOfEveryClass) {
 #include "component/clsGenDef.h"
 
 static_assert(!std::is_default_constructible_v<tamrel::clsGenDef>, "clsGenDef cannot be created");
+
+namespace {
+
+// A request line answered by the fast path and by the general one (the
+// whole request parsed as one document) gives the same response, byte for
+// byte: for every example's GenData, protocol line and Check, for seeded
+// variants of every report (most of them errors or request errors), and
+// for lines the fast path must leave to the general one.
+TEST(CallProtocol, FastAndGeneralPathsAnswerTheSame) {
+    using nlohmann::json;
+    auto general = [](const std::string& line) {
+        bool request_error = false;
+        return tamrel::call_line_general(line, request_error);
+    };
+    auto fast = [](const std::string& line) {
+        bool request_error = false;
+        return tamrel::call_line(line, request_error);
+    };
+    std::vector<std::string> lines;
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        tamrel::testing::Mutator mutate(11);
+        for (const json& report : e.job["reports"]) {
+            for (int v = 0; v < 60; ++v) {
+                const json variant = v == 0 ? report : mutate.vary(report);
+                json request = tamrel::testing::gen_data_request(e, variant);
+                if (v % 3 == 1) request["id"] = v;
+                if (v % 3 == 2) request["id"] = "r\"" + std::to_string(v);
+                lines.push_back(request.dump());
+                if (!e.info->protoMethod.empty())
+                    lines.push_back(tamrel::testing::protocol_request(e, variant, v % 2 == 1, "Fehler\n1").dump());
+                lines.push_back(json{{"class", e.job["class"]},
+                                     {"method", "Check"},
+                                     {"args", {{std::string(e.info->objParam), variant}}}}
+                                    .dump());
+            }
+        }
+    }
+    // The frame request, its clock fixed where the line leaves it free.
+    const std::string frame = R"("now":"2024-03-01T00:00:00","class":"clsGenMeldung","method":"GenNCSZ",)"
+                              R"("args":{"strBNRAb":"1","strBNREm":"2",)"
+                              R"("strFileNr":"3","strCount":"4","enmVerfahren":"vmNormal")";
+    for (const std::string& odd : std::initializer_list<std::string>{
+             "{" + frame + "}}",
+             "{" + frame + ",\"strCount\":\"5\"}}",                          // a parameter given twice
+             "{" + frame + "},\"class\":\"clsGenMeldung\"}",                 // a request key given twice
+             "{" + frame + "},\"now\":\"2024-02-30T00:00:00\"}",             // "now" twice
+             "{" + frame + "},\"now\":\"2024-02-03T00:00:00\",\"id\":1.5}",  // "now" twice, an id that is no integer
+             "{" + frame + "},\"tests\":{\"NameTest\":[\"A\"]}}",
+             "{" + frame + ",\"colour\":1}}",
+             "{" + frame + "},\"colour\":1}",
+             "{\"class\":\"clsGenDef\",\"method\":\"GenData\",\"args\":{}}",
+             "{\"class\":\"clsGenMeldung\",\"method\":\"GenDSKO\",\"args\":{}}",
+             "{\"class\":\"clsGenMeldung\",\"method\":\"GenNCSZ\"}",
+             "[]",
+             "{\"id\":[1,{\"a\":2}]," + frame + "}}",
+         })
+        lines.push_back(odd);
+    for (const std::string& line : lines) EXPECT_EQ(fast(line), general(line)) << line;
+}
+
+}  // namespace

@@ -218,7 +218,9 @@ TEST(Layouts, EachNamedFieldShowsItsProperty) {
             fields.emplace_back(&f, p.item);
             named.emplace(&f, std::string(p.layout->id) + " " + std::string(f.name));
         });
-        for (const auto& [field, item] : fields) {
+        for (const auto& named_field : fields) {
+            const FieldLayout* field = named_field.first;
+            const std::size_t item = named_field.second;
             tamrel::testing::ExampleJob changed = e;
             nlohmann::json r = report;
             const nlohmann::json value =
