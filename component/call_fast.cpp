@@ -143,7 +143,7 @@ bool parse_now(std::string_view text, Parsed& p) {
 
 // Runs the method on the arguments that `invocation(host)` reads and writes
 // the response; nothing where a request error (or a value the reader gave
-// up on) leaves the request to another path.
+// up on) leaves the request to the general path.
 template <class MakeInvocation>
 std::optional<std::string> respond(const Parsed& p, MakeInvocation&& invocation) {
     std::vector<std::string> lines;
@@ -174,8 +174,6 @@ std::optional<std::string> respond(const Parsed& p, MakeInvocation&& invocation)
         out += ',';
     } catch (const json_binding::RequestError&) {
         return std::nullopt;
-    } catch (const json_binding::ScanMiss&) {
-        return std::nullopt;
     } catch (const Error& e) {
         out += "\"error\":{\"number\":" + std::to_string(e.number()) + ",\"source\":";
         if (!append_string(out, e.source())) return std::nullopt;
@@ -188,69 +186,7 @@ std::optional<std::string> respond(const Parsed& p, MakeInvocation&& invocation)
     return out;
 }
 
-// The request read by the scanner of json_scan.h, straight from the text:
-// plain JSON only (no escapes, no null, integers only).
-std::optional<std::string> scanned_call(std::string_view line) {
-    using json_binding::ScanValue;
-    if (line.find('\\') != std::string_view::npos || !simdjson::validate_utf8(line.data(), line.size()))
-        return std::nullopt;
-    thread_local std::string text;
-    text.assign(line);
-    text.append(json_binding::kScanPadding, '\0');
-    const char* at = text.data();
-    const ScanValue request{&at};
-    Parsed p;
-    std::string_view cls, name;
-    bool has_class = false, has_method = false, has_args = false;
-    Invocation::Scanned args;
-    try {
-        if (!request.is_object()) return std::nullopt;
-        request.each_member([&](std::string_view key, const ScanValue& v) {
-            auto text_of = [&](bool& seen) {
-                if (seen || !v.is_string()) ScanValue::miss();
-                seen = true;
-                return v.token();
-            };
-            if (key == "class") {
-                cls = text_of(has_class);
-            } else if (key == "method") {
-                name = text_of(has_method);
-            } else if (key == "now") {
-                bool seen = p.has_now;
-                if (!parse_now(text_of(seen), p)) ScanValue::miss();
-            } else if (key == "id" && p.id == Parsed::None) {
-                if (v.is_string()) {
-                    p.id = Parsed::Text, p.id_text = v.token();
-                } else {
-                    if (!v.is_integer() || !v.integer(INT64_MIN, INT64_MAX, p.id_integer)) ScanValue::miss();
-                    p.id = Parsed::Integer;
-                }
-            } else if (key == "args" && !has_args) {
-                has_args = true;
-                if (!v.is_object()) ScanValue::miss();
-                v.each_member([&](std::string_view arg, const ScanValue& value) {
-                    for (const auto& a : args)
-                        if (a.first == arg) ScanValue::miss();
-                    args.emplace_back(arg, *value.at);
-                    value.skip();
-                });
-            } else {
-                ScanValue::miss();  // "tests", a key given twice, or one that is a request error
-            }
-        });
-        if (request.peek() != '\0') return std::nullopt;  // text after the request
-    } catch (const json_binding::ScanMiss&) {
-        return std::nullopt;
-    }
-    if (!has_class || !has_method || !(p.method = find_method(cls, name))) return std::nullopt;
-    std::vector<std::string_view> names;
-    for (const auto& a : args) names.push_back(a.first);
-    if (!arguments_fit(*p.method, names)) return std::nullopt;
-    return respond(p, [&](const Host& host) { return Invocation(args, host); });
-}
-
-// The request read through simdjson's DOM: escapes, null and numbers of
-// every kind are read there.
+// The request read through simdjson's DOM.
 std::optional<std::string> document_call(std::string_view line) {
     // The line in a buffer with simdjson's padding, kept for the next line.
     thread_local simdjson::dom::parser parser;
@@ -306,7 +242,6 @@ std::optional<std::string> document_call(std::string_view line) {
 
 std::optional<std::string> fast_call_line(std::string_view line) {
     if (line.size() > kMaxLineBytes) return std::nullopt;
-    if (auto r = scanned_call(line)) return r;
     return document_call(line);
 }
 

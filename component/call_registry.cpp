@@ -1,7 +1,5 @@
 #include "component/call_registry.h"
 
-#include <algorithm>
-
 #include "component/procedure_methods.h"
 
 namespace tamrel {
@@ -10,10 +8,7 @@ using json_binding::fail;
 using json_binding::Path;
 
 bool Invocation::has(std::string_view name) const {
-    if (args_) return args_->contains(name);
-    if (scanned_)
-        return std::any_of(scanned_->begin(), scanned_->end(), [&](const auto& a) { return a.first == name; });
-    return simd_.at_key(name).error() == simdjson::SUCCESS;
+    return args_ ? args_->contains(name) : simd_.at_key(name).error() == simdjson::SUCCESS;
 }
 
 std::string Invocation::str(const char* name) const {

@@ -10,7 +10,6 @@
 #include <nlohmann/json.hpp>
 
 #include "component/json_binding.h"
-#include "component/json_scan.h"
 #include "component/json_simd.h"
 #include "core/host.h"
 
@@ -22,10 +21,6 @@ class Invocation {
 public:
     Invocation(const nlohmann::json& args, const Host& host) : args_(&args), host_(host) {}
     Invocation(simdjson::dom::object args, const Host& host) : simd_(args), host_(host) {}
-    // Arguments scanned from the text (json_scan.h): each name with where
-    // its value begins.
-    using Scanned = std::vector<std::pair<std::string_view, const char*>>;
-    Invocation(const Scanned& args, const Host& host) : scanned_(&args), host_(host) {}
 
     const Host& host() const { return host_; }
     std::string str(const char* name) const;      // String parameter
@@ -53,19 +48,12 @@ private:
         const json_binding::Path path{&args, name};
         if (args_) {
             f(json_binding::NlohmannValue{args_->at(name)}, path);
-        } else if (scanned_) {
-            for (const auto& [key, start] : *scanned_)
-                if (key == name) {
-                    const char* at = start;
-                    f(json_binding::ScanValue{&at}, path);
-                }
         } else {
             f(json_binding::SimdValue{simd_.at_key(name).value_unsafe()}, path);
         }
     }
 
-    const nlohmann::json* args_ = nullptr;  // or, when null, scanned_ or simd_
-    const Scanned* scanned_ = nullptr;
+    const nlohmann::json* args_ = nullptr;  // or, when null, simd_
     simdjson::dom::object simd_;
     const Host& host_;
     nlohmann::ordered_json out_ = nlohmann::ordered_json::object();

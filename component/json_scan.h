@@ -12,7 +12,6 @@
 // result or error, whichever path took it.
 #pragma once
 #include <bit>
-#include <climits>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -66,8 +65,6 @@ struct ScanValue {
         return {s, static_cast<std::size_t>(p - s)};
     }
 
-    // null is given up on where it is met (skip), so a value read is never null.
-    bool is_null() const { return false; }
     bool is_string() const { return peek() == '"'; }
     std::string_view string() const { return token(); }
     bool is_bool() const {
@@ -119,23 +116,6 @@ struct ScanValue {
             expect(':');
             f(key, ScanValue{at});
         });
-    }
-
-    // Passes over the value at the cursor (of the kinds the scanner reads).
-    void skip() const {
-        const char c = peek();
-        if (c == '"')
-            token();
-        else if (c == '{')
-            each_member([](std::string_view, const ScanValue& v) { v.skip(); });
-        else if (c == '[')
-            each_element([](const ScanValue& v) { v.skip(); });
-        else if (c == 't' || c == 'f')
-            boolean();
-        else {
-            std::int64_t ignored;
-            integer(INT64_MIN, INT64_MAX, ignored);
-        }
     }
 
     // The items of the array or object at the cursor, up to `close`, each
