@@ -45,6 +45,7 @@ struct NlohmannValue {
         return out >= lo && out <= hi;
     }
     bool is_array() const { return j.is_array(); }
+    std::size_t size() const { return j.size(); }
     template <class F>
     void each_element(F&& f) const {
         for (const auto& e : j) f(NlohmannValue{e});
@@ -111,6 +112,7 @@ template <class V, class T>
 void read(const V& v, Indexed<T>& out, const Path& path) {
     out.clear();
     if (v.is_array()) {
+        if constexpr (requires { v.size(); }) out.reserve(std::min<std::size_t>(v.size(), kMaxItems));
         std::int32_t i = 1;
         v.each_element([&](const V& e) {
             if (static_cast<std::size_t>(i) > kMaxItems) fail(path, "more than 32767 entries");

@@ -32,6 +32,10 @@ struct SimdValue {
         return out >= lo && out <= hi;
     }
     bool is_array() const { return e.type() == type::ARRAY; }
+    std::size_t size() const {
+        const simdjson::dom::array a = e.get_array().value_unsafe();
+        return a.size();
+    }
     template <class F>
     void each_element(F&& f) const {
         simdjson::dom::array a = e.get_array().value_unsafe();

@@ -54,6 +54,7 @@ public:
         return values_[k];
     }
     void clear() { values_.clear(); }
+    void reserve(std::size_t n) { values_.reserve(n); }
     bool empty() const { return values_.empty(); }
     // The smallest and largest index given (1 and 0 when none is).
     std::int16_t smallest() const { return values_.empty() ? 1 : first_; }
