@@ -1,8 +1,8 @@
 // The layout of the DSAS record, as GenDSAS.cpp builds it; the contact
 // block DBAP follows where it holds data.
 #pragma once
-#include "core/layout.h"
 #include "core/accident_insurance_layouts.h"
+#include "core/layout.h"
 
 namespace tamrel::layouts::uv {
 using layout::lit;
