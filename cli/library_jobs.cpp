@@ -1,23 +1,15 @@
 // The C interface's generate jobs: tamrel generate's run, its options given
 // as JSON and its messages collected instead of printed.
-#include <cstdlib>
-#include <cstring>
 #include <string>
 
 #include <nlohmann/json.hpp>
 
 #include "cli/generate.h"
 #include "component/c_api.h"
+#include "component/c_text.h"
 
 namespace tamrel::cli {
 namespace {
-
-// A copy the caller frees with tamrel_free; nullptr when memory runs out.
-char* copied(const std::string& s) {
-    char* out = static_cast<char*>(std::malloc(s.size() + 1));
-    if (out) std::memcpy(out, s.data(), s.size() + 1);
-    return out;
-}
 
 // The options of tamrel generate from their JSON form; throws
 // std::runtime_error naming the option at fault.
@@ -67,22 +59,22 @@ GenerateOptions options_of(const char* job_json, const char* options_json) {
     return o;
 }
 
-// Runs the job; `messages` receives what tamrel generate prints.
-int run(GenerateOptions& o, const char* job_json, const char* options_json, char** messages, bool memory) {
+// Runs the job, into files or (where `text` is given) into memory;
+// `messages` receives what tamrel generate prints.
+int run(const char* job_json, const char* options_json, char** messages, std::string* text, std::string* protocol) {
     std::string said;
     int code;
     try {
-        GenerateOptions given = options_of(job_json, options_json);
-        given.outputText = o.outputText;
-        given.protocolText = o.protocolText;
-        if (!memory && given.output.empty()) throw std::runtime_error("options: \"output\" is required");
-        o = std::move(given);
+        GenerateOptions o = options_of(job_json, options_json);
+        o.outputText = text;
+        o.protocolText = protocol;
+        if (!text && o.output.empty()) throw std::runtime_error("options: \"output\" is required");
         code = generate(o, [&said](const std::string& line) { said += line + "\n"; });
     } catch (const std::exception& e) {
         said += std::string("tamrel generate: ") + e.what() + "\n";
         code = 2;
     }
-    if (messages) *messages = copied(said);
+    if (messages) *messages = c_text(said);
     return code;
 }
 
@@ -90,20 +82,16 @@ int run(GenerateOptions& o, const char* job_json, const char* options_json, char
 }  // namespace tamrel::cli
 
 extern "C" int tamrel_generate(const char* job_json, const char* options_json, char** messages) {
-    tamrel::cli::GenerateOptions o;
-    return tamrel::cli::run(o, job_json, options_json, messages, false);
+    return tamrel::cli::run(job_json, options_json, messages, nullptr, nullptr);
 }
 
 extern "C" int tamrel_generate_memory(const char* job_json, const char* options_json, char** file,
                                       std::size_t* file_length, char** protocol, char** messages) {
     std::string text, proto;
-    tamrel::cli::GenerateOptions o;
-    o.outputText = &text;
-    o.protocolText = protocol ? &proto : nullptr;
-    const int code = tamrel::cli::run(o, job_json, options_json, messages, true);
+    const int code = tamrel::cli::run(job_json, options_json, messages, &text, protocol ? &proto : nullptr);
     const bool written = code == 0 || code == 3;
-    if (file) *file = written ? tamrel::cli::copied(text) : nullptr;
+    if (file) *file = written ? tamrel::c_text(text) : nullptr;
     if (file_length) *file_length = written ? text.size() : 0;
-    if (protocol) *protocol = written ? tamrel::cli::copied(proto) : nullptr;
+    if (protocol) *protocol = written ? tamrel::c_text(proto) : nullptr;
     return code;
 }

@@ -1,19 +1,16 @@
 #include "component/c_api.h"
 
 #include <cstdlib>
-#include <cstring>
 #include <string>
 
+#include "component/c_text.h"
 #include "component/call_protocol.h"
 #include "core/version.h"
 
 extern "C" char* tamrel_call(const char* request_json) {
     try {
         bool request_error = false;
-        std::string response = tamrel::call_line(request_json ? request_json : "", request_error);
-        char* out = static_cast<char*>(std::malloc(response.size() + 1));
-        if (out) std::memcpy(out, response.c_str(), response.size() + 1);
-        return out;
+        return tamrel::c_text(tamrel::call_line(request_json ? request_json : "", request_error));
     } catch (...) {
         return nullptr;
     }

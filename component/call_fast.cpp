@@ -1,7 +1,6 @@
 #include "component/call_fast.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>

@@ -1,14 +1,13 @@
 // Every property of a data object, walked from its binding table: its path
-// ("Vorgang.Arbeitgeber.PLZ", "DBSE[].STKL" for a list item's), its JSON
-// type, and whether the checks require it. The reference documentation is
-// made from it, so that it cannot drift from what the readers accept.
+// ("Vorgang.Arbeitgeber.PLZ", "DBSE[].STKL" for a list item's) and its JSON
+// type. The reference documentation is made from it, so that it cannot
+// drift from what the readers accept.
 #pragma once
 #include <cstdint>
 #include <string>
 #include <type_traits>
 #include <vector>
 
-#include "checks/checks.h"
 #include "component/json_binding.h"
 #include "core/indexed.h"
 

@@ -4,41 +4,17 @@
 #include <set>
 #include <sstream>
 
-#include "certificates/clsGenArbeitsBesch/DSAB_layout.h"
-#include "certificates/clsGenEntgelt/DSLW_layout.h"
+#include "checks/record_layouts.h"
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
 #include "component/procedure.h"
 #include "component/property_list.h"
-#include "queries/clsGenAbfrStammdatenUV/DSAS_layout.h"
-#include "queries/clsGenAbfrVers/DSVV_layout.h"
-#include "queries/clsGenBetrieb/DSBD_layout.h"
-#include "queries/clsGenLohnnachweis/DSLN_layout.h"
-#include "reports/clsGenBeitrErh/DSBE_layout.h"
-#include "reports/clsGenBeitrNachw/BW02_layout.h"
-#include "reports/clsGenErst/DSER_layout.h"
-#include "reports/clsGenMeldung/DSME_layout.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
-#include "reports/clsGenZahl/DSVZ_layout.h"
 
 namespace tamrel {
 namespace {
 
 using nlohmann::json;
-
-// The data records each class writes.
-const std::map<std::string_view, std::vector<const RecordLayout*>>& records_of() {
-    using namespace layouts;
-    static const std::map<std::string_view, std::vector<const RecordLayout*>> r = {
-        {"clsGenMeldung", {&meldung::kDSME}},   {"clsGenBeitrNachw", {&beitrnachw::kBW02, &beitrnachw::kBW03}},
-        {"clsGenBeitrErh", {&beitrerh::kDSBE}}, {"clsGenErst", {&erst::kDSER}},
-        {"clsGenZahl", {&zahl::kDSVZ}},         {"clsGenArbeitsBesch", {&bea::kDSAB, &bea::kDSEU, &bea::kDSNE}},
-        {"clsGenEntgelt", {&eel::kDSLW}},       {"clsGenBetrieb", {&betrieb::kDSBD}},
-        {"clsGenAbfrVers", {&abfrvers::kDSVV}}, {"clsGenAbfrStammdatenUV", {&uv::kDSAS}},
-        {"clsGenLohnnachweis", {&uv::kDSLN}},
-    };
-    return r;
-}
 
 // Where a property is written: a field of a record, block or entry, whole
 // or in part (made of it and other values).
@@ -56,6 +32,7 @@ using Places = std::map<std::string, std::set<Place>>;
 std::vector<std::pair<std::string, bool>> named(const std::string& name) {
     static const std::regex path(R"([A-Za-z][A-Za-z0-9]*(\.[A-Za-z][A-Za-z0-9]*)*)");
     static const std::regex item(R"(([A-Za-z][A-Za-z0-9.]*)\((\d+|i)\))");
+    static const std::regex capital("[A-Z]");
     static const std::regex range(R"(([A-Za-z.]*[A-Za-z])(\d)-(\d))");
     std::smatch m;
     if (std::regex_match(name, path)) return {{name, false}};
@@ -64,7 +41,7 @@ std::vector<std::pair<std::string, bool>> named(const std::string& name) {
     for (std::sregex_iterator r(name.begin(), name.end(), range), end; r != end; ++r)
         for (char d = (*r)[2].str()[0]; d <= (*r)[3].str()[0]; ++d) out.emplace_back((*r)[1].str() + d, true);
     for (std::sregex_iterator t(name.begin(), name.end(), path), end; t != end; ++t)
-        if (std::regex_search(t->str(), std::regex("[A-Z]"))) out.emplace_back(t->str(), true);
+        if (std::regex_search(t->str(), capital)) out.emplace_back(t->str(), true);
     return out;
 }
 
@@ -136,9 +113,7 @@ std::string object_name(const ProcedureDescriptor& p) { return std::string(p.obj
 std::string property_page(const ProcedureDescriptor& p) {
     Places fields;
     std::set<const RecordLayout*> seen;
-    const auto records = records_of().find(p.cls);
-    if (records != records_of().end())
-        for (const RecordLayout* l : records->second) places_of(*l, fields, seen);
+    for (const RecordLayout* l : checks::data_records_of(p.cls)) places_of(*l, fields, seen);
     const auto required = requirements(p);
     std::ostringstream s;
     s << "# `" << object_name(p) << "`\n\n"

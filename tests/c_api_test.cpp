@@ -18,8 +18,11 @@
 #include "component/reference_docs.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 #include "tests/example_jobs.h"
+#include "tests/test_support.h"
 
 namespace {
+
+using tamrel::testing::slurp;
 
 namespace fs = std::filesystem;
 using nlohmann::json;
@@ -31,13 +34,6 @@ std::string taken(char* text, std::size_t length) {
     return s;
 }
 std::string taken(char* text) { return taken(text, text ? std::strlen(text) : 0); }
-
-std::string slurp(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
 
 struct Generated {
     int code;

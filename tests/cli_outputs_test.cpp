@@ -23,12 +23,7 @@ using namespace tamrel::cli;
 
 namespace {
 
-std::string slurp(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+using tamrel::testing::slurp;
 
 struct Outcome {
     int status;

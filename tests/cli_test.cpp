@@ -16,6 +16,8 @@ using namespace tamrel;
 
 namespace {
 
+using tamrel::testing::slurp;
+
 struct Result {
     int status;
     std::string out;
@@ -30,13 +32,6 @@ Result run(const std::string& args, bool with_stderr = false) {
     while (std::size_t n = std::fread(buf, 1, sizeof buf, p)) out.append(buf, n);
     int status = pclose(p);
     return {WEXITSTATUS(status), out};
-}
-
-std::string slurp(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
 }
 
 class Cli : public ::testing::Test {

@@ -24,7 +24,6 @@
 #include "tests/encoder_forms.h"
 #include "tests/example_jobs.h"
 #include "tests/mutator.h"
-#include "tests/record_layouts.h"
 #include "tests/test_support.h"
 
 using namespace tamrel;
@@ -97,6 +96,70 @@ std::string encoded(const FieldLayout& f, const nlohmann::json& v) {
             return mlGen::StrToBG(text, f.len - 1 - f.decimals, f.decimals, filled);
         default:
             return mlGen::StrToAn(text, f.len, filled);
+    }
+}
+
+// Every field that names a value holds that value's encoding.
+void expect_fields(const RecordLayout& l, const std::string& record,
+                   const std::map<std::string_view, std::string>& values) {
+    const std::u32string r = tamrel::testing::chars(record);
+    ASSERT_EQ(r.size(), l.length) << record;
+    for (const FieldLayout& f : l.fields) {
+        const std::string slice = checks::field_text(r, f);
+        if (f.kind == FieldKind::Literal) {
+            EXPECT_EQ(slice, f.literal) << l.id << " " << f.name;
+        } else if (auto v = values.find(f.name); v != values.end()) {
+            EXPECT_EQ(slice, encoded(f, v->second)) << l.id << " " << f.name << " of \"" << v->second << "\"";
+        }
+    }
+}
+
+TEST(Layouts, AgreeWithTheFrameBuilders) {
+    std::mt19937 random(20261124);
+    const char* texts[] = {"98765432",
+                           "",
+                           "12345671",
+                           "Müller & Söhne GmbH",
+                           "ABC",
+                           "1",
+                           "a very long name of a firm that "
+                           "does not fit its field at all"};
+    auto pick = [&] { return std::string(texts[random() % std::size(texts)]); };
+    const Date date{2024, 3, 1, 10, 11, 12};
+    for (int round = 0; round < 200; ++round) {
+        const std::string sender = pick(), receiver = pick(), file = std::to_string(random() % 1000), firm = pick();
+        std::string datum;
+        expect_fields(layouts::kVOSZ, mlGen::GenVOSZ("AGDEU", sender, receiver, file, firm, datum, date, "01"),
+                      {{"strBNRAb", sender}, {"strBNREm", receiver}, {"strFileNr", file}, {"strFirma", firm}});
+        const std::string count = std::to_string(random() % 100000);
+        expect_fields(layouts::kNCSZ, mlGen::GenNCSZ("AGDEU", sender, receiver, file, count, date, "01"),
+                      {{"strBNRAb", sender}, {"strBNREm", receiver}, {"strFileNr", file}, {"strCount", count}});
+        DSKOData d;
+        d.strBNRAb = sender, d.strBNREm = receiver, d.strMicroSec = std::to_string(random() % 999999);
+        d.strProdID = pick(), d.strModID = pick(), d.strName1 = firm, d.strName2 = pick(), d.strName3 = pick();
+        d.strStrasse = pick(), d.strHausNr = pick(), d.strPLZ = pick(), d.strOrt = pick();
+        d.strAnGeschl = "W", d.strAnName = pick(), d.strAnTel = pick(), d.strAnFax = pick(), d.strAnEMail = pick();
+        DSKOData copy = d;
+        expect_fields(layouts::kDSKO, mlGen::GenDSKO(copy, "DEUEV", date),
+                      {{"strBNRAb", d.strBNRAb},
+                       {"strBNREm", d.strBNREm},
+                       {"strMicroSec", d.strMicroSec},
+                       {"causer (strBNRAb)", d.strBNRAb},
+                       {"strProdID", d.strProdID},
+                       {"strModID", d.strModID},
+                       {"strName1", d.strName1},
+                       {"strName2", d.strName2},
+                       {"strName3", d.strName3},
+                       {"strPLZ", d.strPLZ},
+                       {"strOrt", d.strOrt},
+                       {"strStrasse", d.strStrasse},
+                       {"strHausNr", d.strHausNr},
+                       {"strAnGeschl", d.strAnGeschl},
+                       {"strAnName", d.strAnName},
+                       {"strAnTel", d.strAnTel},
+                       {"strAnFax", d.strAnFax},
+                       {"strAnEMail", d.strAnEMail},
+                       {"reserve", ""}});
     }
 }
 

@@ -4,6 +4,8 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -38,6 +40,28 @@ Error expect_error(F&& f) {
 }  // namespace tamrel::testing
 
 namespace tamrel::testing {
+
+// A text as characters (records count characters, not bytes).
+inline std::u32string chars(std::string_view utf8) {
+    std::u32string out;
+    for (std::size_t i = 0; i < utf8.size();) {
+        const auto c = static_cast<unsigned char>(utf8[i]);
+        const int n = c < 0x80 ? 0 : c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : 1;
+        char32_t cp = n ? c & (0x3F >> n) : c;
+        for (int k = 1; k <= n; ++k) cp = (cp << 6) | (static_cast<unsigned char>(utf8[i + k]) & 0x3F);
+        out += cp;
+        i += static_cast<std::size_t>(n) + 1;
+    }
+    return out;
+}
+
+// A file's bytes.
+inline std::string slurp(const std::filesystem::path& p) {
+    std::ifstream in(p, std::ios::binary);
+    std::stringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
 
 // Expected fields, written the way the layout tables read.
 inline std::string an(std::string_view v, std::size_t width) {

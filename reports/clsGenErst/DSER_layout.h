@@ -11,14 +11,17 @@ using layout::amount;
 using layout::lit;
 
 // The common start of DBAU, DBBT and DBZU.
-#define TAMREL_DSER_BLOCK_HEAD(id)                                                             \
-    lit("identifier", 1, id), {"DBAAEntfaellt (1 or 0)", 5, 1, FieldKind::N},                  \
-        {"ZeitraumBeginn", 6, 8, FieldKind::Date}, {"ZeitraumEnde", 14, 8, FieldKind::Date}, { \
-        "Ausgleichsart 2 (1 or 0)", 22, 1, FieldKind::N                                        \
-    }
+constexpr std::array<FieldLayout, 5> claim_head(std::string_view id) {
+    return {{
+        lit("identifier", 1, id),
+        {"DBAAEntfaellt (1 or 0)", 5, 1, FieldKind::N},
+        {"ZeitraumBeginn", 6, 8, FieldKind::Date},
+        {"ZeitraumEnde", 14, 8, FieldKind::Date},
+        {"Ausgleichsart 2 (1 or 0)", 22, 1, FieldKind::N},
+    }};
+}
 
-inline constexpr FieldLayout kDBAUFields[] = {
-    TAMREL_DSER_BLOCK_HEAD("DBAU"),
+inline constexpr std::array<FieldLayout, 18> kDBAUOwn{{
     amount("first of Entgelt1-4", 23, 9, 2),
     {"which Entgelt (1-4)", 32, 1, FieldKind::N},
     {"AngabeJN2 (J, N or blank)", 33, 1, FieldKind::Code},
@@ -37,11 +40,11 @@ inline constexpr FieldLayout kDBAUFields[] = {
     amount("Betrag4", 94, 9, 2),
     amount("Betrag5", 103, 9, 2),
     {"reserve", 112, 91, FieldKind::An},
-};
+}};
+inline constexpr auto kDBAUFields = layout::joined(claim_head("DBAU"), kDBAUOwn);
 inline constexpr RecordLayout kDBAU{"DBAU", 202, kDBAUFields};
 
-inline constexpr FieldLayout kDBBTFields[] = {
-    TAMREL_DSER_BLOCK_HEAD("DBBT"),
+inline constexpr std::array<FieldLayout, 10> kDBBTOwn{{
     {"Zusatzdatum (or blanks)", 23, 8, FieldKind::Code},
     amount("Betrag1", 31, 9, 2),
     amount("Betrag2", 40, 9, 2),
@@ -52,11 +55,11 @@ inline constexpr FieldLayout kDBBTFields[] = {
     amount("Betrag4", 72, 9, 2),
     amount("Betrag5", 81, 9, 2),
     {"reserve", 90, 91, FieldKind::An},
-};
+}};
+inline constexpr auto kDBBTFields = layout::joined(claim_head("DBBT"), kDBBTOwn);
 inline constexpr RecordLayout kDBBT{"DBBT", 180, kDBBTFields};
 
-inline constexpr FieldLayout kDBZUFields[] = {
-    TAMREL_DSER_BLOCK_HEAD("DBZU"),
+inline constexpr std::array<FieldLayout, 9> kDBZUOwn{{
     {"ZuschussBeginn", 23, 8, FieldKind::Date},
     {"ZuschussEnde", 31, 8, FieldKind::Date},
     amount("Entgelt4", 39, 9, 2),
@@ -66,9 +69,9 @@ inline constexpr FieldLayout kDBZUFields[] = {
     amount("ZuschussBetrag4", 75, 9, 2),
     {"Abschlussdatum", 84, 8, FieldKind::Date},
     {"reserve", 92, 100, FieldKind::An},
-};
+}};
+inline constexpr auto kDBZUFields = layout::joined(claim_head("DBZU"), kDBZUOwn);
 inline constexpr RecordLayout kDBZU{"DBZU", 191, kDBZUFields};
-#undef TAMREL_DSER_BLOCK_HEAD
 
 inline constexpr FieldLayout kDBBVFields[] = {
     lit("identifier", 1, "DBBV"),
