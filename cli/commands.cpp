@@ -30,12 +30,12 @@ namespace {
 int call_stream(std::istream& in, bool numbered) {
     bool any_request_error = false;
     LineReader reader(in, kMaxLineBytes);
-    std::string line;
+    std::string line, response;
     std::size_t length = 0;
     for (std::size_t number = 1; reader.next(line, length); ++number) {
         if (length == line.size() && line.find_first_not_of(" \t") == std::string::npos) continue;
         bool request_error = false;
-        std::string response = call_line(line, request_error);
+        call_line(line, response, request_error);
         if (numbered) response.insert(1, "\"line\":" + std::to_string(number) + (response.size() > 2 ? "," : ""));
         std::cout << response << '\n' << std::flush;
         any_request_error |= request_error;

@@ -9,8 +9,11 @@
 
 extern "C" char* tamrel_call(const char* request_json) {
     try {
+        // The response is built in the thread's buffer and handed out as one copy.
+        thread_local std::string response;
         bool request_error = false;
-        return tamrel::c_text(tamrel::call_line(request_json ? request_json : "", request_error));
+        tamrel::call_line(request_json ? request_json : "", response, request_error);
+        return tamrel::c_text(response);
     } catch (...) {
         return nullptr;
     }

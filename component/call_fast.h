@@ -7,13 +7,13 @@
 // gives every request error its exact text; a test holds the two paths to
 // the same responses.
 #pragma once
-#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tamrel {
 
-// The response line, or nothing where the general path must answer.
-std::optional<std::string> fast_call_line(std::string_view line);
+// Writes the response line into `out` (emptied first, its buffer kept);
+// false where the general path must answer.
+bool fast_call_line(std::string_view line, std::string& out);
 
 }  // namespace tamrel

@@ -100,7 +100,7 @@ std::string CallSession::invoke(const Method& method, const json& args) {
     out_ = ordered_json::object();
     Invocation inv(args, host_);
     std::string result = method.run(inv);
-    out_ = std::move(inv.out());
+    if (!inv.out().is_null()) out_ = std::move(inv.out());
     return result;
 }
 
@@ -136,12 +136,15 @@ ordered_json call(const json& request) {
     return response;
 }
 
+void call_line(std::string_view line, std::string& response, bool& request_error) {
+    request_error = false;
+    if (!fast_call_line(line, response)) response = call_line_general(line, request_error);
+}
+
 std::string call_line(std::string_view line, bool& request_error) {
-    if (std::optional<std::string> fast = fast_call_line(line)) {
-        request_error = false;
-        return std::move(*fast);
-    }
-    return call_line_general(line, request_error);
+    std::string response;
+    call_line(line, response, request_error);
+    return response;
 }
 
 std::string call_line_general(std::string_view line, bool& request_error) {

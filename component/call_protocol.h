@@ -41,6 +41,8 @@ nlohmann::ordered_json call(const nlohmann::json& request);
 // One NDJSON line in, one response line out (without line ending).
 // `request_error` tells whether the line was not a valid request.
 std::string call_line(std::string_view line, bool& request_error);
+// The same into `response`, whose buffer is kept for the next line.
+void call_line(std::string_view line, std::string& response, bool& request_error);
 // The same through one general JSON document, without the fast path that
 // call_line tries first (component/call_fast.h).
 std::string call_line_general(std::string_view line, bool& request_error);

@@ -8,7 +8,8 @@ using json_binding::fail;
 using json_binding::Path;
 
 bool Invocation::has(std::string_view name) const {
-    return args_ ? args_->contains(name) : simd_.at_key(name).error() == simdjson::SUCCESS;
+    if (args_) return args_->contains(name);
+    return scan_ ? scan_->has(name) : simd_->find(name) != nullptr;
 }
 
 std::string Invocation::str(const char* name) const {

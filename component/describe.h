@@ -55,15 +55,15 @@ struct FrameCalls {
 
 template <class Gen, class Obj, DataForm D>
 std::string gen_data(const ProcedureDescriptor& p, Invocation& inv) {
-    const Obj obj = inv.object<Obj>(p.objParam);
+    const Obj& obj = inv.object<Obj>(p.objParam);
     RunnerSettings s = read_data_args(inv, D);
     Gen gen(inv.host());
-    return call_gen_data<D>(gen, obj, s);
+    return call_gen_data<D>(gen, obj, s, s.datensatz);
 }
 
 template <class Obj, auto Proto>
 std::string create_proto(const ProcedureDescriptor& p, Invocation& inv) {
-    const Obj obj = inv.object<Obj>(p.objParam);
+    const Obj& obj = inv.object<Obj>(p.objParam);
     const bool error = inv.boolean("blnError");
     const std::string text = inv.opt_str("strErrText");
     return (clsProtoEntry(inv.host()).*Proto)(obj, error, text);
@@ -72,7 +72,7 @@ std::string create_proto(const ProcedureDescriptor& p, Invocation& inv) {
 // The findings go to out.findings; the result is empty.
 template <class Obj>
 std::string check(const ProcedureDescriptor& p, Invocation& inv) {
-    const Obj obj = inv.object<Obj>(p.objParam);
+    const Obj& obj = inv.object<Obj>(p.objParam);
     checks::Findings f;
     checks::check_report(obj, f);
     inv.out()["findings"] = findings_json(f);

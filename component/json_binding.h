@@ -5,9 +5,11 @@
 #pragma once
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstdint>
 #include <limits>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -26,7 +28,7 @@ namespace tamrel::json_binding {
 using json = nlohmann::json;
 
 // The reader works on any JSON value through an adapter with: is_string /
-// string, is_bool / boolean, is_integer / integer(lo, hi, out), is_array /
+// string / get_string (both at once), is_bool / boolean, is_integer / integer(lo, hi, out), is_array /
 // each_element(f), is_object / each_member(f(key, value)).
 // NlohmannValue adapts nlohmann-json (the call protocol); component/json_scan.h
 // (plain JSON) and component/json_simd.h (simdjson's DOM, for everything
@@ -36,6 +38,7 @@ struct NlohmannValue {
     bool is_null() const { return j.is_null(); }
     bool is_string() const { return j.is_string(); }
     std::string_view string() const { return j.get_ref<const std::string&>(); }
+    bool get_string(std::string_view& out) const { return is_string() && (out = string(), true); }
     bool is_bool() const { return j.is_boolean(); }
     bool boolean() const { return j.get<bool>(); }
     bool is_integer() const { return j.is_number_integer(); }
@@ -59,11 +62,12 @@ struct NlohmannValue {
 
 template <class V>
 void read(const V& v, std::string& out, const Path& path) {
-    if (!v.is_string()) fail(path, "expected a string");
+    std::string_view text;
+    if (!v.get_string(text)) fail(path, "expected a string");
     // Appended to the emptied string: cheaper than the general assign, and
     // the buffer is kept.
     out.clear();
-    out.append(v.string());
+    out.append(text);
 }
 
 template <class V>
@@ -97,14 +101,14 @@ inline int canonical_index(std::string_view k) {
 // An entry is read in its place (an index given twice is read again: texts
 // are emptied first, numbers overwritten); flags are stored as bytes, so
 // they are read into a bool first.
-template <class V, class T>
-void read_entry(const V& e, Indexed<T>& out, std::int16_t i, const Path& path) {
+template <class T, class V>
+void read_entry(const V& e, typename Indexed<T>::Stored& place, const Path& path) {
     if constexpr (std::is_same_v<T, bool>) {
         bool x = false;
         read(e, x, path);
-        out.set(i, x);
+        place = x;
     } else {
-        read(e, out.slot(i), path);
+        read(e, place, path);
     }
 }
 
@@ -116,7 +120,7 @@ void read(const V& v, Indexed<T>& out, const Path& path) {
         std::int32_t i = 1;
         v.each_element([&](const V& e) {
             if (static_cast<std::size_t>(i) > kMaxItems) fail(path, "more than 32767 entries");
-            read_entry(e, out, static_cast<std::int16_t>(i), Path{&path, {}, static_cast<std::size_t>(i)});
+            read_entry<T>(e, out.next_slot(), Path{&path, {}, static_cast<std::size_t>(i)});
             ++i;
         });
         return;
@@ -128,7 +132,7 @@ void read(const V& v, Indexed<T>& out, const Path& path) {
         const int idx = canonical_index(k);
         if (idx < 0) fail(here, "expected an index from 0 to 32767 in decimal, without sign or leading zeros");
         given.push_back(static_cast<std::int16_t>(idx));
-        read_entry(e, out, static_cast<std::int16_t>(idx), here);
+        read_entry<T>(e, out.slot(static_cast<std::int16_t>(idx)), here);
     });
     // An index given twice would drop a value (only the last one is kept).
     std::sort(given.begin(), given.end());
@@ -185,6 +189,21 @@ template <class O, class V>
 struct Dispatch {
     std::vector<Entry<O, V>> entries;
     std::vector<int> slots;  // index into entries, -1 for an empty slot; a power of two long
+    // The entry that followed each entry (the last: the first entry) in the
+    // object read last: a caller writes its objects' properties in one
+    // order, so the next key is mostly the one guessed, and one comparison
+    // takes the place of the hash. Only a guess, shared by the threads.
+    mutable std::unique_ptr<std::atomic<int>[]> next;
+
+    const Entry<O, V>* find_after(int previous, std::string_view key) const {
+        std::atomic<int>& guess = next[previous < 0 ? entries.size() : static_cast<std::size_t>(previous)];
+        const int g = guess.load(std::memory_order_relaxed);
+        if (g >= 0 && bytes::equal(entries[static_cast<std::size_t>(g)].name, key))
+            return &entries[static_cast<std::size_t>(g)];
+        const Entry<O, V>* e = find(key);
+        if (e) guess.store(static_cast<int>(e - entries.data()), std::memory_order_relaxed);
+        return e;
+    }
     void index() {
         std::size_t n = 8;
         while (n < 4 * entries.size()) n *= 2;
@@ -194,6 +213,8 @@ struct Dispatch {
             while (slots[h] >= 0) h = (h + 1) & (n - 1);
             slots[h] = static_cast<int>(i);
         }
+        next = std::make_unique<std::atomic<int>[]>(entries.size() + 1);
+        for (std::size_t i = 0; i <= entries.size(); ++i) next[i].store(-1, std::memory_order_relaxed);
     }
     const Entry<O, V>* find(std::string_view key) const {
         const std::size_t mask = slots.size() - 1;
@@ -261,9 +282,11 @@ void read(const V& v, T& out, const Path& path) {
     const auto& table = dispatch<T, V>();
     constexpr bool tracks = requires(T & t, const Present<T, V>& p) { Binding<T>::finish(t, p); };
     Present<T, V> present{table};
+    int previous = -1;
     v.each_member([&](std::string_view key, const V& value) {
         const Path here{&path, key};
-        if (const auto* e = table.find(key)) {
+        if (const auto* e = table.find_after(previous, key)) {
+            previous = static_cast<int>(e - table.entries.data());
             // A property given twice would drop its first value.
             bool& seen = present.seen[static_cast<std::size_t>(e - table.entries.data())];
             if (seen) fail(here, "given twice");
@@ -288,6 +311,8 @@ void reset(T& v, const T& empty) {
         v.clear();
     else if constexpr (Bound<T>)
         std::apply([&](const auto&... f) { (reset(v.*(f.member), empty.*(f.member)), ...); }, Binding<T>::fields);
+    else if constexpr (requires { v.clear(); })
+        v.clear();  // a list: emptied, its buffer kept
     else
         v = empty;
 }

@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <vector>
 
 #include "core/short_bytes.h"
 
@@ -28,8 +29,43 @@ struct ScanMiss {};
 // a string's last bytes stays inside the buffer.
 inline constexpr std::size_t kScanPadding = 8;
 
+// Where a line's quotes are, one bit a byte, found sixteen bytes a step
+// before the line is scanned: the end of a string is then the next bit,
+// found without reading the string. Only for a line without a backslash or
+// a control character, in which every quote opens or closes a string and
+// no string needs a check of its bytes.
+class QuoteIndex {
+public:
+    // Indexes the n bytes at p; false (and no index) for a line with a
+    // backslash or a control character.
+    bool build(const char* p, std::size_t n);
+    // The position of the first quote at or after `pos` (at most n), or n
+    // or more when there is none.
+    std::size_t next(std::size_t pos) const {
+        std::uint64_t w = words_[pos >> 6] >> (pos & 63);
+        while (w == 0) {
+            pos = (pos | 63) + 1;
+            w = words_[pos >> 6];
+        }
+        return pos + static_cast<std::size_t>(std::countr_zero(w));
+    }
+    const char* base() const { return base_; }
+    std::size_t size() const { return size_; }
+    // Where the first byte above ASCII is, or about (at most 63 bytes
+    // before it); size() when there is none. Before it the line is ASCII,
+    // so valid UTF-8.
+    std::size_t first_non_ascii() const { return first_non_ascii_; }
+
+private:
+    std::vector<std::uint64_t> words_;  // then a word of all ones, where every search ends
+    const char* base_ = nullptr;
+    std::size_t size_ = 0;
+    std::size_t first_non_ascii_ = 0;
+};
+
 struct ScanValue {
-    const char** at;  // the scanner's position, shared by the values of one line
+    const char** at;                     // the scanner's position, shared by the values of one line
+    const QuoteIndex* quotes = nullptr;  // the line's quotes, when indexed
 
     [[noreturn]] static void miss() { throw ScanMiss{}; }
 
@@ -48,6 +84,12 @@ struct ScanValue {
     // with the zero-byte test, which is exact for the lowest byte it flags.
     std::string_view token() const {
         const char* s = ++*at;
+        if (quotes) {
+            const std::size_t from = static_cast<std::size_t>(s - quotes->base()), end = quotes->next(from);
+            if (end >= quotes->size()) miss();
+            *at = quotes->base() + end + 1;
+            return {s, end - from};
+        }
         const char* p = s;
         constexpr std::uint64_t quotes = bytes::kOnes * '"', backslashes = bytes::kOnes * '\\';
         const auto zero = [](std::uint64_t v) { return (v - bytes::kOnes) & ~v & bytes::kHigh; };
@@ -65,8 +107,11 @@ struct ScanValue {
         return {s, static_cast<std::size_t>(p - s)};
     }
 
+    // The scanner does not read null: whatever is read next gives up on it.
+    bool is_null() const { return false; }
     bool is_string() const { return peek() == '"'; }
     std::string_view string() const { return token(); }
+    bool get_string(std::string_view& out) const { return is_string() && (out = token(), true); }
     bool is_bool() const {
         const char c = peek();
         return c == 't' || c == 'f';
@@ -102,10 +147,40 @@ struct ScanValue {
         out = negative ? -x : x;
         return out >= lo && out <= hi;
     }
+    // Passes over the value at the cursor, nested at most `max_depth` deep.
+    // Loosely: what it passes over is either read (and so checked) later or
+    // leaves the report to the other reader.
+    void skip(int max_depth) const {
+        int depth = 0;
+        for (;;) {
+            const char c = peek();
+            if (c == '"') {
+                token();
+            } else if (c == '{' || c == '[') {
+                if (++depth > max_depth) miss();
+                ++*at;
+                continue;
+            } else if (c == '}' || c == ']') {
+                if (depth-- == 0) miss();
+                ++*at;
+            } else if (scalar_byte(c)) {
+                while (scalar_byte(**at)) ++*at;
+            } else {
+                miss();
+            }
+            if (depth == 0) return;
+            const char d = peek();
+            if (d == ',' || d == ':') ++*at;
+        }
+    }
+    static bool scalar_byte(char c) {
+        return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || c == '-' || c == '+' || c == '.' || c == 'E';
+    }
+
     bool is_array() const { return peek() == '['; }
     template <class F>
     void each_element(F&& f) const {
-        items(']', [&] { f(ScanValue{at}); });
+        items(']', [&] { f(ScanValue{at, quotes}); });
     }
     bool is_object() const { return peek() == '{'; }
     template <class F>
@@ -114,7 +189,7 @@ struct ScanValue {
             if (peek() != '"') miss();
             const std::string_view key = token();
             expect(':');
-            f(key, ScanValue{at});
+            f(key, ScanValue{at, quotes});
         });
     }
 

@@ -18,6 +18,7 @@ struct SimdValue {
     bool is_null() const { return e.type() == type::NULL_VALUE; }
     bool is_string() const { return e.type() == type::STRING; }
     std::string_view string() const { return e.get_string().value_unsafe(); }
+    bool get_string(std::string_view& out) const { return e.get_string().get(out) == simdjson::SUCCESS; }
     bool is_bool() const { return e.type() == type::BOOL; }
     bool boolean() const { return e.get_bool().value_unsafe(); }
     bool is_integer() const { return e.type() == type::INT64 || e.type() == type::UINT64; }

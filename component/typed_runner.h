@@ -21,10 +21,10 @@ namespace tamrel {
 
 inline const json_binding::Path kRunnerArgs{nullptr, "args"};
 
-// GenData of a class, in the form of its parameter list.
+// GenData of a class, in the form of its parameter list; `dd` is the
+// record data that GenData may write to.
 template <DataForm D, class Gen, class Obj>
-std::string call_gen_data(Gen& g, const Obj& o, const RunnerSettings& s) {
-    DatensatzData dd = s.datensatz;
+std::string call_gen_data(Gen& g, const Obj& o, const RunnerSettings& s, DatensatzData& dd) {
     if constexpr (D == DataForm::BeitrNachw)
         return g.GenData(o, dd.strBNRAb, dd.strBNRSt, dd.strVersion, dd.strMicroseconds, s.date);
     else if constexpr (D == DataForm::WithVerfahren)
@@ -63,7 +63,10 @@ public:
         read_value(json_binding::SimdValue{doc});
     }
     void read(const nlohmann::json& report) override { read_value(json_binding::NlohmannValue{report}); }
-    std::string data() override { return call_gen_data<D>(gen_, obj_, settings_); }
+    std::string data() override {
+        DatensatzData dd = settings_.datensatz;  // each report starts from the job's
+        return call_gen_data<D>(gen_, obj_, settings_, dd);
+    }
     void check(checks::Findings& findings) const override { checks::check_report(obj_, findings); }
     std::string protocol(bool error, std::string_view text) override {
         if constexpr (std::is_same_v<decltype(Proto), std::nullptr_t>)
@@ -91,7 +94,9 @@ private:
         padded_.assign(text);
         padded_.append(json_binding::kScanPadding, '\0');
         const char* at = padded_.data();
-        const json_binding::ScanValue root{&at};
+        // Quotes indexed where the line lets them be; the scanner searches strings itself where not.
+        const bool indexed = quotes_.build(padded_.data(), text.size());
+        const json_binding::ScanValue root{&at, indexed ? &quotes_ : nullptr};
         read_value(root);
         if (root.peek() != '\0' || at != padded_.data() + text.size()) throw json_binding::ScanMiss{};
     }
@@ -105,6 +110,7 @@ private:
     RunnerSettings settings_;
     json_binding::Path path_;
     std::string padded_;
+    json_binding::QuoteIndex quotes_;
     simdjson::dom::parser parser_;
     Gen gen_;
     clsProtoEntry proto_entry_;

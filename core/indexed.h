@@ -10,11 +10,11 @@ namespace tamrel {
 
 template <class T>
 class Indexed {
+public:
     // Booleans are kept as bytes (a vector of bool hands out proxies).
     using Stored = std::conditional_t<std::is_same_v<T, bool>, unsigned char, T>;
     using Read = std::conditional_t<std::is_same_v<T, bool>, bool, const T&>;
 
-public:
     // The values as plain numbers that a builder keeps in registers across
     // a loop (reading through the property itself, the compiler reloads
     // its vector after every byte the builder stores).
@@ -52,6 +52,12 @@ public:
         if (k == values_.size()) return values_.emplace_back();
         if (k > values_.size()) values_.resize(k + 1);
         return values_[k];
+    }
+    // The place of the entry after the largest given, entry 1 when none
+    // is: an array's entries come in order, and need no search for their place.
+    Stored& next_slot() {
+        if (values_.empty()) first_ = 1;
+        return values_.emplace_back();
     }
     void clear() { values_.clear(); }
     void reserve(std::size_t n) { values_.reserve(n); }

@@ -1,9 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include <nlohmann/json.hpp>
 
 #include "component/c_api.h"
 #include "component/call_protocol.h"
+#include "component/call_registry.h"
+#include "component/call_response.h"
 #include "tests/example_jobs.h"
 #include "tests/mutator.h"
 
@@ -156,6 +162,28 @@ static_assert(!std::is_default_constructible_v<tamrel::clsGenDef>, "clsGenDef ca
 
 namespace {
 
+// The request as a caller writes it by hand: the request's keys first and
+// "args" last, the arguments in the order of the method's parameters
+// (`reversed`: the other way round). Each data object keeps its own order.
+std::string written_in_order(const json& request, bool reversed) {
+    const auto cls = tamrel::registry().find(request.value("class", ""));
+    if (!request.contains("args") || cls == tamrel::registry().end() || !cls->second.contains(request["method"]))
+        return request.dump();
+    const tamrel::Method& method = cls->second.at(request["method"]);
+    std::vector<std::string> names(method.required);
+    names.insert(names.end(), method.optional.begin(), method.optional.end());
+    if (reversed) std::reverse(names.begin(), names.end());
+    nlohmann::ordered_json line, args = nlohmann::ordered_json::object();
+    for (const char* key : {"class", "method", "now", "id", "tests"})
+        if (request.contains(key)) line[key] = request[key];
+    for (const std::string& name : names)
+        if (request["args"].contains(name)) args[name] = request["args"][name];
+    for (const auto& [name, value] : request["args"].items())
+        if (!args.contains(name)) args[name] = value;
+    line["args"] = args;
+    return line.dump();
+}
+
 // A request line answered by the fast path and by the general one (the
 // whole request parsed as one document) gives the same response, byte for
 // byte: for every example's GenData, protocol line and Check, for seeded
@@ -180,13 +208,16 @@ TEST(CallProtocol, FastAndGeneralPathsAnswerTheSame) {
                 json request = tamrel::testing::gen_data_request(e, variant);
                 if (v % 3 == 1) request["id"] = v;
                 if (v % 3 == 2) request["id"] = "r\"" + std::to_string(v);
-                lines.push_back(request.dump());
+                std::vector<json> requests{request, json{{"class", e.job["class"]},
+                                                         {"method", "Check"},
+                                                         {"args", {{std::string(e.info->objParam), variant}}}}};
                 if (!e.info->protoMethod.empty())
-                    lines.push_back(tamrel::testing::protocol_request(e, variant, v % 2 == 1, "Fehler\n1").dump());
-                lines.push_back(json{{"class", e.job["class"]},
-                                     {"method", "Check"},
-                                     {"args", {{std::string(e.info->objParam), variant}}}}
-                                    .dump());
+                    requests.push_back(tamrel::testing::protocol_request(e, variant, v % 2 == 1, "Fehler\n1"));
+                // Keys sorted (as a JSON library that sorts them writes them), then in the
+                // order of the parameters and the other way round.
+                for (const json& r : requests)
+                    for (const std::string& line : {r.dump(), written_in_order(r, false), written_in_order(r, true)})
+                        lines.push_back(line);
             }
         }
     }
@@ -194,23 +225,65 @@ TEST(CallProtocol, FastAndGeneralPathsAnswerTheSame) {
     const std::string frame = R"("now":"2024-03-01T00:00:00","class":"clsGenMeldung","method":"GenNCSZ",)"
                               R"("args":{"strBNRAb":"1","strBNREm":"2",)"
                               R"("strFileNr":"3","strCount":"4","enmVerfahren":"vmNormal")";
-    for (const std::string& odd : std::initializer_list<std::string>{
-             "{" + frame + "}}",
-             "{" + frame + ",\"strCount\":\"5\"}}",                          // a parameter given twice
-             "{" + frame + "},\"class\":\"clsGenMeldung\"}",                 // a request key given twice
-             "{" + frame + "},\"now\":\"2024-02-30T00:00:00\"}",             // "now" twice
-             "{" + frame + "},\"now\":\"2024-02-03T00:00:00\",\"id\":1.5}",  // "now" twice, an id that is no integer
-             "{" + frame + "},\"tests\":{\"NameTest\":[\"A\"]}}",
-             "{" + frame + ",\"colour\":1}}",
-             "{" + frame + "},\"colour\":1}",
-             "{\"class\":\"clsGenDef\",\"method\":\"GenData\",\"args\":{}}",
-             "{\"class\":\"clsGenMeldung\",\"method\":\"GenDSKO\",\"args\":{}}",
-             "{\"class\":\"clsGenMeldung\",\"method\":\"GenNCSZ\"}",
-             "[]",
-             "{\"id\":[1,{\"a\":2}]," + frame + "}}",
-         })
+    for (
+        const std::string& odd : std::initializer_list<std::string>{
+            "{" + frame + "}}",
+            "{" + frame + ",\"strCount\":\"5\"}}",                          // a parameter given twice
+            "{" + frame + "},\"class\":\"clsGenMeldung\"}",                 // a request key given twice
+            "{" + frame + "},\"now\":\"2024-02-30T00:00:00\"}",             // "now" twice
+            "{" + frame + "},\"now\":\"2024-02-03T00:00:00\",\"id\":1.5}",  // "now" twice, an id that is no integer
+            "{" + frame + "},\"tests\":{\"NameTest\":[\"A\"]}}",
+            "{" + frame + ",\"colour\":1}}",
+            "{" + frame + "},\"colour\":1}",
+            "{\"class\":\"clsGenDef\",\"method\":\"GenData\",\"args\":{}}",
+            "{\"class\":\"clsGenMeldung\",\"method\":\"GenDSKO\",\"args\":{}}",
+            "{\"class\":\"clsGenMeldung\",\"method\":\"GenNCSZ\"}",
+            "[]",
+            "{\"id\":[1,{\"a\":2}]," + frame + "}}",
+            "{" + frame + "},\"id\":1}",                         // "args" not last
+            "{" + frame + ",}}",                                 // a comma before the end
+            "{" + frame + "}",                                   // the request not closed
+            "{" + frame + ",\"datDate\":\"2024-03-01\t\"}}",     // a control character in a text
+            "{" + frame + ",\"datDate\":\"2024-03-\\u0030\"}}",  // an escape
+            "{" + frame + ",\"x\":" + std::string(40, '[') + std::string(40, ']') + "}}",
+            "{" + frame + ",\"datDate\":\"2024-03-01\"} }\t",
+            "{" + frame + ",\"datDate\":\"2024-03-01\"}} x",
+            "{\"id\":12345678901234567890," + frame + "}}",
+            "{\"id\":-0," + frame + "}}",
+            "{\"id\":\"M\xC3\xBCller\"," + frame + "}}",
+            "{\"id\":\"\xC3\"," + frame + "}}",  // not UTF-8
+            R"({"class":"clsGenMeldung","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"3","strCount":"4","enmVerfahren":"vmNormal")",
+            R"({"class":"clsGenMeldung","method":"GenNCSZ","args":{"datDate":"2024-03-01","strCount":"4","strFileNr":"3","strBNREm":"2","strBNRAb":"1","enmVerfahren":1}})",
+            R"({"class":"clsGenMeldung","method":"GenNCSZ","args":{"datDate":null,"strBNRAb":"1","strBNREm":"2","strFileNr":"3","strCount":"4","enmVerfahren":1}})",
+            R"({"class":"clsGenMeldung","method":"GenNCSZ","args":{"strBNRAb":"1","strBNREm":"2","strFileNr":"3","strCount":4,"enmVerfahren":1}})",
+        })
         lines.push_back(odd);
     for (const std::string& line : lines) EXPECT_EQ(fast(line), general(line)) << line;
+}
+
+// The scanning reader takes every example's GenData request as a caller
+// writes it by hand (whatever the order of its arguments), and answers as
+// the general path does; a request with "args" first it leaves to the next
+// reader.
+TEST(CallProtocol, TheScannerTakesPlainRequests) {
+    std::size_t taken = 0;
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        if (e.job.contains("tests")) continue;  // test answers are for the general path
+        for (const json& report : e.job["reports"]) {
+            const json request = tamrel::testing::gen_data_request(e, report);
+            for (const bool reversed : {false, true}) {
+                const std::string line = written_in_order(request, reversed);
+                std::string out;
+                bool request_error = false;
+                ASSERT_TRUE(tamrel::fast_call::scan_call(line, out)) << line;
+                EXPECT_EQ(out, tamrel::call_line_general(line, request_error)) << line;
+                ++taken;
+            }
+            std::string out;
+            EXPECT_FALSE(tamrel::fast_call::scan_call(request.dump(), out));
+        }
+    }
+    EXPECT_GT(taken, 20u);
 }
 
 }  // namespace
