@@ -30,14 +30,18 @@ std::string registration_request(bool sorted = false) {
     return sorted ? nlohmann::json(request).dump() : request.dump();
 }
 
-void BM_TamrelCall_Registration(benchmark::State& state) {
-    static const std::string request = registration_request();
+void call_over_and_over(benchmark::State& state, const std::string& request) {
     for (auto _ : state) {
         char* response = tamrel_call(request.c_str());
         benchmark::DoNotOptimize(response);
         tamrel_free(response);
     }
     state.SetItemsProcessed(state.iterations());
+}
+
+void BM_TamrelCall_Registration(benchmark::State& state) {
+    static const std::string request = registration_request();
+    call_over_and_over(state, request);
 }
 BENCHMARK(BM_TamrelCall_Registration);
 BENCHMARK(BM_TamrelCall_Registration)
@@ -46,12 +50,7 @@ BENCHMARK(BM_TamrelCall_Registration)
 
 void BM_TamrelCall_RegistrationSortedKeys(benchmark::State& state) {
     static const std::string request = registration_request(true);
-    for (auto _ : state) {
-        char* response = tamrel_call(request.c_str());
-        benchmark::DoNotOptimize(response);
-        tamrel_free(response);
-    }
-    state.SetItemsProcessed(state.iterations());
+    call_over_and_over(state, request);
 }
 BENCHMARK(BM_TamrelCall_RegistrationSortedKeys);
 

@@ -1,9 +1,10 @@
 /* tamrel's C interface.
 
-   Every function may be called from any number of threads at once: the
-   library keeps no state between calls (each call has its own clock, log
-   and data-object tests, as the request says), and the results are the
-   same as from one thread.
+   Every function may be called from any number of threads at once: no
+   call sees another's data (each has its own clock, log and data-object
+   tests, as the request says), and the results are the same as from one
+   thread. Each thread keeps the buffers of its calls for the next one, so
+   its memory stays as large as its largest request.
 
    Ownership: every string the library returns through a `char*` or `char**`
    is allocated by the library and belongs to the caller, who frees it with
@@ -30,7 +31,9 @@ extern "C" {
    {"error":{"number":…,"source":"…","description":"…"},"log":[…]} when the
    method fails as the component would, and {"request_error":"…"} when the
    request itself is not valid (not JSON, an unknown class, method or
-   argument). Never NULL unless memory runs out; free with tamrel_free. */
+   argument). Never NULL unless memory runs out; free with tamrel_free.
+   Fastest: UTF-8 without escapes, "args" last, its parameters in the
+   method's order (docs/call-protocol.md). */
 TAMREL_API char* tamrel_call(const char* request_json);
 
 /* Runs a generate job as `tamrel generate` does (docs/job-format.md).

@@ -76,9 +76,14 @@ public:
         thread_local T kept{};
         static const T empty{};
         json_binding::reset(kept, empty);
-        with_value(name,
-                   [&](const auto& value, const json_binding::Path& path) { json_binding::read(value, kept, path); });
+        read_into(name, kept);
         return kept;
+    }
+    // The structure `name` read into `into`, which is empty.
+    template <class T>
+    void read_into(std::string_view name, T& into) const {
+        with_value(name,
+                   [&](const auto& value, const json_binding::Path& path) { json_binding::read(value, into, path); });
     }
     // What the method hands back through its by-reference parameters; null
     // until the first one is set (most methods have none, and an empty

@@ -52,7 +52,7 @@ Method dsko(const ProcedureDescriptor& p) {
     if (verf) params.emplace_back("enmVerfahren");
     return {params, {"datDate"}, [&p, verf](Invocation& inv) {
                 FrameValues v;
-                v.udtDSKOData = inv.object<DSKOData>("udtDSKOData");
+                inv.read_into("udtDSKOData", v.udtDSKOData);
                 if (verf) v.enmVerfahren = read_verfahren(inv, p);
                 v.datDate = inv.date("datDate");
                 return p.GenDSKO(inv.host(), v);
@@ -107,7 +107,7 @@ RunnerSettings read_data_args(Invocation& inv, DataForm form) {
         s.datensatz.strVersion = inv.str("strVersion");
         s.datensatz.strMicroseconds = inv.str("strMicroseconds");
     } else {
-        s.datensatz = inv.object<DatensatzData>("udtDatensatzData");
+        inv.read_into("udtDatensatzData", s.datensatz);
     }
     if (form == DataForm::WithVerfahren) s.verfahren = inv.verf("enmVerfahren");
     s.date = inv.date("datDate");
@@ -121,7 +121,7 @@ FrameValues read_frame_values(Invocation& inv, const ProcedureDescriptor& p) {
     v.strDatum = inv.opt_str("strDatum");
     v.enmVerfahren = read_verfahren(inv, p);
     v.datDate = inv.date("datDate");
-    v.udtDSKOData = inv.object<DSKOData>("udtDSKOData");
+    inv.read_into("udtDSKOData", v.udtDSKOData);
     return v;
 }
 

@@ -186,6 +186,11 @@ their type's range; Boolean is `true`/`false`; a date is `"YYYY-MM-DD"` or
 `DSKOData` and `DatensatzData` are objects of their members (all Strings);
 a data object is an object of its properties ([properties/](properties/)).
 
+Any JSON request is answered the same. The fastest to read is a request
+written in UTF-8 without escapes, its keys in the order above with `args`
+last and the parameters in the order of the method's list: it is read in
+one pass, straight into the data objects ([performance.md](performance.md)).
+
 ## Response
 
 - success: `{"result": "…", "out": {…}, "log": []}`; `out` holds the in/out

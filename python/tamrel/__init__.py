@@ -83,8 +83,9 @@ def version():
 def call(request):
     """One request of the call protocol (a dict, or its JSON text); returns
     the response ({"result": …, "out": {…}, "log": […]})."""
-    text = request if isinstance(request, str) else json.dumps(request)
-    answer = _taken(_lib.tamrel_call(text.encode()))
+    # Written as UTF-8 without escapes, compact: the form tamrel reads fastest.
+    text = request if isinstance(request, str) else json.dumps(request, ensure_ascii=False, separators=(",", ":"))
+    answer = _taken(_lib.tamrel_call(text.encode("utf-8", "surrogatepass")))
     if answer is None:
         raise MemoryError("tamrel_call")
     response = json.loads(answer)
