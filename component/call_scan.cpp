@@ -7,8 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include <simdjson.h>
-
 #include "component/call_response.h"
 #include "component/json_scan.h"
 #include "component/scan_args.h"
@@ -71,21 +69,11 @@ bool scan_request(const char*& at, const char* end, const json_binding::QuoteInd
 }  // namespace
 
 bool scan_call(std::string_view line, std::string& out) {
-    struct Scratch {
-        std::string padded;
-        json_binding::QuoteIndex quotes;
-    };
-    thread_local Scratch scratch;
-    std::string& padded = scratch.padded;
-    padded.assign(line);
-    padded.append(json_binding::kScanPadding, '\0');
-    json_binding::QuoteIndex& quotes = scratch.quotes;
-    if (!quotes.build(padded.data(), line.size())) return false;
-    const std::size_t ascii = quotes.first_non_ascii();
-    if (!simdjson::validate_utf8(line.data() + ascii, line.size() - ascii)) return false;
-    const char* at = padded.data();
+    thread_local json_binding::ScannedLine scanned;
+    if (!scanned.load(line) || !scanned.valid_utf8()) return false;
+    const char* at = scanned.begin();
     try {
-        return scan_request(at, padded.data() + line.size(), quotes, out);
+        return scan_request(at, scanned.end(), *scanned.quotes(), out);
     } catch (const ScanMiss&) {
         return false;
     }

@@ -28,8 +28,9 @@ namespace tamrel::json_binding {
 using json = nlohmann::json;
 
 // The reader works on any JSON value through an adapter with: is_string /
-// string / get_string (both at once), is_bool / boolean, is_integer / integer(lo, hi, out), is_array /
-// each_element(f), is_object / each_member(f(key, value)).
+// string / get_string (both at once), is_bool / boolean, is_integer /
+// integer(lo, hi, out), is_array / each_element(f), is_object /
+// each_member(f(key, value)).
 // NlohmannValue adapts nlohmann-json (the call protocol); component/json_scan.h
 // (plain JSON) and component/json_simd.h (simdjson's DOM, for everything
 // else) serve tamrel generate.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <simdjson.h>
+
 #if defined(__SSE2__)
 #include <emmintrin.h>
 #endif
@@ -43,6 +45,18 @@ bool QuoteIndex::build(const char* p, std::size_t n) {
     }
     words_.back() = ~std::uint64_t{0};
     return !refused;
+}
+
+bool ScannedLine::load(std::string_view line) {
+    padded_.assign(line);
+    padded_.append(kScanPadding, '\0');
+    size_ = line.size();
+    return indexed_ = quotes_.build(padded_.data(), size_);
+}
+
+bool ScannedLine::valid_utf8() const {
+    const std::size_t ascii = quotes_.first_non_ascii();
+    return simdjson::validate_utf8(padded_.data() + ascii, size_ - ascii);
 }
 
 }  // namespace tamrel::json_binding

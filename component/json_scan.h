@@ -14,6 +14,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -61,6 +62,26 @@ private:
     const char* base_ = nullptr;
     std::size_t size_ = 0;
     std::size_t first_non_ascii_ = 0;
+};
+
+// A line as the scanner reads it: copied with its padding, its quotes
+// indexed where the line lets them be.
+class ScannedLine {
+public:
+    // Takes `line`; false when its quotes are not indexed (a backslash or a
+    // control character), which the scanner then finds itself.
+    bool load(std::string_view line);
+    // Whether the line is UTF-8 (checked from its first byte above ASCII).
+    bool valid_utf8() const;
+    const char* begin() const { return padded_.data(); }
+    const char* end() const { return padded_.data() + size_; }
+    const QuoteIndex* quotes() const { return indexed_ ? &quotes_ : nullptr; }
+
+private:
+    std::string padded_;
+    std::size_t size_ = 0;
+    QuoteIndex quotes_;
+    bool indexed_ = false;
 };
 
 struct ScanValue {

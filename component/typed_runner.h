@@ -46,12 +46,15 @@ public:
     // escaped, say) goes to the DOM straight away, without the cost of a
     // scan given up.
     void read_text(std::string_view text) override {
-        if (text.find('\\') == std::string_view::npos && simdjson::validate_utf8(text.data(), text.size())) {
-            try {
-                read_scanned(text);
-                return;
-            } catch (const json_binding::ScanMiss&) {
-            } catch (const json_binding::RequestError&) {
+        if (text.find('\\') == std::string_view::npos) {
+            line_.load(text);
+            if (line_.valid_utf8()) {
+                try {
+                    read_scanned();
+                    return;
+                } catch (const json_binding::ScanMiss&) {
+                } catch (const json_binding::RequestError&) {
+                }
             }
         }
         read_text_reference(text);
@@ -89,16 +92,12 @@ public:
     }
 
 private:
-    // Text of valid UTF-8 without escapes.
-    void read_scanned(std::string_view text) {
-        padded_.assign(text);
-        padded_.append(json_binding::kScanPadding, '\0');
-        const char* at = padded_.data();
-        // Quotes indexed where the line lets them be; the scanner searches strings itself where not.
-        const bool indexed = quotes_.build(padded_.data(), text.size());
-        const json_binding::ScanValue root{&at, indexed ? &quotes_ : nullptr};
+    // The line just loaded, valid UTF-8 without escapes.
+    void read_scanned() {
+        const char* at = line_.begin();
+        const json_binding::ScanValue root{&at, line_.quotes()};
         read_value(root);
-        if (root.peek() != '\0' || at != padded_.data() + text.size()) throw json_binding::ScanMiss{};
+        if (root.peek() != '\0' || at != line_.end()) throw json_binding::ScanMiss{};
     }
 
     template <class V>
@@ -109,8 +108,7 @@ private:
 
     RunnerSettings settings_;
     json_binding::Path path_;
-    std::string padded_;
-    json_binding::QuoteIndex quotes_;
+    json_binding::ScannedLine line_;
     simdjson::dom::parser parser_;
     Gen gen_;
     clsProtoEntry proto_entry_;
