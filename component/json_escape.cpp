@@ -7,8 +7,13 @@
 
 #include <simdjson.h>
 
+#include "component/cpu_features.h"
+
 #if defined(__SSE2__)
 #include <emmintrin.h>
+#endif
+#if defined(TAMREL_HAVE_AVX2_KERNELS)
+#include <immintrin.h>
 #endif
 
 #include "core/short_bytes.h"
@@ -16,11 +21,43 @@
 namespace tamrel {
 namespace {
 
+#if defined(TAMREL_HAVE_AVX2_KERNELS)
+// The 32-byte steps of plain_run_end where the processor has AVX2: the
+// position of the first byte that needs attention, or (not found) where the
+// whole steps ended.
+struct Stop {
+    std::size_t at;
+    bool found;
+};
+[[gnu::target("avx2")]] Stop plain_steps_avx2(const char* p, std::size_t n, std::size_t i, bool utf8_checked) {
+    const __m256i quote = _mm256_set1_epi8('"'), backslash = _mm256_set1_epi8('\\');
+    const __m256i below = _mm256_set1_epi8(0x20), controls_max = _mm256_set1_epi8(0x1F);
+    for (; i + 32 <= n; i += 32) {
+        const __m256i x = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + i));
+        // Signed, "below 0x20" takes in the bytes from 0x80 up as well.
+        const __m256i low =
+            utf8_checked ? _mm256_cmpeq_epi8(_mm256_min_epu8(x, controls_max), x) : _mm256_cmpgt_epi8(below, x);
+        const __m256i hit =
+            _mm256_or_si256(low, _mm256_or_si256(_mm256_cmpeq_epi8(x, quote), _mm256_cmpeq_epi8(x, backslash)));
+        if (const unsigned mask = static_cast<unsigned>(_mm256_movemask_epi8(hit)))
+            return {i + static_cast<std::size_t>(std::countr_zero(mask)), true};
+    }
+    return {i, false};
+}
+#endif
+
 // The first byte at or after `i` that is below 0x20, '"' or '\', or, unless
 // `utf8_checked`, 0x80 or above; s.size() when there is none.
 std::size_t plain_run_end(std::string_view s, std::size_t i, bool utf8_checked) {
     const char* p = s.data();
     const std::size_t n = s.size();
+#if defined(TAMREL_HAVE_AVX2_KERNELS)
+    if (cpu_has_avx2()) {
+        const Stop stop = plain_steps_avx2(p, n, i, utf8_checked);
+        if (stop.found) return stop.at;
+        i = stop.at;
+    }
+#endif
 #if defined(__SSE2__)
     const __m128i quote = _mm_set1_epi8('"'), backslash = _mm_set1_epi8('\\');
     const __m128i below = _mm_set1_epi8(0x20), controls_max = _mm_set1_epi8(0x1F);

@@ -1,7 +1,7 @@
 // Writing a text as a JSON string the way the call protocol's general path
 // (nlohmann-json's serializer) writes it: UTF-8 kept as it is, '"' and '\'
 // and the control characters escaped. The records a call returns are long
-// runs of plain bytes, so the text is searched sixteen bytes a step for the
+// runs of plain bytes, so the text is searched 32 or 16 bytes a step for the
 // few that need an escape, and copied a run at a time.
 #pragma once
 #include <string>

@@ -30,7 +30,7 @@ struct ScanMiss {};
 // a string's last bytes stays inside the buffer.
 inline constexpr std::size_t kScanPadding = 8;
 
-// Where a line's quotes are, one bit a byte, found sixteen bytes a step
+// Where a line's quotes are, one bit a byte, found 32 or 16 bytes a step
 // before the line is scanned: the end of a string is then the next bit,
 // found without reading the string. Only for a line without a backslash or
 // a control character, in which every quote opens or closes a string and

@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
-# Runs every benchmark in a Release build: the micro-benchmarks (encoders,
-# frames, GenData of every procedure, protocol lines), then the end-to-end
-# run: N DEUEV reports (default 1,000,000) as NDJSON through
-# `tamrel generate` into an ISO-8859-1 file, with reports/s, output MB/s and
-# peak resident memory from the operating system's accounting.
+# Runs every benchmark in the profile-guided Release build: the
+# micro-benchmarks (encoders, frames, GenData of every procedure, protocol
+# lines, calls), then the end-to-end run: N DEUEV reports (default 1,000,000)
+# as NDJSON through `tamrel generate` into an ISO-8859-1 file, with
+# reports/s, output MB/s and peak resident memory from the operating
+# system's accounting.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 n=${1:-1000000}
 scripts/install-deps.sh
 dpkg -s time >/dev/null 2>&1 || { apt-get update -qq && apt-get install -y -qq time; }
-cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DTAMREL_BENCH=ON -DTAMREL_TESTS=OFF >/dev/null
-cmake --build build-bench -j"$(nproc)"
+scripts/profiled-build.sh build-bench -DTAMREL_TESTS=OFF
 build-bench/bench/tamrel_bench --benchmark_min_time=0.5
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# Installs, builds and runs the whole test suite: once in a Release build,
-# once under AddressSanitizer and UndefinedBehaviorSanitizer, the thread
-# tests under ThreadSanitizer, the installed library's consumers, then the COM
-# server under wine (scripts/com-test.sh) and the fuzzers for half a minute
-# each (scripts/fuzz.sh).
+# Installs, builds and runs the whole test suite: once in the profile-guided
+# Release build, once under AddressSanitizer and UndefinedBehaviorSanitizer,
+# the thread tests under ThreadSanitizer, the installed library's consumers,
+# then the COM server under wine (scripts/com-test.sh) and the fuzzers for
+# half a minute each (scripts/fuzz.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
 jobs=$(nproc)
-cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DTAMREL_BENCH=ON >/dev/null
-cmake --build build -j"$jobs"
+# The Release build as it is installed and packaged: profile-guided.
+scripts/profiled-build.sh build
 ctest --test-dir build --output-on-failure -j"$jobs"
 cmake -S . -B build-san -DCMAKE_BUILD_TYPE=Debug -DTAMREL_SANITIZE=ON >/dev/null
 cmake --build build-san -j"$jobs"
