@@ -2,6 +2,8 @@
 // person, the employer, the receiver and the employee's health insurer, the
 // reason, and every block's dates and amounts (unsigned, of their fields'
 // places).
+#include <string>
+
 #include "certificates/clsGenEntgelt/Entgelt.h"
 #include "checks/checks.h"
 #include "checks/person.h"
@@ -174,6 +176,9 @@ void check_report(const Entgelt& e, Findings& f) {
         const FieldChecks k = c.within("DBVO");
         k.dates(e.DBVO, {{"AUABAG", &eel::DBVO::AUABAG}, {"AUABSV", &eel::DBVO::AUABSV}});
         k.numbers(e.DBVO, {{"GRUNDAV", &eel::DBVO::GRUNDAV, 1}, {"KZAKAU", &eel::DBVO::KZAKAU, 1}});
+        // Its count of earlier incapacities has two digits.
+        if (e.DBVO.Vorerkrankungen.size() > 99)
+            k.add(kListCount, "Vorerkrankungen", std::to_string(e.DBVO.Vorerkrankungen.size()));
     }
     {
         const FieldChecks k = c.within("DBZA");

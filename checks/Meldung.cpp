@@ -1,11 +1,14 @@
 // The checks of the DEUEV report (record DSME): the report reason, the
 // person (insurance number, or the birth data without it), the employment
-// block's keys, dates and amount, the employer and the receiver.
-#include "reports/clsGenMeldung/Meldung.h"
+// block's keys, dates and amount, the accident-insurance entries, the
+// employer and the receiver.
+#include <string>
+
 #include "checks/checks.h"
 #include "checks/field_checks.h"
 #include "checks/person.h"
 #include "checks/rules.h"
+#include "reports/clsGenMeldung/Meldung.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
 namespace tamrel::checks {
@@ -89,6 +92,12 @@ void check_report(const Meldung& m, Findings& f) {
     c.date("Beginn", m.Beginn);
     c.date("Ende", m.Ende);
     c.period("Beginn", m.Beginn, m.Ende);
+
+    // DBUV: its count of entries is a single digit.
+    int accident_entries = 0;
+    for (std::int32_t i = m.UvErster; i <= m.UvLetzter; ++i)
+        accident_entries += !m.UvEntfaellt(static_cast<std::int16_t>(i));
+    if (accident_entries > 9) c.add(kListCount, "UvLetzter", std::to_string(accident_entries));
 
     // The employer and the receiving health insurer.
     check_employer(v, p.Arbeitgeber);

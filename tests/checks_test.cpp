@@ -170,6 +170,19 @@ TEST(DataChecks, DeuevReport) {
          ""},
         {"person group of two digits", [](Meldung& m) { m.Personengruppe = "10"; },
          "error DIGITS Personengruppe (10): expected digits of the field's length\n"},
+        {"ten accident-insurance entries: DBUV counts them in one digit",
+         [](Meldung& m) {
+             m.UvErster = 1;
+             m.UvLetzter = 10;
+         },
+         "error LIST-COUNT UvLetzter (10): more entries than the block's count field holds\n"},
+        {"ten accident-insurance entries, one left out",
+         [](Meldung& m) {
+             m.UvErster = 1;
+             m.UvLetzter = 10;
+             m.UvEntfaellt.set(4, true);
+         },
+         ""},
     };
     for (const Case& c : cases) {
         Meldung m = registration();
@@ -230,6 +243,8 @@ TEST(DataChecks, EachProcedureFindsItsFaults) {
         {"eel-dslw.json", "/DBAL/DATUMAB", "2024-02-15", "DATE DBAL.DATUMAB 2024-02-15"},
         {"eel-dslw.json", "/RUECKMELDUNGEEL", "Y", "FLAG RUECKMELDUNGEEL Y"},
         {"eel-dslw.json", "/BBNRKK", "12345678", "BNR-CHECKDIGIT BBNRKK 12345678"},
+        {"eel-dslw.json", "/DBVO/Vorerkrankungen", json(std::vector<json>(100, json::object())),
+         "LIST-COUNT DBVO.Vorerkrankungen 100"},
         {"betrieb-master-data.json", "/Kennziffer", "1A", "DIGITS Kennziffer 1A"},
         {"abfrvers-query.json", "/Vorgang/Geburtsort", "", "MISSING Vorgang.Geburtsort "},
         {"uv-master-data-query.json", "/Feld417", "20A4", "DIGITS Feld417 20A4"},
