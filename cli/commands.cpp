@@ -103,6 +103,8 @@ int run(int argc, char** argv) {
     genCmd->add_flag("--no-check", go.noCheck,
                      "Build every report as given, without checking its data first (docs/checks.md)");
     genCmd->add_option("--findings", go.findings, "Write every finding of the checks to this file (NDJSON)");
+    genCmd->add_option("--log", go.log,
+                       "Write the log lines of every failed report to this file (NDJSON: report, line, log)");
 
     auto* checkCmd = app.add_subcommand("check", "Check a transfer file: its frame, its records' layouts, its numbers");
     std::string checkFile;

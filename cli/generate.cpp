@@ -67,6 +67,25 @@ std::string finding_line(std::size_t report, std::size_t line, const checks::Fin
     return j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
+// The log lines of one failed report as a line of the --log file.
+std::string failure_log_line(std::size_t report, std::size_t line, const std::vector<std::string>& lines) {
+    nlohmann::ordered_json j;
+    j["report"] = report;
+    if (line) j["line"] = line;
+    j["log"] = lines;
+    return j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+// A --findings or --log file, opened for writing (when asked for); false,
+// and said, when it cannot be.
+bool open_side_file(std::ofstream& f, const std::string& path, const char* option, const Say& say) {
+    if (path.empty()) return true;
+    f.open(path, std::ios::binary | std::ios::trunc);
+    if (f) return true;
+    say(std::string("tamrel generate: ") + option + " " + path + ": cannot be written: " + std::strerror(errno));
+    return false;
+}
+
 // Temporary files of tamrel runs that were killed, in the outputs' folders.
 void sweep(const Outputs& outputs, const Say& say) {
     std::set<std::string> folders;
@@ -145,14 +164,12 @@ int generate(const GenerateOptions& o, const Say& say) {
     };
     settings.note = [&say](const std::string& n) { say("tamrel generate: " + n); };
     settings.check = !o.noCheck;
-    std::ofstream findings;
-    if (!o.findings.empty()) {
-        findings.open(o.findings, std::ios::binary | std::ios::trunc);
-        if (!findings) {
-            say("tamrel generate: --findings " + o.findings + ": cannot be written: " + std::strerror(errno));
-            return 2;
-        }
-    }
+    std::ofstream findings, log;
+    if (!open_side_file(findings, o.findings, "--findings", say) || !open_side_file(log, o.log, "--log", say)) return 2;
+    if (log.is_open())
+        settings.failureLog = [&log](std::size_t report, std::size_t line, const std::vector<std::string>& lines) {
+            log << failure_log_line(report, line, lines) << '\n';
+        };
     // Warnings are told here; an error fails its report, which says why.
     settings.finding = [&findings, &say](std::size_t report, std::size_t line, const checks::Finding& f) {
         if (f.rule->severity == checks::Severity::Warning)

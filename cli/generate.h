@@ -23,6 +23,7 @@ struct GenerateOptions {
     bool transliterate = false;
     bool noCheck = false;  // build every report as given, without the checks
     std::string findings;  // NDJSON file of every finding of the checks; empty: none
+    std::string log;       // NDJSON file of the log lines of every failed report; empty: none
 };
 
 // Exit codes: 0 written; 1 a report failed (nothing written); 2 bad job or

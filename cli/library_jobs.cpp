@@ -45,6 +45,8 @@ GenerateOptions options_of(const char* job_json, const char* options_json) {
             text(o.encoding);
         else if (key == "findings")
             text(o.findings);
+        else if (key == "log")
+            text(o.log);
         else if (key == "crlf")
             flag(o.crlf);
         else if (key == "keep_going")

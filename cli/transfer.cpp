@@ -101,6 +101,9 @@ public:
                    [&] { return job_.procedure->GenNCSZ(session_.host(), job_.frame, std::to_string(count)); });
     }
 
+    const std::vector<std::string>& log() const { return session_.log(); }
+    void clear_log() { session_.clear_log(); }
+
     // The runner that turns each report into its record, with the record
     // identification, procedure and date of the job.
     std::unique_ptr<ReportRunner> runner() const {
@@ -237,6 +240,7 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             if (proto) proto->write(proto_line);
             ++counts.written;
         } catch (const ReportFailure& f) {
+            if (settings.failureLog && !gen.log().empty()) settings.failureLog(index, at, gen.log());
             if (!settings.keepGoing) throw;
             ++counts.failed;
             if (settings.leftOut) settings.leftOut(f);
@@ -248,6 +252,7 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
                 proto->write(proto_line);
             }
         }
+        gen.clear_log();
         if (settings.progress && index % 100000 == 0) settings.progress(index);
     }
     const std::size_t count = counts.written + (xml ? 0 : 1);

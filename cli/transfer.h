@@ -51,6 +51,10 @@ struct TransferSettings {
     bool check = true;
     std::function<void(std::size_t report, std::size_t line, const checks::Finding&)> finding;
     std::function<void(std::size_t)> progress;
+    // Called with the lines the log received while a report failed (what a
+    // call's "log" holds), with the report's number and NDJSON line; a
+    // report's lines are forgotten after it, kept or not.
+    std::function<void(std::size_t report, std::size_t line, const std::vector<std::string>& log)> failureLog;
 };
 
 struct TransferCounts {

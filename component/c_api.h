@@ -46,6 +46,7 @@ TAMREL_API char* tamrel_call(const char* request_json);
      "crlf", "keep_going", "transliterate"   false by default
      "check"         true by default: the checks before building
      "findings"      an NDJSON file for every finding of the checks
+     "log"           an NDJSON file for the log lines of every failed report
    The files are written atomically: all or nothing.
    Returns the exit code of `tamrel generate`: 0 written; 1 a report failed
    and nothing was written; 2 the job or the options are not valid; 3

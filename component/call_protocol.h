@@ -25,6 +25,9 @@ public:
     std::string invoke(const Method& method, const nlohmann::json& args);
 
     const std::vector<std::string>& log() const { return *lines_; }
+    // Forgets the lines logged so far: a run of many reports takes each
+    // report's lines and starts afresh.
+    void clear_log() { lines_->clear(); }
     const Host& host() const { return host_; }
     nlohmann::ordered_json& out() { return out_; }
 

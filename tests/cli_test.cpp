@@ -203,6 +203,28 @@ TEST_F(Cli, CallAnswersEveryLineInOrder) {
     EXPECT_EQ(json::parse(c)["request_error"], "method: clsGenAsyl has no method GenDSKO");
 }
 
+// --log keeps the log lines of each failed report, and only its own: a long
+// run of failing reports does not pile them up.
+TEST_F(Cli, LogKeepsEachFailedReportsLines) {
+    auto jobFile = write("job.json", job({report("A"), report("B", "99"), report("C", "99")}).dump());
+    const std::string log = (dir_ / "log.ndjson").string();
+    Result r = run("generate " + jobFile.string() + " -o " + (dir_ / "out.txt").string() +
+                   " --no-check --keep-going --log " + log);
+    EXPECT_EQ(r.status, 3);
+    std::istringstream lines(slurp(log));
+    std::vector<json> failed;
+    for (std::string line; std::getline(lines, line);) failed.push_back(json::parse(line));
+    ASSERT_EQ(failed.size(), 2u);
+    EXPECT_EQ(failed[0]["report"], 2);
+    EXPECT_EQ(failed[1]["report"], 3);
+    const json& first = failed[0]["log"];
+    ASSERT_FALSE(first.empty());
+    EXPECT_NE(first.back().get<std::string>().find("): clsGenMeldung.GenData(<objMeldung>, <udtDatensatzData>, "),
+              std::string::npos)
+        << first;
+    EXPECT_EQ(failed[1]["log"], first);
+}
+
 // The checks before generating: an error stops the report, a warning is told,
 // --findings holds both, --no-check builds the report as given.
 TEST_F(Cli, ChecksStopABadReportAndTellWarnings) {

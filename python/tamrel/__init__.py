@@ -113,8 +113,9 @@ def generate(job, path, protocol=None, **options):
     """Runs a generate job (a dict, its JSON text, or a job file's path) into
     the transfer file `path` and, if given, the protocol file, as tamrel
     generate does; the options are those of the C interface (encoding, crlf,
-    keep_going, transliterate, check, findings, reports). Returns the exit
-    code (0, or 3 when failed reports were left out) and the messages."""
+    keep_going, transliterate, check, findings, log, reports). Returns the
+    exit code (0, or 3 when failed reports were left out) and the
+    messages."""
     options = dict(options, output=os.fspath(path))
     if protocol is not None:
         options["protocol"] = os.fspath(protocol)
