@@ -1,7 +1,10 @@
 #include "component/call_fast.h"
 
+#include <utility>
+
 #include "component/call_response.h"
 #include "component/json_limits.h"
+#include "component/json_simd.h"
 
 namespace tamrel {
 namespace {
@@ -37,38 +40,21 @@ bool document_call(std::string_view line, std::string& out) {
     if (scratch.parser.parse(scratch.padded.data(), scratch.padded.size(), false).get(doc) ||
         doc.type() != element_type::OBJECT)
         return false;
-    Head p;
-    std::string_view cls, name;
+    HeadReader reader;
     Args args;
-    // The request's keys, each to be given once.
-    enum : unsigned { kClass = 1, kMethod = 2, kArgs = 4, kNow = 8, kId = 16 };
-    unsigned seen = 0;
-    const auto first = [&seen](unsigned key) { return !(seen & key) && (seen |= key); };
+    bool has_args = false;
     const object request = doc.get_object().value_unsafe();
     for (simdjson::dom::key_value_pair kv : request) {
-        if (kv.key == "class") {
-            if (!first(kClass) || kv.value.get_string().get(cls)) return false;
-        } else if (kv.key == "method") {
-            if (!first(kMethod) || kv.value.get_string().get(name)) return false;
-        } else if (kv.key == "args") {
+        if (kv.key == "args") {
             object given;
-            if (!first(kArgs) || kv.value.get_object().get(given) || !read_args(given, args)) return false;
-        } else if (kv.key == "now") {
-            std::string_view text;
-            if (!first(kNow) || kv.value.get_string().get(text) || !parse_now(text, p)) return false;
-        } else if (kv.key == "id") {
-            if (!first(kId)) return false;
-            if (kv.value.type() == element_type::INT64)
-                p.id = Head::Integer, p.id_integer = kv.value.get_int64().value_unsafe();
-            else if (kv.value.type() == element_type::STRING)
-                p.id = Head::Text, p.id_text = kv.value.get_string().value_unsafe();
-            else
+            if (std::exchange(has_args, true) || kv.value.get_object().get(given) || !read_args(given, args))
                 return false;
-        } else {
-            return false;  // "tests", or a key that is a request error
+        } else if (!reader.read(kv.key, json_binding::SimdValue{kv.value})) {
+            return false;
         }
     }
-    if (!(seen & kClass) || !(seen & kMethod) || !(p.method = find_method(cls, name))) return false;
+    if (!reader.find()) return false;
+    const Head& p = reader.head;
     if (!arguments_fit(*p.method, [&](auto&& f) { return args.all_names(f); })) return false;
     return respond(
         p, [&](const Host& host) { return Invocation(args, host); }, out);

@@ -1,6 +1,7 @@
 // The table behind the call protocol: for each creatable class, its methods
 // with their parameter names (required and optional) and how to invoke them.
 #pragma once
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -43,9 +44,7 @@ public:
         }
         template <class F>
         bool all_names(F&& f) const {
-            for (std::size_t i = 0; i < count_; ++i)
-                if (!f(slots_[i].name)) return false;
-            return true;
+            return std::all_of(slots_, slots_ + count_, [&](const Slot& s) { return f(s.name); });
         }
 
     private:

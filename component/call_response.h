@@ -29,6 +29,45 @@ struct Head {
 // The class's method, or nullptr where the general path must answer.
 const Method* find_method(std::string_view cls, std::string_view name);
 
+// "now": a date text, not empty.
+bool parse_now(std::string_view text, Head& head);
+
+// The request's keys besides "args", read as they come (through a value
+// adapter of json_binding.h), each once.
+class HeadReader {
+public:
+    Head head;
+
+    // False where the request is left to the next reader: a key given
+    // twice, a value of another type, "tests", or a key that is a request
+    // error.
+    template <class Value>
+    bool read(std::string_view key, const Value& value) {
+        if (key == "class") return first(kClass) && value.get_string(cls_);
+        if (key == "method") return first(kMethod) && value.get_string(name_);
+        if (key == "now") {
+            std::string_view text;
+            return first(kNow) && value.get_string(text) && parse_now(text, head);
+        }
+        if (key == "id") {
+            if (!first(kId)) return false;
+            if (value.get_string(head.id_text)) return head.id = Head::Text, true;
+            constexpr std::int64_t kLimit = 999'999'999'999'999'999;  // what the scanner reads of an integer
+            return value.is_integer() && value.integer(-kLimit, kLimit, head.id_integer) &&
+                   (head.id = Head::Integer, true);
+        }
+        return false;
+    }
+    // Whether class and method were given and name a method, now head.method.
+    bool find() { return (seen_ & kClass) && (seen_ & kMethod) && (head.method = find_method(cls_, name_)); }
+
+private:
+    enum : unsigned { kClass = 1, kMethod = 2, kNow = 4, kId = 8 };
+    bool first(unsigned key) { return !(seen_ & key) && (seen_ |= key); }
+    unsigned seen_ = 0;
+    std::string_view cls_, name_;
+};
+
 // Every argument name (as `each_name(f)` hands them to f) known, every
 // required one given.
 template <class EachName>
@@ -41,9 +80,6 @@ bool arguments_fit(const Method& method, EachName&& each_name) {
     });
     return known && required == method.required.size();
 }
-
-// "now": a date text, not empty.
-bool parse_now(std::string_view text, Head& head);
 
 bool append_lines(std::string& out, const std::vector<std::string>& lines);
 

@@ -5,6 +5,7 @@
 // passing over them, and they are kept (where their values start) for when
 // the method asks for them.
 #pragma once
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -23,59 +24,37 @@ public:
     // not give it.
     template <class F>
     bool with(std::string_view name, F&& read) {
-        if (Arg* a = kept(name)) {
+        Arg* a = kept(name);
+        if (a && a != at_value_) {  // passed over before: read where it starts
             a->read = true;
-            if (a == at_value_) {  // has() stopped here: read in place
-                at_value_ = nullptr;
-                read(json_binding::ScanValue{at_, quotes_});
-                after_value();
-                return true;
-            }
             const char* from = a->value;
             read(json_binding::ScanValue{&from, quotes_});
             return true;
         }
-        while (next_name()) {
-            Arg& a = args_[count_++];
-            a = {name_, *at_, false};
-            if (bytes::equal(name_, name)) {
-                a.read = true;
-                read(json_binding::ScanValue{at_, quotes_});
-                after_value();
-                return true;
-            }
-            pass_over();
-        }
-        return false;
+        if (a)
+            at_value_ = nullptr;  // has() stopped here: read in place
+        else if (!(a = find_ahead(name)))
+            return false;
+        a->read = true;
+        read(json_binding::ScanValue{at_, quotes_});
+        after_value();
+        return true;
     }
     // Whether the request gives argument `name`; when it is the next one,
     // the cursor stays at its value, for with() to read it there.
     bool has(std::string_view name) {
         if (kept(name)) return true;
-        while (next_name()) {
-            Arg& a = args_[count_++];
-            a = {name_, *at_, false};
-            if (bytes::equal(name_, name)) {
-                at_value_ = &a;
-                return true;
-            }
-            pass_over();
-        }
-        return false;
+        at_value_ = find_ahead(name);
+        return at_value_ != nullptr;
     }
     // After the method: the object closed and every argument given read
     // (one given twice, or one the method did not ask for, is not).
     bool all_read() const {
-        if (!closed_) return false;
-        for (std::size_t i = 0; i < count_; ++i)
-            if (!args_[i].read) return false;
-        return true;
+        return closed_ && std::all_of(args_, args_ + count_, [](const Arg& a) { return a.read; });
     }
     template <class F>
     bool all_names(F&& f) const {
-        for (std::size_t i = 0; i < count_; ++i)
-            if (!f(args_[i].name)) return false;
-        return true;
+        return std::all_of(args_, args_ + count_, [&](const Arg& a) { return f(a.name); });
     }
 
 private:
@@ -87,6 +66,18 @@ private:
     Arg* kept(std::string_view name) {
         for (std::size_t i = 0; i < count_; ++i)
             if (!args_[i].read && bytes::equal(args_[i].name, name)) return &args_[i];
+        return nullptr;
+    }
+    // Passes over the arguments ahead up to `name`, keeping where each
+    // starts; `name`'s, with the cursor at its value, or nullptr at the end
+    // of the object.
+    Arg* find_ahead(std::string_view name) {
+        while (next_name()) {
+            Arg& a = args_[count_++];
+            a = {name_, *at_, false};
+            if (bytes::equal(name_, name)) return &a;
+            pass_over();
+        }
         return nullptr;
     }
     // Reads the next argument's name into name_, the cursor left at its
