@@ -1,5 +1,7 @@
 #include "checks/transfer_file.h"
 
+#include <cstdio>
+#include <memory>
 #include <stdexcept>
 
 #include "checks/field_kinds.h"
@@ -9,17 +11,34 @@
 #include "checks/rules.h"
 #include "checks/values.h"
 #include "core/frame_layouts.h"
+#include "core/line_reader.h"
+#include "core/printable.h"
 
 namespace tamrel::checks {
 namespace {
 
-// UTF-8 when the whole file is, else one character a byte.
-void decode(std::string_view line, bool utf8, std::u32string& out) {
+// The characters where ISO-8859-15 differs from ISO-8859-1.
+char32_t latin9(unsigned char c) {
+    switch (c) {
+        case 0xA4: return U'\u20AC';
+        case 0xA6: return U'\u0160';
+        case 0xA8: return U'\u0161';
+        case 0xB4: return U'\u017D';
+        case 0xB8: return U'\u017E';
+        case 0xBC: return U'\u0152';
+        case 0xBD: return U'\u0153';
+        case 0xBE: return U'\u0178';
+        default: return c;
+    }
+}
+
+// UTF-8 (known valid), else one character a byte.
+void decode(std::string_view line, FileEncoding encoding, std::u32string& out) {
     out.clear();
     for (std::size_t i = 0; i < line.size();) {
         const auto c = static_cast<unsigned char>(line[i]);
-        if (!utf8 || c < 0x80) {
-            out += c, ++i;
+        if (encoding != FileEncoding::Utf8 || c < 0x80) {
+            out += encoding == FileEncoding::Latin9 ? latin9(c) : c, ++i;
             continue;
         }
         const int n = c >= 0xF0 ? 3 : c >= 0xE0 ? 2 : 1;
@@ -134,29 +153,63 @@ private:
 
 }  // namespace
 
-void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each) {
+void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each, FileEncoding encoding) {
     std::string line;
-    auto lines = [&](auto&& take) {
-        in.clear();
-        in.seekg(0);
-        while (std::getline(in, line)) {
-            if (!line.empty() && line.back() == '\r') line.pop_back();
-            take(line);
+    std::size_t length = 0;
+    // One pass over the lines, each within the bound.
+    auto lines = [&](LineReader reader, auto&& take) {
+        for (std::size_t number = 1; reader.next(line, length); ++number) {
+            if (reader.overlong())
+                throw std::runtime_error("record " + std::to_string(number) + ": " +
+                                         line_too_long_text(length, kMaxRecordBytes));
+            take(number);
         }
+        if (in.bad()) throw std::runtime_error("cannot be read");
     };
-    bool utf8 = true, any = false, xml = false;
-    lines([&](const std::string& l) {
-        if (!any) xml = l.starts_with("<?xml");
-        any = true;
-        if (utf8 && !valid_utf8(l)) utf8 = false;
-    });
-    if (!any) throw std::runtime_error("the file is empty");
-    if (xml) throw std::runtime_error("an XML report: only fixed-width files are read");
+    auto first_line = [&](std::size_t number) {
+        if (number == 1 && line.starts_with("<?xml"))
+            throw std::runtime_error("an XML report: only fixed-width files are read");
+    };
+    bool any = false;
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> spool(nullptr, &std::fclose);
+    if (encoding == FileEncoding::Detect) {
+        const bool seekable = in.rdbuf()->pubseekoff(0, std::ios::cur, std::ios::in) != std::streampos(-1);
+        if (!seekable) {
+            spool.reset(std::tmpfile());
+            if (!spool) throw std::runtime_error("no temporary file to read the input twice; give --encoding");
+        }
+        bool utf8 = true;
+        lines(LineReader(in, kMaxRecordBytes), [&](std::size_t number) {
+            first_line(number);
+            any = true;
+            if (utf8 && !valid_utf8(line)) utf8 = false;
+            if (spool && (std::fwrite(line.data(), 1, line.size(), spool.get()) != line.size() ||
+                          std::fputc('\n', spool.get()) == EOF))
+                throw std::runtime_error("the temporary copy of the input cannot be written");
+        });
+        if (!any) throw std::runtime_error("the file is empty");
+        encoding = utf8 ? FileEncoding::Utf8 : FileEncoding::Latin1;
+        if (spool) {
+            std::rewind(spool.get());
+        } else {
+            in.clear();
+            in.seekg(0);
+        }
+    }
     std::u32string record;
-    lines([&](const std::string& l) {
-        decode(l, utf8, record);
+    auto take = [&](std::size_t number) {
+        first_line(number);
+        any = true;
+        if (encoding == FileEncoding::Utf8 && !valid_utf8(line))
+            throw std::runtime_error("record " + std::to_string(number) + ": not UTF-8");
+        decode(line, encoding, record);
         each(record);
-    });
+    };
+    if (spool)
+        lines(LineReader(spool.get(), kMaxRecordBytes), take);
+    else
+        lines(LineReader(in, kMaxRecordBytes), take);
+    if (!any) throw std::runtime_error("the file is empty");
 }
 
 std::string to_utf8(std::u32string_view s) { return walk_detail::utf8_of(s); }
@@ -166,10 +219,10 @@ std::string field_text(std::u32string_view record, const FieldLayout& f) {
     return to_utf8(record.substr(f.pos - 1u, f.len));
 }
 
-FileCheck check_transfer_file(std::istream& in) {
+FileCheck check_transfer_file(std::istream& in, FileEncoding encoding) {
     FileCheck out;
     FileChecker checker(out);
-    read_records(in, [&](std::u32string_view r) { checker.add(r); });
+    read_records(in, [&](std::u32string_view r) { checker.add(r); }, encoding);
     checker.finish();
     return out;
 }
@@ -181,7 +234,7 @@ std::string describe(const FileFinding& f) {
         s += " " + f.field + " (pos " + std::to_string(f.pos) + "-" + std::to_string(f.pos + f.len - 1) + ")";
     else if (f.pos)
         s += " (character " + std::to_string(f.pos) + ")";
-    if (!f.value.empty() || !f.field.empty()) s += " \"" + f.value + "\"";
+    if (!f.value.empty() || !f.field.empty()) s += " \"" + printable(f.value) + "\"";
     return s + ": " + (f.rule->severity == Severity::Error ? "error " : "warning ") + std::string(f.rule->id) + " " +
            std::string(f.rule->english);
 }

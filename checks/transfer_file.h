@@ -16,12 +16,24 @@
 
 namespace tamrel::checks {
 
-// Reads the file's records one at a time as characters (UTF-8 decoded when
-// the whole file is UTF-8, else ISO-8859-1/15 byte for byte), without their
-// line endings (LF or CR LF): two passes over the stream, memory for one
-// record. Throws std::runtime_error for a file that is no fixed-width
-// transfer file.
-void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each);
+// The longest record line read: far above the longest record of any
+// layout (a few thousand characters), so that only a file that is no
+// transfer file meets it.
+inline constexpr std::size_t kMaxRecordBytes = std::size_t{1} << 20;
+
+// How a file's bytes are read as characters: found out (UTF-8 when the
+// whole file is, else ISO-8859-1), or as given.
+enum class FileEncoding { Detect, Latin1, Latin9, Utf8 };
+
+// Reads the file's records one at a time as characters, without their line
+// endings (LF or CR LF): memory for one record, whatever the input. Finding
+// out the encoding takes two passes; a stream that cannot be read twice
+// (standard input, a pipe) is kept in an anonymous temporary file for the
+// second. Throws std::runtime_error for a file that is no fixed-width
+// transfer file, and for a line longer than kMaxRecordBytes (the reading
+// stops there: an endless line is never read to its end).
+void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each,
+                  FileEncoding encoding = FileEncoding::Detect);
 
 // A field's characters, as UTF-8.
 std::string field_text(std::u32string_view record, const FieldLayout& f);
@@ -43,7 +55,7 @@ struct FileCheck {
     std::vector<FileFinding> findings;
 };
 
-FileCheck check_transfer_file(std::istream& in);
+FileCheck check_transfer_file(std::istream& in, FileEncoding encoding = FileEncoding::Detect);
 
 // "record 3 DSME/DBME Entgelt (pos 26-31) "0-5400": error DIGITS expected digits …"
 std::string describe(const FileFinding& f);

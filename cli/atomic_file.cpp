@@ -36,9 +36,11 @@ void install_handlers_once() {
         sa.sa_handler = remove_temps_and_reraise;
         sigemptyset(&sa.sa_mask);
         for (int sig : {SIGINT, SIGTERM, SIGHUP}) sigaction(sig, &sa, nullptr);
-        // A file-size limit makes the write fail (and the file be removed)
-        // instead of ending the process.
+        // A file-size limit or a closed pipe makes the write fail (and the
+        // files be removed or left as they were) instead of ending the
+        // process half way.
         std::signal(SIGXFSZ, SIG_IGN);
+        std::signal(SIGPIPE, SIG_IGN);
         return true;
     }();
     (void)installed;
@@ -117,8 +119,8 @@ void AtomicFile::flush() {
 }
 
 void AtomicFile::copy_to_target() {
-    const bool out = target_.kind == OutputTarget::Stdout;
-    const int fd = out ? STDOUT_FILENO : ::open(target_.real.c_str(), O_WRONLY | O_CLOEXEC);
+    const bool out = target_.kind == OutputTarget::Descriptor;
+    const int fd = out ? target_.fd : ::open(target_.real.c_str(), O_WRONLY | O_CLOEXEC);
     if (fd < 0) throw std::runtime_error(target_.given + ": cannot be opened: " + std::strerror(errno));
     std::rewind(file_);
     char chunk[1 << 16];
@@ -182,13 +184,14 @@ void AtomicFile::done() {
 
 void commit_all(std::initializer_list<AtomicFile*> files) {
     for (AtomicFile* f : files) f->flush();
-    // Files are renamed before anything goes to a device or pipe, which
-    // cannot be taken back.
+    // Streams (a device, a pipe, standard output) are delivered first:
+    // when one breaks, no file has been renamed yet, and every file keeps
+    // what it held. A rename that fails after them is undone for the files.
     std::vector<AtomicFile*> order;
     for (AtomicFile* f : files)
-        if (f->target_.is_file()) order.push_back(f);
-    for (AtomicFile* f : files)
         if (!f->target_.is_file()) order.push_back(f);
+    for (AtomicFile* f : files)
+        if (f->target_.is_file()) order.push_back(f);
     std::size_t in_place = 0;
     try {
         for (; in_place < order.size(); ++in_place) order[in_place]->install();

@@ -13,11 +13,11 @@
 
 #include "cli/file_commands.h"
 #include "cli/generate.h"
-#include "cli/line_reader.h"
 #include "cli/output_encoding.h"
 #include "component/call_protocol.h"
 #include "component/json_limits.h"
 #include "component/reference_docs.h"
+#include "core/line_reader.h"
 #include "core/version.h"
 
 namespace tamrel::cli {
@@ -26,35 +26,53 @@ namespace {
 // NDJSON requests in, one response line each, flushed per line. A blank
 // line is skipped (it is no request); with `numbered` every response says
 // the line of its request as "line", so that no answer can be taken for
-// another line's.
+// another line's. A line beyond the bound is answered with its request
+// error and ends the run: what follows it cannot be told apart from it.
 int call_stream(std::istream& in, bool numbered) {
     bool any_request_error = false;
     LineReader reader(in, kMaxLineBytes);
     std::string line, response;
     std::size_t length = 0;
     for (std::size_t number = 1; reader.next(line, length); ++number) {
-        if (length == line.size() && line.find_first_not_of(" \t") == std::string::npos) continue;
+        if (!reader.overlong() && line.find_first_not_of(" \t") == std::string::npos) continue;
         bool request_error = false;
         call_line(line, response, request_error);
         if (numbered) response.insert(1, "\"line\":" + std::to_string(number) + (response.size() > 2 ? "," : ""));
         std::cout << response << '\n' << std::flush;
         any_request_error |= request_error;
+        if (!std::cout) break;  // the reader is gone
     }
     return any_request_error ? 2 : 0;
 }
 
-// Writes the reference documentation below `dir`.
+// Writes the reference documentation below `dir` and says what it wrote.
 int write_docs(const std::string& dir) {
+    std::size_t count = 0;
     for (const auto& [name, text] : reference_docs()) {
         const std::filesystem::path path = std::filesystem::path(dir) / name;
-        std::filesystem::create_directories(path.parent_path());
+        std::error_code ec;
+        std::filesystem::create_directories(path.parent_path(), ec);
         std::ofstream out(path, std::ios::binary | std::ios::trunc);
         if (!(out << text)) {
             std::cerr << "tamrel docs: " << path.string() << ": cannot be written: " << std::strerror(errno) << '\n';
             return 4;
         }
+        std::cout << path.string() << '\n';
+        ++count;
     }
+    std::cerr << "tamrel docs: " << count << " files written below " << dir << '\n';
     return 0;
+}
+
+// An option given with an empty path names no file: refused, as a missing
+// value would be, instead of quietly writing nothing.
+bool empty_path_given(const CLI::App& cmd, std::initializer_list<std::pair<const char*, const std::string*>> paths) {
+    for (const auto& [option, value] : paths)
+        if (cmd.count(option) && value->empty()) {
+            std::cerr << "tamrel " << cmd.get_name() << ": " << option << ": the path is empty\n";
+            return true;
+        }
+    return false;
 }
 
 constexpr const char* kSubcommands[] = {"call", "generate", "check", "inspect", "docs"};
@@ -77,9 +95,7 @@ int run(int argc, char** argv) {
     CLI::App app{"tamrel: records of the German social-insurance reporting procedures"};
     app.set_version_flag("--version", std::string("tamrel ") + kVersionText);
     app.require_subcommand(1);
-    app.footer(
-        "Exit codes: 0 success; 1 a report failed, nothing written; 2 bad command line, job or request;\n"
-        "3 written with failed reports left out (--keep-going); 4 the output could not be written.");
+    app.footer("Every subcommand has its own --help, with its exit codes.");
 
     auto* callCmd = app.add_subcommand("call", "Call the library with JSON requests, one per line (NDJSON)");
     std::string callFile;
@@ -106,24 +122,50 @@ int run(int argc, char** argv) {
     genCmd->add_option("--log", go.log,
                        "Write the log lines of every failed report to this file (NDJSON: report, line, log)");
 
+    genCmd->footer(
+        "Exit codes: 0 success; 1 a report failed, nothing written; 2 bad command line, job or request;\n"
+        "3 written with failed reports left out (--keep-going); 4 the output could not be written.");
+
+    const char* fileHelp = "Transfer file (-: standard input)";
+    const char* encodingHelp =
+        "How the file's bytes are read: ISO-8859-1, ISO-8859-15 or UTF-8 (default: UTF-8 when the whole file is, "
+        "else ISO-8859-1)";
     auto* checkCmd = app.add_subcommand("check", "Check a transfer file: its frame, its records' layouts, its numbers");
-    std::string checkFile;
-    checkCmd->add_option("FILE", checkFile, "Transfer file (ISO-8859-1, ISO-8859-15 or UTF-8; LF or CR LF)")
-        ->required();
+    FileOptions checkFile;
+    checkCmd->add_option("FILE", checkFile.path, fileHelp)->required();
+    checkCmd->add_option("--encoding", checkFile.encoding, encodingHelp);
+    checkCmd->add_flag("--json", checkFile.json,
+                       "One JSON object per finding (NDJSON, as generate's --findings); the summary goes to standard "
+                       "error");
     checkCmd->footer("Exit codes: 0 clean; 1 errors found; 2 the file cannot be read.");
 
     auto* inspectCmd = app.add_subcommand("inspect", "Show a transfer file field by field");
-    std::string inspectFile;
-    bool inspectJson = false;
+    FileOptions inspectFile;
     std::size_t inspectRecord = 0;
-    inspectCmd->add_option("FILE", inspectFile, "Transfer file")->required();
-    inspectCmd->add_flag("--json", inspectJson, "One JSON object per field (NDJSON) instead of a table");
-    inspectCmd->add_option("--record", inspectRecord, "Only this record (1 for the first)");
+    inspectCmd->add_option("FILE", inspectFile.path, fileHelp)->required();
+    inspectCmd->add_option("--encoding", inspectFile.encoding, encodingHelp);
+    inspectCmd->add_flag("--json", inspectFile.json, "One JSON object per field (NDJSON) instead of a table");
+    inspectCmd->add_option("--record", inspectRecord, "Only this record (1 for the first)")
+        ->check(CLI::Validator(
+            [](std::string& v) {
+                return v.find_first_not_of('0') == std::string::npos ? std::string("records are counted from 1")
+                                                                     : std::string();
+            },
+            "1 or more"));
+    inspectCmd->footer("Exit codes: 0 shown; 2 the file cannot be read, or it has no such record.");
 
     auto* docsCmd = app.add_subcommand("docs", "Write the reference documentation (call protocol, data objects)");
-    std::string docsDir = "docs";
-    docsCmd->add_option("DIR", docsDir, "Folder to write into (default: docs)");
+    std::string docsDir;
+    docsCmd->add_option("DIR", docsDir, "Folder to write into (the project's docs/: tamrel docs docs)")->required();
+    docsCmd->footer("Exit codes: 0 written (each file's path on standard output); 2 bad command line; 4 a file "
+                    "could not be written.");
 
+    if (argc < 2) {
+        std::cerr << "tamrel: a subcommand is required:";
+        for (const char* sub : kSubcommands) std::cerr << ' ' << sub;
+        std::cerr << " (tamrel --help)\n";
+        return 2;
+    }
     if (unknown_subcommand(argc, argv)) return 2;
     try {
         app.parse(argc, argv);
@@ -140,9 +182,15 @@ int run(int argc, char** argv) {
         }
         return call_stream(in, numbered);
     }
+    if (*genCmd && empty_path_given(*genCmd, {{"--output", &go.output},
+                                              {"--protocol", &go.protocol},
+                                              {"--reports", &go.reports},
+                                              {"--findings", &go.findings},
+                                              {"--log", &go.log}}))
+        return 2;
     if (*checkCmd) return check_file(checkFile);
     if (*docsCmd) return write_docs(docsDir);
-    if (*inspectCmd) return inspect_file(inspectFile, inspectJson, inspectRecord);
+    if (*inspectCmd) return inspect_file(inspectFile, inspectRecord);
     go.progress = isatty(STDERR_FILENO);
     return generate(go, [](const std::string& line) { std::cerr << line << '\n'; });
 }

@@ -2,7 +2,9 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <optional>
 #include <iostream>
 
 #include <nlohmann/json.hpp>
@@ -11,6 +13,8 @@
 #include "checks/line_walk.h"
 #include "checks/rules.h"
 #include "checks/transfer_file.h"
+#include "cli/output_encoding.h"
+#include "core/printable.h"
 
 namespace tamrel::cli {
 namespace {
@@ -18,41 +22,74 @@ namespace {
 // Runs `body` on the opened file; a file that cannot be read or is no
 // transfer file is told on standard error (exit code 2).
 template <class Body>
-int with_file(const std::string& command, const std::string& path, Body&& body) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        std::cerr << "tamrel " << command << ": " << path << ": cannot be read: " << std::strerror(errno) << '\n';
+int with_file(const std::string& command, const FileOptions& o, Body&& body) {
+    auto refuse = [&](const std::string& why) {
+        std::cerr << "tamrel " << command << ": " << printable(o.path) << ": " << why << '\n';
         return 2;
+    };
+    checks::FileEncoding encoding = checks::FileEncoding::Detect;
+    if (!o.encoding.empty()) {
+        const std::optional<Encoding> e = parse_encoding(o.encoding);
+        if (!e) {
+            std::cerr << "tamrel " << command << ": --encoding: expected " << kEncodingSpellings << '\n';
+            return 2;
+        }
+        encoding = *e == Encoding::Utf8     ? checks::FileEncoding::Utf8
+                   : *e == Encoding::Latin9 ? checks::FileEncoding::Latin9
+                                            : checks::FileEncoding::Latin1;
+    }
+    std::ifstream file;
+    if (o.path != "-") {
+        if (std::filesystem::is_directory(o.path)) return refuse("is a folder, not a transfer file");
+        file.open(o.path, std::ios::binary);
+        if (!file) return refuse(std::string("cannot be read: ") + std::strerror(errno));
     }
     try {
-        return body(in);
+        return body(o.path == "-" ? std::cin : file, encoding);
     } catch (const std::exception& e) {
-        std::cerr << "tamrel " << command << ": " << path << ": " << e.what() << '\n';
-        return 2;
+        return refuse(e.what());
     }
+}
+
+void print_json(const nlohmann::ordered_json& j) {
+    std::cout << j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+}
+
+// One finding of a file as a line of `check --json`, with the same keys as
+// a finding of generate's --findings where they mean the same.
+nlohmann::ordered_json finding_json(const checks::FileFinding& f) {
+    nlohmann::ordered_json j = {{"record", f.record}, {"id", f.id}};
+    if (!f.part.empty()) j["part"] = f.part;
+    if (!f.field.empty()) j["field"] = f.field;
+    if (f.pos) j.update(nlohmann::ordered_json{{"pos", f.pos}, {"len", f.len}});
+    j.update(nlohmann::ordered_json{{"value", f.value},
+                                    {"rule", f.rule->id},
+                                    {"severity", f.rule->severity == checks::Severity::Error ? "error" : "warning"},
+                                    {"message", f.rule->german},
+                                    {"message_en", f.rule->english}});
+    return j;
 }
 
 }  // namespace
 
-int check_file(const std::string& path) {
-    return with_file("check", path, [&](std::istream& in) {
-        const checks::FileCheck result = checks::check_transfer_file(in);
+int check_file(const FileOptions& o) {
+    return with_file("check", o, [&](std::istream& in, checks::FileEncoding encoding) {
+        const checks::FileCheck result = checks::check_transfer_file(in, encoding);
         std::size_t errors = 0, warnings = 0;
         for (const checks::FileFinding& f : result.findings) {
-            std::cout << checks::describe(f) << '\n';
+            if (o.json)
+                print_json(finding_json(f));
+            else
+                std::cout << checks::describe(f) << '\n';
             ++(f.rule->severity == checks::Severity::Error ? errors : warnings);
         }
-        std::cout << path << ": " << result.records << " records, " << errors << " errors, " << warnings
-                  << " warnings\n";
+        (o.json ? std::cerr : std::cout) << printable(o.path) << ": " << result.records << " records, " << errors
+                                          << " errors, " << warnings << " warnings\n";
         return errors ? 1 : 0;
     });
 }
 
 namespace {
-
-void print_json(const nlohmann::ordered_json& j) {
-    std::cout << j.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
-}
 
 // One part of a record line (the record, a block, an entry), field by field.
 void show_part(std::size_t number, const std::string& id, std::u32string_view r, const checks::Part& p, bool json) {
@@ -75,15 +112,15 @@ void show_part(std::size_t number, const std::string& id, std::u32string_view r,
         char head[96];
         std::snprintf(head, sizeof head, "  %3u-%-3u  %-40.*s %-9s ", f.pos, f.pos + f.len - 1u,
                       static_cast<int>(f.name.size()), f.name.data(), checks::kind_name(f.kind));
-        std::cout << head << "[" << raw << "]" << (value != raw && !value.empty() ? "  " + value : std::string())
-                  << '\n';
+        std::cout << head << "[" << printable(raw) << "]"
+                  << (value != raw && !value.empty() ? "  " + printable(value) : std::string()) << '\n';
     }
 }
 
 void show_record(std::size_t number, std::u32string_view r, bool json) {
     const RecordLayout* layout = checks::find_layout(r);
     const std::string id = checks::to_utf8(r.substr(0, 4));
-    if (!json) std::cout << "record " << number << " " << id << " (" << r.size() << " characters)\n";
+    if (!json) std::cout << "record " << number << " " << printable(id) << " (" << r.size() << " characters)\n";
     if (!layout) {
         if (json)
             print_json({{"record", number}, {"id", id}, {"raw", checks::to_utf8(r)}});
@@ -99,19 +136,22 @@ void show_record(std::size_t number, std::u32string_view r, bool json) {
             print_json(
                 {{"record", number}, {"id", id}, {"at", problem.at + 1}, {"raw", rest}, {"problem", problem.rule->id}});
         else
-            std::cout << "  from character " << problem.at + 1 << ": " << problem.rule->english << ": [" << rest
-                      << "]\n";
+            std::cout << "  from character " << problem.at + 1 << ": " << problem.rule->english << ": ["
+                      << printable(rest) << "]\n";
     }
 }
 
 }  // namespace
 
-int inspect_file(const std::string& path, bool json, std::size_t only) {
-    return with_file("inspect", path, [&](std::istream& in) {
+int inspect_file(const FileOptions& o, std::size_t only) {
+    return with_file("inspect", o, [&](std::istream& in, checks::FileEncoding encoding) {
         std::size_t number = 0;
-        checks::read_records(in, [&](std::u32string_view r) {
-            if (!only || ++number == only) show_record(only ? only : ++number, r, json);
-        });
+        checks::read_records(
+            in,
+            [&](std::u32string_view r) {
+                if (!only || ++number == only) show_record(only ? only : ++number, r, o.json);
+            },
+            encoding);
         if (only && number < only) {
             std::cerr << "tamrel inspect: --record " << only << ": the file has " << number << " records\n";
             return 2;

@@ -1,5 +1,6 @@
 #include "cli/output_target.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -53,12 +54,31 @@ Identity identity_of_path(const std::string& path) {
 }
 
 Identity identity_of(const OutputTarget& t) {
-    if (t.kind != OutputTarget::Stdout) return identity_of_path(t.real);
+    if (t.kind != OutputTarget::Descriptor) return identity_of_path(t.real);
     struct stat s {};
-    if (::fstat(STDOUT_FILENO, &s) == 0) return identity_of_existing(s);
+    if (::fstat(t.fd, &s) == 0) return identity_of_existing(s);
     Identity id;
-    id.canonical = "-";
+    id.canonical = "fd " + std::to_string(t.fd);
     return id;
+}
+
+// The descriptor a path names when it is one of the process's own open
+// files (/dev/stdout, /dev/stderr, /dev/fd/N, /proc/self/fd/N,
+// /proc/PID/fd/N of this process), else -1. Such a path is a link to the
+// open file: renaming over what it resolves to would replace a file the
+// shell opened (for appending, say) instead of writing to it.
+int own_descriptor(const std::string& path) {
+    if (path == "/dev/stdin") return STDIN_FILENO;
+    if (path == "/dev/stdout") return STDOUT_FILENO;
+    if (path == "/dev/stderr") return STDERR_FILENO;
+    static const std::regex fd_path(
+        R"(^/(?:dev/fd|proc/(self|thread-self|[0-9]{1,10})(?:/task/[0-9]{1,10})?/fd)/([0-9]{1,9})$)");
+    std::smatch m;
+    if (!std::regex_match(path, m, fd_path)) return -1;
+    const std::string pid = m[1].str();
+    if (!pid.empty() && pid.front() != 's' && pid.front() != 't' && std::stol(pid) != static_cast<long>(::getpid()))
+        return -1;
+    return std::stoi(m[2].str());
 }
 
 bool same(const Identity& a, const Identity& b) {
@@ -78,13 +98,21 @@ OutputTarget resolve_output(const std::string& path) {
     OutputTarget t;
     t.given = path;
     if (path == "-") {
-        t.kind = OutputTarget::Stdout;
+        t.kind = OutputTarget::Descriptor;
         t.real = "-";
+        t.fd = STDOUT_FILENO;
         return t;
     }
     if (path.empty()) throw std::runtime_error("an output path is empty");
     std::string p = path;
     for (int links = 0;; ++links) {
+        if (const int fd = own_descriptor(p); fd >= 0) {
+            if (::fcntl(fd, F_GETFL) < 0) refuse(path, "names a descriptor that is not open");
+            t.kind = OutputTarget::Descriptor;
+            t.real = p;
+            t.fd = fd;
+            return t;
+        }
         struct stat ls {};
         if (::lstat(p.c_str(), &ls) != 0) {
             if (errno != ENOENT) refuse(path, std::string("cannot be examined: ") + std::strerror(errno));

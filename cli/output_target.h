@@ -1,7 +1,9 @@
 // Where an output of tamrel generate goes, decided before anything is
 // generated: a new file, an existing file to replace (a symbolic link is
 // followed to the file it names, which is replaced beside itself), a device
-// or pipe written directly, or standard output ("-").
+// or pipe written directly, or one of the process's own open files
+// ("-", /dev/stdout, /dev/fd/N, /proc/self/fd/N), written in place at its
+// offset: a file the shell opened for appending keeps what it held.
 #pragma once
 #include <sys/types.h>
 
@@ -11,12 +13,13 @@
 namespace tamrel::cli {
 
 struct OutputTarget {
-    enum Kind { NewFile, ReplaceFile, Direct, Stdout } kind = NewFile;
+    enum Kind { NewFile, ReplaceFile, Direct, Descriptor } kind = NewFile;
     std::string given;   // the path as the user wrote it
     std::string real;    // the file to create or replace, links followed; the device or pipe for Direct
     mode_t mode = 0644;  // of the file written
     uid_t uid = 0;       // of a replaced file, kept where the process may
     gid_t gid = 0;
+    int fd = -1;         // of a Descriptor: standard output for "-"
     bool is_file() const { return kind == NewFile || kind == ReplaceFile; }
 };
 

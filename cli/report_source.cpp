@@ -16,7 +16,14 @@ bool ReportSource::next(const nlohmann::json*& element, std::string& line, std::
     element = nullptr;
     while (lines_->next(line, length)) {
         ++line_number_;
-        if (length > line.size() || line.find_first_not_of(" \t") != std::string::npos) return true;
+        if (first_) {
+            first_ = false;
+            if (line.starts_with("\xEF\xBB\xBF")) {
+                line.erase(0, 3);
+                length -= 3;
+            }
+        }
+        if (lines_->overlong() || line.find_first_not_of(" \t") != std::string::npos) return true;
     }
     return false;
 }

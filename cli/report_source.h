@@ -8,7 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/line_reader.h"
+#include "core/line_reader.h"
 
 namespace tamrel::cli {
 
@@ -20,7 +20,8 @@ public:
     // The next report: `element` points into the job's array, or `line`
     // holds the text of a non-blank line. False at the end. `length` is the
     // line's full length, which may exceed what `line` holds (see
-    // LineReader).
+    // LineReader): such a line is the last one read. A UTF-8 byte order
+    // mark before the first line is passed over.
     bool next(const nlohmann::json*& element, std::string& line, std::size_t& length);
     // The line of the NDJSON file that the last report came from (blank
     // lines counted), 0 for the job's inline reports.
@@ -31,6 +32,7 @@ private:
     std::size_t pos_ = 0;
     std::optional<LineReader> lines_;
     std::size_t line_number_ = 0;
+    bool first_ = true;
 };
 
 }  // namespace tamrel::cli

@@ -241,7 +241,9 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             ++counts.written;
         } catch (const ReportFailure& f) {
             if (settings.failureLog && !gen.log().empty()) settings.failureLog(index, at, gen.log());
-            if (!settings.keepGoing) throw;
+            // A line beyond the bound ends the reading: what follows it is
+            // unread, so the run cannot go on without losing reports.
+            if (!settings.keepGoing || length > kMaxLineBytes) throw;
             ++counts.failed;
             if (settings.leftOut) settings.leftOut(f);
             // Every report left out has its protocol line; one that could not

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "component/json_binding.h"
+#include "core/line_reader.h"
 
 namespace tamrel {
 namespace {
@@ -132,10 +133,7 @@ private:
 
 }  // namespace
 
-std::string line_too_long_text(std::size_t bytes) {
-    return "line of " + std::to_string(bytes) + " bytes or more, longer than the limit of " +
-           std::to_string(kMaxLineBytes) + " bytes";
-}
+std::string line_too_long_text(std::size_t bytes) { return line_too_long_text(bytes, kMaxLineBytes); }
 
 json parse_bounded(std::string_view text) {
     check_bounds(text);

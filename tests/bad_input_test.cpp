@@ -159,8 +159,6 @@ TEST(BadInput, EachKindOfBadReportLineFailsNamingTheReport) {
         {"control character", R"({"Meldegrund":"62","Meldungsart":1,"Personengruppe":"1\n9"})",
          "report 2 (line 3): Personengruppe \"1?9\": the control character U+000A (at position 164) cannot be written "
          "in a transfer file"},
-        {"line without end", std::string(2 << 20, ' ') + "{",
-         "report 2 (line 3): line of 2097153 bytes or more, longer than the limit of 1048576 bytes"},
     };
     const cli::Job job = meldung_job();
     for (const auto& c : cases) {
@@ -193,6 +191,24 @@ TEST(BadInput, EachKindOfBadReportLineFailsNamingTheReport) {
         EXPECT_EQ(first, third) << c.kind;
         EXPECT_NE(second.find(";1;\"report 2 (line 3): "), std::string::npos) << c.kind << ": " << second;
         EXPECT_EQ(second.find_first_of("\t\n\r"), std::string::npos) << c.kind;
+    }
+    // A line beyond the bound is not read to its end, and ends the run even
+    // with --keep-going: the reports after it would be lost.
+    for (const bool keepGoing : {false, true}) {
+        std::istringstream ndjson(good + "\n\n" + std::string(2 << 20, ' ') + "{\n" + good + "\n");
+        cli::ReportSource source(ndjson);
+        cli::StringSink out;
+        cli::TransferSettings settings;
+        settings.check = false;
+        settings.keepGoing = keepGoing;
+        try {
+            cli::write_transfer(job, source, settings, out, nullptr);
+            ADD_FAILURE() << "a line without end was accepted";
+        } catch (const cli::ReportFailure& f) {
+            EXPECT_EQ(std::string(f.what()),
+                      "report 2 (line 3): line of 1048577 bytes or more, longer than the limit of 1048576 bytes");
+        }
+        EXPECT_LT(ndjson.tellg(), std::streampos((1 << 20) + (1 << 17))) << "read beyond the bound";
     }
 }
 

@@ -68,7 +68,9 @@ protected:
         clsGenMeldung gen;
         Date d{2024, 3, 1, 10, 11, 12};
         std::string datum;
-        DSKOData dsko;
+        DSKOData dsko;  // a job without one: the header's parties
+        dsko.strBNRAb = tamrel::testing::kSenderBnr;
+        dsko.strBNREm = tamrel::testing::kReceiverBnr;
         DatensatzData dd;
         std::string s = gen.GenVOSZ(tamrel::testing::kSenderBnr, tamrel::testing::kReceiverBnr, "1", "F", 0, datum, d) +
                         eol + gen.GenDSKO(dsko, d) + eol;
@@ -193,14 +195,17 @@ TEST_F(Cli, CallAnswersEveryLineInOrder) {
     std::getline(lines, a);
     std::getline(lines, b);
     std::getline(lines, too_long);
-    std::getline(lines, c);
-    // A line without end within reach is answered, not held whole.
+    // A line beyond the bound is answered without being read to its end,
+    // and ends the run: nothing after it can be told apart from it.
     EXPECT_EQ(json::parse(too_long)["request_error"],
               "request: line of 1048577 bytes or more, longer than the limit of 1048576 bytes");
+    EXPECT_FALSE(std::getline(lines, c)) << c;
     EXPECT_EQ(json::parse(a)["result"], "NCSZAGBVD1              2              202403010000010000000301");
     EXPECT_TRUE(json::parse(b).contains("request_error"));
-    EXPECT_EQ(json::parse(c)["id"], 3);
-    EXPECT_EQ(json::parse(c)["request_error"], "method: clsGenAsyl has no method GenDSKO");
+    // An endless input (no line end ever) is answered the same way.
+    Result endless = run("call /dev/zero");
+    EXPECT_EQ(endless.status, 2);
+    EXPECT_NE(endless.out.find("longer than the limit of 1048576 bytes"), std::string::npos);
 }
 
 // --log keeps the log lines of each failed report, and only its own: a long
