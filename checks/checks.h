@@ -36,7 +36,15 @@ void check_report(const AbfrStammdatenUV& a, Findings& f);
 void check_report(const Lohnnachweis& l, Findings& f);
 void check_report(const Asyl& a, Findings& f);
 
-// The establishment numbers of the frame records (sender and receiver).
-void check_frame(std::string_view strBNRAb, std::string_view strBNREm, Findings& f);
+// The values of the frame records, before any is written: the parties'
+// establishment numbers (the communication record's the same as the
+// header's), the file number and the numeric fields the records share,
+// each against its field's declared width.
+struct FrameFields {
+    std::string_view strBNRAb, strBNREm, strFileNr, strDatum;
+    const DSKOData* dsko = nullptr;  // absent for the XML report
+    const DatensatzData* datensatz = nullptr;
+};
+void check_frame(const FrameFields& v, Findings& f);
 
 }  // namespace tamrel::checks

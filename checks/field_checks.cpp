@@ -6,8 +6,10 @@
 
 namespace tamrel::checks {
 
+// A value of blanks only is as missing as an empty one: it would leave a
+// blank field where the record needs the value.
 void FieldChecks::required(std::string_view name, std::string_view value) const {
-    if (value.empty()) add(kMissing, name, value);
+    if (value.find_first_not_of(' ') == std::string_view::npos) add(kMissing, name, value);
 }
 
 // Zeros and nines are the published "none" and "open" (ongoing) dates.

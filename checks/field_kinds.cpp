@@ -54,6 +54,9 @@ const Rule* fault(std::u32string_view text, const FieldLayout& f) {
             return literal_is(text, f.literal) ? nullptr : &kFieldLiteral;
         case FieldKind::N:
             return text.size() == f.len && all_digits(text) ? nullptr : &kDigits;
+        case FieldKind::DateOrBlank:
+            if (all_of(text, U' ')) return nullptr;
+            [[fallthrough]];
         case FieldKind::Date:
             if (text.size() != 8 || !all_digits(text)) return &kDate;
             return all_of(text, U'0') || all_of(text, U'9') || is_date(ascii(text)) ? nullptr : &kDate;
@@ -100,8 +103,9 @@ std::string decoded(const std::string& raw, const FieldLayout& f) {
             break;
         }
         case FieldKind::Date:
+        case FieldKind::DateOrBlank:
         case FieldKind::DateTime:
-            if (s.find_first_not_of('0') == std::string::npos) {
+            if (s.find_first_not_of('0') == std::string::npos || s.find_first_not_of(' ') == std::string::npos) {
                 s.clear();  // none given
             } else if (s.find_first_not_of('9') == std::string::npos) {
                 s = "open";
@@ -141,6 +145,8 @@ const char* kind_name(FieldKind k) {
             return "digits";
         case FieldKind::Date:
             return "date";
+        case FieldKind::DateOrBlank:
+            return "date/blank";
         case FieldKind::DateTime:
             return "date-time";
         case FieldKind::Flag:

@@ -2,13 +2,46 @@
 #include "checks/checks.h"
 #include "checks/field_checks.h"
 #include "checks/rules.h"
+#include "core/frame_layouts.h"
 
 namespace tamrel::checks {
 
-void check_frame(std::string_view strBNRAb, std::string_view strBNREm, Findings& f) {
+namespace {
+
+// The width of a frame record's field, as its layout declares it.
+constexpr std::size_t width(const RecordLayout& r, std::string_view name) {
+    for (const FieldLayout& f : r.fields)
+        if (f.name == name) return f.len;
+    throw "no such field";  // a compile-time error where it is used as a constant
+}
+constexpr std::size_t kFileNrWidth = width(layouts::kVOSZ, "strFileNr");
+constexpr std::size_t kMicroSecWidth = width(layouts::kDSKO, "strMicroSec");
+// The data records' time stamp fraction, as wide as the communication record's.
+constexpr std::size_t kMicrosecondsWidth = width(layouts::kDSKO, "strMicroSec");
+
+// A party of the communication record: given, it is the header's.
+void same_party(const FieldChecks& c, std::string_view name, std::string_view value, std::string_view header) {
+    c.betriebsnummer(name, value);
+    if (!value.empty() && value != header) c.add(kFileParties, name, value);
+}
+
+}  // namespace
+
+void check_frame(const FrameFields& v, Findings& f) {
     const FieldChecks c(f);
-    c.establishment("strBNRAb", strBNRAb);
-    c.establishment("strBNREm", strBNREm);
+    c.establishment("strBNRAb", v.strBNRAb);
+    c.establishment("strBNREm", v.strBNREm);
+    c.number("strFileNr", v.strFileNr, kFileNrWidth);
+    c.date("strDatum", v.strDatum);
+    if (v.dsko) {
+        same_party(c, "udtDSKOData.strBNRAb", v.dsko->strBNRAb, v.strBNRAb);
+        same_party(c, "udtDSKOData.strBNREm", v.dsko->strBNREm, v.strBNREm);
+        c.number("udtDSKOData.strMicroSec", v.dsko->strMicroSec, kMicroSecWidth);
+    }
+    if (v.datensatz) {
+        c.betriebsnummer("udtDatensatzData.strBNRAb", v.datensatz->strBNRAb);
+        c.number("udtDatensatzData.strMicroseconds", v.datensatz->strMicroseconds, kMicrosecondsWidth);
+    }
 }
 
 }  // namespace tamrel::checks

@@ -46,6 +46,8 @@ inline constexpr Rule kAmountDecimals{"AMOUNT-DECIMALS", E, "Betrag: mehr Nachko
                                       "amount: more decimal places than the field holds"};
 inline constexpr Rule kDigits{"DIGITS", E, "nur Ziffern in der vorgegebenen Länge erlaubt",
                               "expected digits of the field's length"};
+inline constexpr Rule kNumberRange{"NUMBER-RANGE", E, "Zahl: negativ oder mehr Stellen als ihr Feld",
+                                   "number: negative, or more digits than its field holds"};
 inline constexpr Rule kReasonUnknown{"REASON-UNKNOWN", E, "Abgabegrund ist kein Schlüssel der Abgabegründe",
                                      "report reason is not a published reason key"};
 inline constexpr Rule kContributionGroup{"CONTRIBUTION-GROUP", E, "Beitragsgruppe ist kein gültiger Schlüssel",
@@ -96,6 +98,7 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,       &kVsnrArea,          
                                          &kDate,           &kCreationDate,      &kMonth,
                                          &kPeriod,         &kAmountChars,       &kAmountNegative,
                                          &kAmountTooLong,  &kAmountDecimals,    &kDigits,
+                                         &kNumberRange,
                                          &kReasonUnknown,  &kContributionGroup, &kContributionGroupOld,
                                          &kGender,         &kMissing,           &kEndOnRegistration,
                                          &kListCount,      &kTextLength,        &kKeyLength,

@@ -82,6 +82,13 @@ public:
         last_.assign(r);
     }
 
+    // One record as if it were the whole file, without the file's rules.
+    void alone(std::u32string_view r) {
+        out_.records = 1;
+        id_ = to_utf8(r.substr(0, 4));
+        record(0, r);
+    }
+
     void finish() {
         if (out_.records == 0) return;
         const std::size_t i = out_.records - 1;
@@ -225,6 +232,14 @@ FileCheck check_transfer_file(std::istream& in, FileEncoding encoding) {
     read_records(in, [&](std::u32string_view r) { checker.add(r); }, encoding);
     checker.finish();
     return out;
+}
+
+std::vector<FileFinding> check_record(std::string_view record) {
+    thread_local std::u32string chars;
+    decode(record, valid_utf8(record) ? FileEncoding::Utf8 : FileEncoding::Latin1, chars);
+    FileCheck out;
+    FileChecker(out).alone(chars);
+    return std::move(out.findings);
 }
 
 std::string describe(const FileFinding& f) {

@@ -57,6 +57,12 @@ struct FileCheck {
 
 FileCheck check_transfer_file(std::istream& in, FileEncoding encoding = FileEncoding::Detect);
 
+// What check_transfer_file reports for one record (UTF-8) on its own: its
+// layout, its blocks and the kinds and numbers of its fields, apart from
+// the rules of its place in the file. Nothing is allocated for a clean
+// record.
+std::vector<FileFinding> check_record(std::string_view record);
+
 // "record 3 DSME/DBME Entgelt (pos 26-31) "0-5400": error DIGITS expected digits …"
 std::string describe(const FileFinding& f);
 

@@ -3,12 +3,16 @@
 #include <cstdio>
 
 #include "checks/checks.h"
+#include "checks/transfer_file.h"
+#include "cli/input_texts.h"
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
 #include "component/json_limits.h"
 #include "component/report_runner.h"
 #include "component/shared_bindings.h"
+#include "component/text_properties.h"
 #include "core/error.h"
+#include "core/printable.h"
 #include "xml/clsGenAsyl/markup_check.h"
 
 namespace tamrel::cli {
@@ -59,6 +63,26 @@ void tell_findings(const checks::Findings& f, const TransferSettings& s, const W
                         (errors > 1 ? " (and " + std::to_string(errors - 1) + " more)" : ""));
 }
 
+// A record as built is read back as tamrel check reads it: a field that the
+// checks of the data did not cover (a value cut to its width, a date in
+// another form) fails its report here instead of the file later. The
+// findings name the field (its layout name, the property that fed it) and
+// where it is in the record.
+void verify_record(std::string_view record, const TransferSettings& s, const Where& where) {
+    const std::vector<checks::FileFinding> found = checks::check_record(record);
+    if (found.empty()) return;
+    checks::Findings f;
+    for (const checks::FileFinding& x : found) {
+        std::string field = x.field.empty() ? std::string() : x.field + " in ";
+        field += x.id + (x.part.empty() ? std::string() : "/" + x.part);
+        if (x.pos)
+            field += x.field.empty() ? " at character " + std::to_string(x.pos)
+                                     : " at " + std::to_string(x.pos) + "-" + std::to_string(x.pos + x.len - 1);
+        f.add(*x.rule, std::move(field), x.value);
+    }
+    tell_findings(f, s, where);
+}
+
 // The texts of an XML report are checked for markup before it is built.
 void check_frame_markup(const FrameValues& f) {
     const std::pair<const char*, const std::string*> texts[] = {{"strBNRAb", &f.strBNRAb},
@@ -81,24 +105,57 @@ public:
     TransferRun(const Job& job, const TransferSettings& s)
         : job_(job),
           settings_(s),
-          session_(job.now.is_null() ? nullptr : &job.now, job.tests.is_null() ? nullptr : &job.tests) {}
+          session_(job.now.is_null() ? nullptr : &job.now, job.tests.is_null() ? nullptr : &job.tests),
+          texts_(s.encoding, s.transliterate),
+          frame_(job.frame),
+          datensatz_(job.datensatz) {}
+
+    // The frame's texts made ready as a report's are (input_texts.h).
+    void prepare_frame() {
+        texts_.clear();
+        const Where header{"header"};
+        const std::pair<const char*, std::string*> own[] = {{"strBNRAb", &frame_.strBNRAb},
+                                                            {"strBNREm", &frame_.strBNREm},
+                                                            {"strFileNr", &frame_.strFileNr},
+                                                            {"strFirma", &frame_.strFirma},
+                                                            {"strDatum", &frame_.strDatum}};
+        for (const auto& [name, value] : own)
+            if (!json_binding::plain_ascii(*value)) prepare(*value, name, header);
+        const json_binding::TextPlace dsko{nullptr, {}, "udtDSKOData"}, datensatz{nullptr, {}, "udtDatensatzData"};
+        auto edit = [&](std::string& v, const json_binding::TextPlace& at) { prepare(v, at.text(), header); };
+        json_binding::edit_texts(frame_.udtDSKOData, &dsko, edit);
+        json_binding::edit_texts(datensatz_, &datensatz, edit);
+        tell_substitutions(header);
+    }
+    const FrameValues& frame() const { return frame_; }
+    const DatensatzData& datensatz() const { return datensatz_; }
+
+    // The report's texts made ready; their substitutions are told.
+    void prepare_report(ReportRunner& runner, const Where& where) {
+        texts_.clear();
+        runner.edit_texts([&](std::string& v, const json_binding::TextPlace& at) { prepare(v, at.text(), where); });
+        tell_substitutions(where);
+    }
+    // What the last report's or the frame's substitutions were, in words
+    // (empty: none): a protocol line's text.
+    const std::string& substituted() const { return texts_.substituted(); }
 
     // The frame records, by the procedure's typed calls.
     std::string vosz() {
         return run({"header VOSZ"}, [&] {
-            FrameValues v = job_.frame;
+            FrameValues v = frame_;
             return job_.procedure->GenVOSZ(session_.host(), v);
         });
     }
     std::string dsko() {
         return run({"DSKO"}, [&] {
-            FrameValues v = job_.frame;
+            FrameValues v = frame_;
             return job_.procedure->GenDSKO(session_.host(), v);
         });
     }
     std::string ncsz(std::size_t count) {
         return run({"trailer NCSZ"},
-                   [&] { return job_.procedure->GenNCSZ(session_.host(), job_.frame, std::to_string(count)); });
+                   [&] { return job_.procedure->GenNCSZ(session_.host(), frame_, std::to_string(count)); });
     }
 
     const std::vector<std::string>& log() const { return session_.log(); }
@@ -107,7 +164,7 @@ public:
     // The runner that turns each report into its record, with the record
     // identification, procedure and date of the job.
     std::unique_ptr<ReportRunner> runner() const {
-        const RunnerSettings settings{&session_.host(), job_.datensatz, job_.frame.enmVerfahren, job_.frame.datDate};
+        const RunnerSettings settings{&session_.host(), datensatz_, frame_.enmVerfahren, frame_.datDate};
         return job_.procedure->runner(*job_.procedure, settings);
     }
 
@@ -118,15 +175,8 @@ public:
     void encode_line(std::string& out, std::string_view record, const Where& where,
                      const ReportRunner* runner = nullptr) {
         out.clear();
-        made_.clear();
-        const Unencodable mode = settings_.transliterate ? Unencodable::Transliterate : Unencodable::Fail;
-        if (const EncodeFailure f = encode(out, record, settings_.encoding, mode, &made_))
+        if (const EncodeFailure f = encode(out, record, settings_.encoding))
             throw ReportFailure(where.text() + ": " + unwritable(f, runner));
-        substituted_.clear();
-        if (!made_.empty()) {
-            substituted_ = substitutions(runner);
-            if (settings_.note) settings_.note(where.text() + ": " + substituted_);
-        }
         out += settings_.crlf ? "\r\n" : "\n";
     }
     // A protocol line is always written: characters the encoding cannot
@@ -136,8 +186,6 @@ public:
         encode(out, line, settings_.encoding, Unencodable::Replace);
         out += settings_.crlf ? "\r\n" : "\n";
     }
-    // What the last record's substitutions were, in words (empty: none).
-    const std::string& substituted() const { return substituted_; }
     std::string encoded_line(std::string_view record, const Where& where) {
         std::string out;
         encode_line(out, record, where);
@@ -145,6 +193,13 @@ public:
     }
 
 private:
+    void prepare(std::string& value, std::string_view name, const Where& where) {
+        const std::string error = texts_.prepare(value, name);
+        if (!error.empty()) throw ReportFailure(where.text() + ": " + error);
+    }
+    void tell_substitutions(const Where& where) {
+        if (!texts_.substituted().empty() && settings_.note) settings_.note(where.text() + ": " + texts_.substituted());
+    }
     std::string where_held(std::string_view character, const ReportRunner* runner) const {
         if (!runner) return {};
         const ReportRunner::Text t =
@@ -157,36 +212,19 @@ private:
             return held + "the control character " + unicode_name(f.character) + " (at position " +
                    std::to_string(f.position) + ") cannot be written in a transfer file";
         }
-        return held + "\"" + std::string(f.character) + "\" (at position " + std::to_string(f.position) +
-               ") cannot be written in " + encoding_name(settings_.encoding) +
+        return held + "\"" + std::string(f.character) + "\" (" + unicode_name(f.character) + ", at position " +
+               std::to_string(f.position) + ") cannot be written in " + encoding_name(settings_.encoding) +
                (substitute(f.code).empty()
                     ? std::string()
                     : "; --transliterate writes it as \"" + std::string(substitute(f.code)) + "\"");
-    }
-    std::string substitutions(const ReportRunner* runner) const {
-        std::string t;
-        for (const Substitution& s : made_) {
-            const std::string item = "\"" + std::string(s.from) + "\" (" + unicode_name(s.from) + ") written as \"" +
-                                     std::string(s.to) + "\"";
-            if (t.find(item) != std::string::npos) continue;
-            if (!t.empty()) t += ", ";
-            t += where_held(s.from, runner) + item;
-        }
-        return t;
-    }
-    // A value as it may be quoted in a message: control characters shown as "?".
-    static std::string printable(std::string_view v) {
-        std::string out(v);
-        for (char& c : out)
-            if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
-        return out;
     }
 
     const Job& job_;
     const TransferSettings& settings_;
     CallSession session_;
-    std::vector<Substitution> made_;
-    std::string substituted_;
+    InputTexts texts_;
+    FrameValues frame_;
+    DatensatzData datensatz_;
 };
 
 }  // namespace
@@ -196,20 +234,30 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     const bool xml = job.procedure->xml();
     TransferRun gen(job, settings);
     TransferCounts counts;
+    gen.prepare_frame();
     if (settings.check) {
         checks::Findings f;
-        checks::check_frame(job.frame.strBNRAb, job.frame.strBNREm, f);
+        const FrameValues& v = gen.frame();
+        checks::check_frame({v.strBNRAb, v.strBNREm, v.strFileNr, v.strDatum, xml ? nullptr : &v.udtDSKOData,
+                             &gen.datensatz()},
+                            f);
         tell_findings(f, settings, {"header"});
     }
+    // Each fixed-width record is read back before it is written.
+    const bool verify = settings.check && !xml;
+    auto checked = [&](std::string record, const Where& where) {
+        if (verify) verify_record(record, settings, where);
+        return record;
+    };
     if (xml) {
-        check_frame_markup(job.frame);
+        check_frame_markup(gen.frame());
         out.write(gen.encoded_line(
             std::string("<?xml version=\"1.0\" encoding=\"") + encoding_name(settings.encoding) + "\"?>", {"header"}));
         out.write(gen.encoded_line("<kotkv xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">", {"header"}));
     }
     const Where vosz{"header VOSZ"}, dsko{"DSKO"}, ncsz{"trailer NCSZ"};
-    out.write(gen.encoded_line(gen.vosz(), vosz));
-    if (!xml) out.write(gen.encoded_line(gen.dsko(), dsko));
+    out.write(gen.encoded_line(checked(gen.vosz(), vosz), vosz));
+    if (!xml) out.write(gen.encoded_line(checked(gen.dsko(), dsko), dsko));
 
     std::unique_ptr<ReportRunner> runner = gen.runner();
     const std::string param(job.procedure->objParam);
@@ -225,13 +273,16 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             if (length > kMaxLineBytes) throw ReportFailure(report.text() + ": " + line_too_long_text(length));
             run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
+            gen.prepare_report(*runner, report);
             if (xml) check_report_markup(*runner, param, report);
             if (settings.check) {
                 checks::Findings f;
                 runner->check(f);
                 tell_findings(f, settings, report);
             }
-            gen.encode_line(line, run(report, [&] { return runner->data(); }), report, runner.get());
+            const std::string record = run(report, [&] { return runner->data(); });
+            if (verify) verify_record(record, settings, report);
+            gen.encode_line(line, record, report, runner.get());
             // The substitutions of the record are the protocol line's text.
             if (proto)
                 gen.encode_protocol(proto_line,
@@ -258,7 +309,7 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
         if (settings.progress && index % 100000 == 0) settings.progress(index);
     }
     const std::size_t count = counts.written + (xml ? 0 : 1);
-    out.write(gen.encoded_line(gen.ncsz(count), ncsz));
+    out.write(gen.encoded_line(checked(gen.ncsz(count), ncsz), ncsz));
     if (xml) out.write(gen.encoded_line("</kotkv>", {"trailer"}));
     return counts;
 }

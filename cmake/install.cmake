@@ -16,7 +16,7 @@ foreach(layer ${TAMREL_LAYERS})
 endforeach()
 add_dependencies(tamrel_shared ${TAMREL_LAYERS})
 target_link_libraries(tamrel_shared PRIVATE -Wl,--whole-archive ${TAMREL_LAYER_FILES} -Wl,--no-whole-archive
-  simdjson::simdjson)
+  simdjson::simdjson PkgConfig::UTF8PROC)
 target_link_options(tamrel_shared PRIVATE -Wl,--version-script=${CMAKE_SOURCE_DIR}/cmake/exports.map -Wl,--no-undefined)
 
 # The static library: the layer archives merged into one.
@@ -77,6 +77,6 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME tamrel)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libtamrel-dev)
-set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "tamrel (= ${PROJECT_VERSION}), libsimdjson-dev")
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "tamrel (= ${PROJECT_VERSION}), libsimdjson-dev, libutf8proc-dev")
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 include(CPack)

@@ -81,7 +81,7 @@ std::string check(const ProcedureDescriptor& p, Invocation& inv) {
 
 template <class Gen, class Obj, DataForm D, auto Proto>
 std::unique_ptr<ReportRunner> runner(const ProcedureDescriptor& p, const RunnerSettings& s) {
-    return std::make_unique<Runner<Gen, Obj, D, Proto>>(s, p.objParam);
+    return std::make_unique<Runner<Gen, Obj, D, Proto>>(s, p.objParam, p.cls);
 }
 
 }  // namespace describing

@@ -17,6 +17,9 @@
 #include "core/objects.h"
 
 namespace tamrel {
+namespace json_binding {
+struct TextPlace;
+}
 
 class ReportRunner {
 public:
@@ -43,6 +46,10 @@ public:
         std::string name, value;
     };
     virtual Text find_text(const std::function<bool(std::string_view)>& test) const = 0;
+    // Calls `edit` with every text property of the report last read that
+    // holds anything but printable ASCII, and where it is.
+    using TextEdit = std::function<void(std::string& value, const json_binding::TextPlace& at)>;
+    virtual void edit_texts(const TextEdit& edit) = 0;
 };
 
 struct RunnerSettings {

@@ -58,3 +58,102 @@ bool each_text(const T& v, const std::string& path, const TextVisitor& f, std::s
 }
 
 }  // namespace tamrel::json_binding
+
+namespace tamrel::json_binding {
+
+// Where a text property sits, as a chain of pieces: turned into the name
+// each_text gives it ("Vorgang.Vorname", "KsZeileA.3", "Position[2].PosFeld1")
+// only when it is asked for.
+struct TextPlace {
+    const TextPlace* up = nullptr;
+    std::string_view prefix, name;  // a member: its table prefix and name
+    std::int32_t key = 0;           // an indexed property's index
+    std::size_t item = 0;           // a list's item (from 1)
+    enum Kind { Member, Key, Item } kind = Member;
+    std::string text() const {
+        std::string t = up ? up->text() : std::string();
+        switch (kind) {
+            case Member:
+                return (t.empty() ? t : t + ".") + std::string(prefix) + std::string(name);
+            case Key:
+                return (t.empty() ? t : t + ".") + std::to_string(key);
+            case Item:
+                return t + "[" + std::to_string(item) + "]";
+        }
+        return t;
+    }
+};
+
+// Calls edit(value, place) for every text property of `v` that holds
+// anything but printable ASCII: the values that may need normalising or
+// that hold control characters. Plain texts cost one scan each.
+inline bool plain_ascii(std::string_view s) {
+    for (char c : s)
+        if (static_cast<unsigned char>(c) - 0x20u >= 0x5Fu) return false;
+    return true;
+}
+template <class T, class F>
+requires(!Bound<T>) void edit_texts(T&, const TextPlace*, F&) {}
+template <class F>
+void edit_texts(std::string& v, const TextPlace* at, F& edit) {
+    if (!plain_ascii(v)) edit(v, *at);
+}
+template <Bound T, class F>
+void edit_texts(T& v, const TextPlace* at, F& edit, std::string_view prefix = {});
+template <class T, class F>
+void edit_texts(Indexed<T>& v, const TextPlace* at, F& edit) {
+    if constexpr (std::is_same_v<T, std::string>)
+        for (std::int32_t i = v.smallest(); i <= v.largest(); ++i) {
+            std::string& value = v.slot(static_cast<std::int16_t>(i));
+            if (plain_ascii(value)) continue;
+            const TextPlace place{at, {}, {}, i, 0, TextPlace::Key};
+            edit(value, place);
+        }
+}
+template <class T, class F>
+void edit_texts(std::vector<T>& v, const TextPlace* at, F& edit) {
+    for (std::size_t i = 0; i < v.size(); ++i) {
+        const TextPlace place{at, {}, {}, 0, i + 1, TextPlace::Item};
+        edit_texts(v[i], &place, edit);
+    }
+}
+template <class T, class M, class O, class F>
+void edit_field(const Field<T, M>& field, O& v, const TextPlace* at, F& edit, std::string_view prefix) {
+    const TextPlace place{at, prefix, field.name};
+    edit_texts(v.*(field.member), &place, edit);
+}
+template <class T, class M, class O, class F>
+void edit_field(const Prefixed<T, M>& field, O& v, const TextPlace* at, F& edit, std::string_view) {
+    edit_texts(v.*(field.member), at, edit, field.prefix);
+}
+template <Bound T, class F>
+void edit_texts(T& v, const TextPlace* at, F& edit, std::string_view prefix) {
+    std::apply([&](const auto&... field) { (edit_field(field, v, at, edit, prefix), ...); }, Binding<T>::fields);
+}
+
+// Calls f(member, place) for every text and integer member of `v` and its
+// sub-objects, lists and indexed properties left out: the members whose
+// place in the object stays where it is from report to report.
+template <class T, class F>
+requires(!Bound<T>) void each_scalar(T& v, const TextPlace* at, F& f) {
+    if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, std::int32_t> ||
+                  std::is_same_v<T, std::int16_t>)
+        f(v, *at);
+}
+template <Bound T, class F>
+void each_scalar(T& v, const TextPlace* at, F& f, std::string_view prefix = {});
+template <class T, class M, class O, class F>
+void scalar_field(const Field<T, M>& field, O& v, const TextPlace* at, F& f, std::string_view prefix) {
+    const TextPlace place{at, prefix, field.name};
+    each_scalar(v.*(field.member), &place, f);
+}
+template <class T, class M, class O, class F>
+void scalar_field(const Prefixed<T, M>& field, O& v, const TextPlace* at, F& f, std::string_view) {
+    each_scalar(v.*(field.member), at, f, field.prefix);
+}
+template <Bound T, class F>
+void each_scalar(T& v, const TextPlace* at, F& f, std::string_view prefix) {
+    std::apply([&](const auto&... field) { (scalar_field(field, v, at, f, prefix), ...); }, Binding<T>::fields);
+}
+
+}  // namespace tamrel::json_binding

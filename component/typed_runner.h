@@ -10,6 +10,7 @@
 #include <type_traits>
 
 #include "checks/checks.h"
+#include "checks/layout_rules.h"
 #include "component/json_scan.h"
 #include "component/json_simd.h"
 #include "component/procedure.h"
@@ -37,8 +38,10 @@ std::string call_gen_data(Gen& g, const Obj& o, const RunnerSettings& s, Datensa
 template <class Gen, class Obj, DataForm D, auto Proto>
 class Runner : public ReportRunner {
 public:
-    Runner(const RunnerSettings& s, std::string_view objParam)
-        : settings_(s), path_{&kRunnerArgs, objParam}, gen_(*s.host), proto_entry_(*s.host) {}
+    Runner(const RunnerSettings& s, std::string_view objParam, std::string_view cls)
+        : settings_(s), path_{&kRunnerArgs, objParam}, gen_(*s.host), proto_entry_(*s.host) {
+        bind_layout_rules(cls);
+    }
 
     // The scanner first; a report it cannot vouch for (an error as a rule)
     // is read again through simdjson's DOM, which gives the result or the
@@ -70,7 +73,10 @@ public:
         DatensatzData dd = settings_.datensatz;  // each report starts from the job's
         return call_gen_data<D>(gen_, obj_, settings_, dd);
     }
-    void check(checks::Findings& findings) const override { checks::check_report(obj_, findings); }
+    void check(checks::Findings& findings) const override {
+        checks::check_report(obj_, findings);
+        checks::check_by_layout(layout_rules_, findings);
+    }
     std::string protocol(bool error, std::string_view text) override {
         if constexpr (std::is_same_v<decltype(Proto), std::nullptr_t>)
             return {};
@@ -91,7 +97,28 @@ public:
         return found;
     }
 
+    void edit_texts(const TextEdit& edit) override { json_binding::edit_texts(obj_, nullptr, edit); }
+
 private:
+    // The layout rules, bound once to the members of the one data object
+    // that every report is read into.
+    void bind_layout_rules(std::string_view cls) {
+        auto bind = [&](auto& member, const json_binding::TextPlace& at) {
+            const FieldLayout* field = checks::ruled_field(cls, at.text());
+            if (!field) return;
+            checks::LayoutRule rule{field};
+            using M = std::remove_reference_t<decltype(member)>;
+            if constexpr (std::is_same_v<M, std::string>)
+                rule.text = &member;
+            else if constexpr (std::is_same_v<M, std::int32_t>)
+                rule.int32 = &member;
+            else
+                rule.int16 = &member;
+            layout_rules_.push_back(rule);
+        };
+        json_binding::each_scalar(obj_, nullptr, bind);
+    }
+
     // The line just loaded, valid UTF-8 without escapes.
     void read_scanned() {
         const char* at = line_.begin();
@@ -113,6 +140,7 @@ private:
     Gen gen_;
     clsProtoEntry proto_entry_;
     Obj obj_;
+    std::vector<checks::LayoutRule> layout_rules_;
 };
 
 }  // namespace tamrel

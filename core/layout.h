@@ -18,6 +18,7 @@ enum class FieldKind : std::uint8_t {
     An,            // text, left-aligned, blank-padded
     N,             // digits, right-aligned, zero-padded
     Date,          // yyyymmdd; zeros where none is given, nines for "open"
+    DateOrBlank,   // yyyymmdd in a text field: blanks where none is given
     DateTime,      // yyyymmddhhnnss
     Flag,          // "J" or "N"
     Amount,        // digits: the integer places, then `decimals` places

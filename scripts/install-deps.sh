@@ -3,7 +3,7 @@
 set -euo pipefail
 
 missing=()
-for p in g++ cmake make pkg-config dpkg-dev binutils python3 nlohmann-json3-dev libsimdjson-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev libxml2-dev libxml2-utils; do
+for p in g++ cmake make pkg-config dpkg-dev binutils python3 nlohmann-json3-dev libsimdjson-dev libutf8proc-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev libxml2-dev libxml2-utils; do
   dpkg -s "$p" >/dev/null 2>&1 || missing+=("$p")
 done
 if ((${#missing[@]})); then

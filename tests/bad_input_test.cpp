@@ -155,10 +155,11 @@ TEST(BadInput, EachKindOfBadReportLineFailsNamingTheReport) {
         {"deep nesting", "{\"Vorgang\":" + repeat("[", 5000) + repeat("]", 5000) + "}",
          "report 2 (line 3): not valid JSON: The JSON document was too deep (too many nested objects and arrays)"},
         {"not in the encoding", R"({"Meldegrund":"62","Meldungsart":1,"Vorgang":{"Aktenzeichen":"Жук"}})",
-         "report 2 (line 3): Vorgang.Aktenzeichen \"Жук\": \"Ж\" (at position 93) cannot be written in ISO-8859-1"},
+         "report 2 (line 3): Vorgang.Aktenzeichen \"Жук\": \"Ж\" (U+0416, at position 93) cannot be written in "
+         "ISO-8859-1"},
         {"control character", R"({"Meldegrund":"62","Meldungsart":1,"Personengruppe":"1\n9"})",
-         "report 2 (line 3): Personengruppe \"1?9\": the control character U+000A (at position 164) cannot be written "
-         "in a transfer file"},
+         "report 2 (line 3): Personengruppe \"1<U+000A>9\": the control character U+000A (character 2) cannot be "
+         "written in a transfer file; --transliterate writes it as a blank"},
     };
     const cli::Job job = meldung_job();
     for (const auto& c : cases) {

@@ -223,6 +223,7 @@ nlohmann::json sample(const FieldLayout& f) {
         case FieldKind::Flag:
             return true;
         case FieldKind::Date:
+        case FieldKind::DateOrBlank:
             return "20240131";
         case FieldKind::Vsnr:
             return "65170839J003";

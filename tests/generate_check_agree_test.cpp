@@ -1,0 +1,92 @@
+// Whatever tamrel generate writes with exit code 0, tamrel check accepts:
+// seeded hostile variants of every example's reports and frame values go
+// through the whole transfer run (the checks before each record, the
+// records read back), and the file written is checked as a file from
+// outside would be. TAMREL_AGREE_COUNT sets the variants per example (the
+// fuzz step runs many more).
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <sstream>
+
+#include <nlohmann/json.hpp>
+
+#include "checks/rules.h"
+#include "checks/transfer_file.h"
+#include "cli/job.h"
+#include "cli/transfer.h"
+#include "tests/example_jobs.h"
+#include "tests/hostile.h"
+
+namespace {
+
+using nlohmann::json;
+using namespace tamrel;
+
+std::size_t variants_per_example() {
+    const char* n = std::getenv("TAMREL_AGREE_COUNT");
+    return n ? std::strtoul(n, nullptr, 10) : 150;
+}
+
+// The frame values a job may give, each varied.
+json hostile_frame(json job, tamrel::testing::Hostile& h) {
+    for (const char* k : {"strBNRAb", "strBNREm", "strFileNr", "strFirma", "strDatum"})
+        job[k] = h.text(job.value(k, ""));
+    for (const char* obj : {"udtDSKOData", "udtDatensatzData"})
+        if (job.contains(obj)) job[obj] = h.vary(job[obj]);
+    return job;
+}
+
+// Every error check finds in `file`, one a line.
+std::string errors_in(const std::string& file, checks::FileEncoding encoding) {
+    std::istringstream in(file);
+    std::string all;
+    for (const checks::FileFinding& f : checks::check_transfer_file(in, encoding).findings)
+        if (f.rule->severity == checks::Severity::Error) all += checks::describe(f) + "\n";
+    return all;
+}
+
+TEST(GenerateAndCheck, AgreeOnHostileReportsAndFrameValues) {
+    const std::size_t count = variants_per_example();
+    std::size_t written = 0, refused = 0;
+    for (const tamrel::testing::ExampleJob& e : tamrel::testing::example_jobs()) {
+        if (e.info->xml()) continue;  // check reads fixed-width files
+        tamrel::testing::Hostile h(20261125);
+        for (std::size_t i = 0; i < count; ++i) {
+            json variant = i % 3 == 0 ? hostile_frame(e.job, h) : e.job;
+            for (json& r : variant["reports"]) r = h.vary(r);
+            cli::Job job;
+            try {
+                job = cli::parse_job(variant, "job", ".");
+            } catch (const std::exception&) {
+                ++refused;  // a job of the wrong types: exit code 2, nothing written
+                continue;
+            }
+            for (const auto encoding : {cli::Encoding::Latin1, cli::Encoding::Utf8}) {
+                cli::ReportSource source(job.reports);
+                cli::TransferSettings settings;
+                settings.encoding = encoding;
+                settings.keepGoing = true;
+                settings.transliterate = i % 2 == 0;
+                cli::StringSink out, protocol;
+                try {
+                    cli::write_transfer(job, source, settings, out, e.info->protoMethod.empty() ? nullptr : &protocol);
+                } catch (const cli::ReportFailure&) {
+                    ++refused;  // a frame value refused: exit code 1, nothing written
+                    continue;
+                }
+                ++written;
+                const std::string found = errors_in(
+                    out.text,
+                    encoding == cli::Encoding::Utf8 ? checks::FileEncoding::Utf8 : checks::FileEncoding::Latin1);
+                ASSERT_EQ(found, "") << e.path.filename() << " variant " << i << ":\n" << variant.dump().substr(0, 4000);
+            }
+        }
+    }
+    // The variants reach both outcomes.
+    EXPECT_GT(written, count);
+    EXPECT_GT(refused, count / 10);
+}
+
+}  // namespace
