@@ -24,7 +24,7 @@ std::string_view reason_entry(std::string_view reason) {
     return {};
 }
 bool wanted(std::string_view entry, int block) { return !entry.empty() && entry[1 + block] == 'J'; }
-constexpr int kDBME = 1, kDBNA = 2;
+constexpr int kDBME = 1, kDBNA = 2, kDBKS = 7;
 
 // The reason as a number, -1 for anything but two digits.
 int reason_code(std::string_view r) {
@@ -98,6 +98,14 @@ void check_report(const Meldung& m, Findings& f) {
     for (std::int32_t i = m.UvErster; i <= m.UvLetzter; ++i)
         accident_entries += !m.UvEntfaellt(static_cast<std::int16_t>(i));
     if (accident_entries > 9) c.add(kListCount, "UvLetzter", std::to_string(accident_entries));
+
+    // DBKS of a registration: exactly twelve lines (its fixed length), unless
+    // the person group leaves the block out (marginal employment).
+    const std::string_view group = m.Personengruppe;
+    if (m.Meldungsart == 1 && wanted(entry, kDBKS) && group != "109" && group != "110" && group != "190" &&
+        m.KsLetzter - m.KsErster + 1 != 12)
+        c.add(kDbksLines, "KsLetzter",
+              std::to_string(m.KsErster) + "-" + std::to_string(m.KsLetzter));
 
     // The employer and the receiving health insurer.
     check_employer(v, p.Arbeitgeber);

@@ -42,6 +42,7 @@ void check_report(const Asyl& a, Findings& f);
 // each against its field's declared width.
 struct FrameFields {
     std::string_view strBNRAb, strBNREm, strFileNr, strDatum;
+    const std::int32_t* enmVerfahren = nullptr;  // where it is a VerfMerkmal
     const DSKOData* dsko = nullptr;  // absent for the XML report
     const DatensatzData* datensatz = nullptr;
 };

@@ -33,6 +33,8 @@ void check_frame(const FrameFields& v, Findings& f) {
     c.establishment("strBNREm", v.strBNREm);
     c.number("strFileNr", v.strFileNr, kFileNrWidth);
     c.date("strDatum", v.strDatum);
+    if (v.enmVerfahren && (*v.enmVerfahren < vmNormal || *v.enmVerfahren > vmBV))
+        c.add(kProcedureKey, "enmVerfahren", std::to_string(*v.enmVerfahren));
     if (v.dsko) {
         same_party(c, "udtDSKOData.strBNRAb", v.dsko->strBNRAb, v.strBNRAb);
         same_party(c, "udtDSKOData.strBNREm", v.dsko->strBNREm, v.strBNREm);

@@ -62,6 +62,10 @@ inline constexpr Rule kTextLength{"TEXT-LENGTH", W, "Text länger als sein Feld:
 inline constexpr Rule kKeyLength{"KEY-LENGTH", E, "Schlüssel länger als sein Feld", "key longer than its field"};
 inline constexpr Rule kListCount{"LIST-COUNT", E, "mehr Einträge, als das Anzahlfeld des Bausteins fasst",
                                  "more entries than the block's count field holds"};
+inline constexpr Rule kDbksLines{"DBKS-LINES", E, "DBKS: genau 12 Zeilen (KsErster bis KsLetzter) erwartet",
+                                 "DBKS: expected exactly 12 lines (KsErster to KsLetzter)"};
+inline constexpr Rule kProcedureKey{"VERFAHREN", E, "enmVerfahren: 0 (vmNormal), 1 (vmSofort) oder 2 (vmBV) erwartet",
+                                    "enmVerfahren: expected 0 (vmNormal), 1 (vmSofort) or 2 (vmBV)"};
 inline constexpr Rule kEndOnRegistration{"END-ON-REGISTRATION", W, "Ende bei einer Anmeldung angegeben",
                                          "an end date on a registration"};
 
@@ -98,7 +102,7 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,       &kVsnrArea,          
                                          &kDate,           &kCreationDate,      &kMonth,
                                          &kPeriod,         &kAmountChars,       &kAmountNegative,
                                          &kAmountTooLong,  &kAmountDecimals,    &kDigits,
-                                         &kNumberRange,
+                                         &kNumberRange,    &kDbksLines,         &kProcedureKey,
                                          &kReasonUnknown,  &kContributionGroup, &kContributionGroupOld,
                                          &kGender,         &kMissing,           &kEndOnRegistration,
                                          &kListCount,      &kTextLength,        &kKeyLength,

@@ -238,8 +238,10 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     if (settings.check) {
         checks::Findings f;
         const FrameValues& v = gen.frame();
-        checks::check_frame({v.strBNRAb, v.strBNREm, v.strFileNr, v.strDatum, xml ? nullptr : &v.udtDSKOData,
-                             &gen.datensatz()},
+        // Every class but the contribution statement takes a VerfMerkmal.
+        const bool verf = job.procedure->frames != FrameForm::BeitrNachw;
+        checks::check_frame({v.strBNRAb, v.strBNREm, v.strFileNr, v.strDatum, verf ? &v.enmVerfahren : nullptr,
+                             xml ? nullptr : &v.udtDSKOData, &gen.datensatz()},
                             f);
         tell_findings(f, settings, {"header"});
     }

@@ -74,6 +74,7 @@ Meldung registration() {
     m.Personengruppe = "101";
     m.Beitragsgruppe1 = m.Beitragsgruppe2 = m.Beitragsgruppe3 = m.Beitragsgruppe4 = "1";
     m.Beginn = "20240301";
+    m.KsLetzter = 12;  // DBKS: its twelve lines
     m.Vorgang.Versicherungsnummer = tamrel::testing::kInsuranceNumber;
     m.Vorgang.Familienname = "Muster";
     m.Vorgang.Vorname = "Erika";
@@ -176,6 +177,8 @@ TEST(DataChecks, DeuevReport) {
              m.UvLetzter = 10;
          },
          "error LIST-COUNT UvLetzter (10): more entries than the block's count field holds\n"},
+        {"thirteen DBKS lines", [](Meldung& m) { m.KsLetzter = 13; },
+         "error DBKS-LINES KsLetzter (1-13): DBKS: expected exactly 12 lines (KsErster to KsLetzter)\n"},
         {"ten accident-insurance entries, one left out",
          [](Meldung& m) {
              m.UvErster = 1;

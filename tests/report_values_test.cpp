@@ -78,6 +78,11 @@ TEST(ReportValues, ValuesThatWouldLeaveWrongAreRefusedNamingTheProperty) {
         {"deuev-registration.json", "communication record's other receiver",
          [](json& j) { j["udtDSKOData"]["strBNREm"] = "98765432"; },
          "header: error FILE-PARTIES udtDSKOData.strBNREm (98765432): sender or receiver differs from the VOSZ's"},
+        // What the library would refuse by the length of a record only.
+        {"deuev-registration.json", "procedure 7", [](json& j) { j["enmVerfahren"] = 7; },
+         "header: error VERFAHREN enmVerfahren (7): enmVerfahren: expected 0 (vmNormal), 1 (vmSofort) or 2 (vmBV)"},
+        {"deuev-registration.json", "13 DBKS lines", [](json& j) { j["reports"][1]["KsLetzter"] = 13; },
+         "report 2: error DBKS-LINES KsLetzter (1-13): DBKS: expected exactly 12 lines (KsErster to KsLetzter)"},
         // Numbers that lose their sign or their first digits.
         {"deuev-registration.json", "Laufnummer -1", [](json& j) { j["reports"][0]["Laufnummer"] = -1; },
          "report 1: error NUMBER-RANGE Laufnummer (-1): number: negative, or more digits than its field holds"},
