@@ -19,9 +19,9 @@ constexpr std::size_t kMicroSecWidth = width(layouts::kDSKO, "strMicroSec");
 // The data records' time stamp fraction, as wide as the communication record's.
 constexpr std::size_t kMicrosecondsWidth = width(layouts::kDSKO, "strMicroSec");
 
-// A party of the communication record: given, it is the header's.
+// A party of the communication record: the header's.
 void same_party(const FieldChecks& c, std::string_view name, std::string_view value, std::string_view header) {
-    c.betriebsnummer(name, value);
+    c.establishment(name, value);
     if (!value.empty() && value != header) c.add(kFileParties, name, value);
 }
 

@@ -2,8 +2,9 @@
 # Installs, builds and runs the whole test suite: once in the profile-guided
 # Release build, once under AddressSanitizer and UndefinedBehaviorSanitizer,
 # the thread tests under ThreadSanitizer, the installed library's consumers,
-# then the COM server under wine (scripts/com-test.sh) and the fuzzers for
-# half a minute each (scripts/fuzz.sh).
+# then the COM server under wine (scripts/com-test.sh), the generate/check
+# agreement over many more hostile variants, and the fuzzers for half a
+# minute each (scripts/fuzz.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -22,5 +23,7 @@ TSAN_OPTIONS=halt_on_error=1 build-tsan/tests/tamrel_tests --gtest_filter='Threa
 scripts/install-test.sh build
 # The COM server, built for Windows and tested under wine.
 scripts/com-test.sh
+# Generate and check held to each other over many more hostile variants.
+TAMREL_AGREE_COUNT=${AGREE_COUNT:-3000} build/tests/tamrel_tests --gtest_filter='GenerateAndCheck.*'
 # The fuzzers, each for a bounded time under the same sanitizers.
 FUZZ_SECONDS=${FUZZ_SECONDS:-30} scripts/fuzz.sh

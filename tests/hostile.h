@@ -39,6 +39,23 @@ public:
         return v;
     }
 
+    // The report with `n` of its values (texts, numbers, flags) replaced:
+    // a report with a few bad values among good ones, as a user would send.
+    nlohmann::json vary_some(nlohmann::json v, std::size_t n) {
+        std::vector<nlohmann::json::json_pointer> leaves;
+        collect(v, nlohmann::json::json_pointer(), leaves);
+        for (std::size_t k = 0; k < n && !leaves.empty(); ++k) {
+            nlohmann::json& leaf = v[leaves[pick(leaves.size())]];
+            if (leaf.is_string())
+                leaf = text(leaf.get<std::string>());
+            else if (leaf.is_number_integer())
+                leaf = integer();
+            else if (leaf.is_boolean())
+                leaf = !leaf.get<bool>();
+        }
+        return v;
+    }
+
     // A value for a text property that may be absent.
     std::string text(const std::string& s) {
         static const std::vector<std::string> kinds = {
@@ -56,6 +73,15 @@ public:
     }
 
 private:
+    static void collect(const nlohmann::json& v, const nlohmann::json::json_pointer& at,
+                        std::vector<nlohmann::json::json_pointer>& out) {
+        if (v.is_object())
+            for (const auto& [k, e] : v.items()) collect(e, at / k, out);
+        else if (v.is_array())
+            for (std::size_t i = 0; i < v.size(); ++i) collect(v[i], at / i, out);
+        else
+            out.push_back(at);
+    }
     std::int64_t integer() {
         static const std::int64_t picks[] = {0,     1,      -1,         2,          99,          100,
                                              32767, -32768, 2147483647, -2147483648, 1234567890, -7};

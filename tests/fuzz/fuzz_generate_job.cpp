@@ -1,10 +1,12 @@
 // One generate job, arbitrary bytes, processed in memory as tamrel generate
 // processes it (with or without the checks): the transfer is either complete, with one line per record,
-// or refused with a clear failure.
+// or refused with a clear failure; with the checks, the file passes tamrel check.
 #include <sstream>
 #include <string>
 #include <string_view>
 
+#include "checks/rules.h"
+#include "checks/transfer_file.h"
 #include "cli/job.h"
 #include "cli/transfer.h"
 #include "component/json_limits.h"
@@ -44,6 +46,15 @@ void run(const Job& job, bool keep_going, Encoding encoding, bool crlf, bool che
     FUZZ_REQUIRE(count_lines(out.text, ending) == counts.written + (xml ? 5 : 3));
     FUZZ_REQUIRE(out.text.ends_with(ending));
     if (with_protocol) FUZZ_REQUIRE(count_lines(proto.text, ending) <= counts.written + counts.failed);
+    // What is written with the checks on, tamrel check accepts.
+    if (check && !xml) {
+        std::istringstream in(out.text);
+        const auto file_encoding = encoding == Encoding::Utf8     ? tamrel::checks::FileEncoding::Utf8
+                                   : encoding == Encoding::Latin9 ? tamrel::checks::FileEncoding::Latin9
+                                                                  : tamrel::checks::FileEncoding::Latin1;
+        for (const auto& f : tamrel::checks::check_transfer_file(in, file_encoding).findings)
+            FUZZ_REQUIRE(f.rule->severity != tamrel::checks::Severity::Error);
+    }
 }
 
 }  // namespace
