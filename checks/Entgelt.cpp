@@ -179,6 +179,18 @@ void check_report(const Entgelt& e, Findings& f) {
         // Its count of earlier incapacities has two digits.
         if (e.DBVO.Vorerkrankungen.size() > 99)
             k.add(kListCount, "Vorerkrankungen", std::to_string(e.DBVO.Vorerkrankungen.size()));
+        for (std::size_t i = 0; i < e.DBVO.Vorerkrankungen.size(); ++i) {
+            const FieldChecks v = k.within("Vorerkrankungen", i + 1);
+            const eel::Vorerkrankung& item = e.DBVO.Vorerkrankungen[i];
+            v.dates(item, {{"BEGINNAU", &eel::Vorerkrankung::BEGINNAU},
+                           {"ENDEAU", &eel::Vorerkrankung::ENDEAU},
+                           {"TEILNACHWEISAUBEGINN", &eel::Vorerkrankung::TEILNACHWEISAUBEGINN},
+                           {"TEILNACHWEISAUENDE", &eel::Vorerkrankung::TEILNACHWEISAUENDE},
+                           {"TEILANRAUBEGINN", &eel::Vorerkrankung::TEILANRAUBEGINN},
+                           {"TEILANRAUENDE", &eel::Vorerkrankung::TEILANRAUENDE}});
+            v.numbers(item,
+                      {{"KZNACHWEIS", &eel::Vorerkrankung::KZNACHWEIS, 1}, {"KZAU", &eel::Vorerkrankung::KZAU, 1}});
+        }
     }
     {
         const FieldChecks k = c.within("DBZA");

@@ -39,9 +39,13 @@ void FieldChecks::digits(std::string_view name, std::string_view value, std::siz
     if (!value.empty() && !is_digits(value, width)) add(kDigits, name, value);
 }
 
+// Anything but digits is DIGITS, whatever its length; digits beyond the
+// width are KEY-LENGTH (the builder would keep the rightmost).
 void FieldChecks::number(std::string_view name, std::string_view value, std::size_t width) const {
-    if (!value.empty() && value.size() <= width) digits(name, value, value.size());
-    key(name, value, width);
+    if (!is_digits(value, value.size()))
+        add(kDigits, name, value);
+    else
+        key(name, value, width);
 }
 
 void FieldChecks::creation_date(std::string_view name, std::string_view value) const {

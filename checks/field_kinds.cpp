@@ -22,6 +22,13 @@ std::string ascii(std::u32string_view s) {
     return out;
 }
 
+// YYYYMMDD of a real day, eight digits (checked by the caller), without a copy.
+bool date_of_digits(std::u32string_view s) {
+    char d[8];
+    for (std::size_t i = 0; i < 8; ++i) d[i] = static_cast<char>(s[i]);
+    return is_date(std::string_view(d, 8));
+}
+
 std::u32string_view trimmed(std::u32string_view s) {
     while (!s.empty() && s.back() == U' ') s.remove_suffix(1);
     return s;
@@ -59,7 +66,7 @@ const Rule* fault(std::u32string_view text, const FieldLayout& f) {
             [[fallthrough]];
         case FieldKind::Date:
             if (text.size() != 8 || !all_digits(text)) return &kDate;
-            return all_of(text, U'0') || all_of(text, U'9') || is_date(ascii(text)) ? nullptr : &kDate;
+            return all_of(text, U'0') || all_of(text, U'9') || date_of_digits(text) ? nullptr : &kDate;
         case FieldKind::DateTime:
             return date_time(text) ? nullptr : &kDateTime;
         case FieldKind::Flag:

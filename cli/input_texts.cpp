@@ -1,6 +1,7 @@
 #include "cli/input_texts.h"
 
 #include <cstdlib>
+#include <cstring>
 
 #include <utf8proc.h>
 
@@ -22,13 +23,26 @@ void to_nfc(std::string& text) {
     std::free(composed);
 }
 
+bool may_need_preparing(std::string_view line) {
+    if (std::memchr(line.data(), '\\', line.size()) || std::memchr(line.data(), 0x7F, line.size())) return true;
+    // A raw control character (which a lenient JSON reader may let through)
+    // or a lead byte other than 0xC3 (U+00C0 to U+00FF): one pass without
+    // branches, which the compiler turns into vector steps.
+    unsigned char any = 0;
+    for (const char c : line) {
+        const auto b = static_cast<unsigned char>(c);
+        any |= static_cast<unsigned char>((b < 0x20) | ((b >= 0xC0) & (b != 0xC3)));
+    }
+    return any != 0;
+}
+
 void InputTexts::note(std::string_view name, std::string_view original, std::string_view from, std::string_view to) {
     if (!substituted_.empty()) substituted_ += ", ";
     substituted_ += std::string(name) + " \"" + printable(original) + "\": \"" + printable(from) + "\" (" +
                     unicode_name(from) + ") written as \"" + std::string(to) + "\"";
 }
 
-std::string InputTexts::prepare(std::string& value, std::string_view name) {
+std::string InputTexts::prepare(std::string& value, const Name& name) {
     to_nfc(value);
     std::string original;  // kept for the messages once something is found
     for (std::size_t done = 0;;) {
@@ -44,8 +58,8 @@ std::string InputTexts::prepare(std::string& value, std::string_view name) {
             if (!transliterate_) {
                 std::size_t position = 1;
                 for (std::size_t i = 0; i < at; ++i) position += (static_cast<unsigned char>(value[i]) & 0xC0) != 0x80;
-                return std::string(name) + " \"" + printable(original) + "\": the control character " +
-                       unicode_name(character) + " (character " + std::to_string(position) +
+                return name() + " \"" + printable(original) + "\": the control character " + unicode_name(character) +
+                       " (character " + std::to_string(position) +
                        ") cannot be written in a transfer file; --transliterate writes it as a blank";
             }
             to = " ";
@@ -56,7 +70,7 @@ std::string InputTexts::prepare(std::string& value, std::string_view name) {
                 continue;
             }
         }
-        note(name, original, character, to);
+        note(name(), original, character, to);
         value.replace(at, character.size(), to);
         done = at + to.size();
     }

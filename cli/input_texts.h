@@ -9,6 +9,7 @@
 //   the character ("EUR" for "€") is cut to its field like any text and the
 //   record keeps its widths.
 #pragma once
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -20,9 +21,11 @@ class InputTexts {
 public:
     InputTexts(Encoding encoding, bool transliterate) : encoding_(encoding), transliterate_(transliterate) {}
 
-    // Prepares `value`, the property `name`. Returns the error, empty when
-    // there is none; the substitutions made are added to substituted().
-    std::string prepare(std::string& value, std::string_view name);
+    // Prepares `value`, the property `name()` (asked for only when there is
+    // something to say). Returns the error, empty when there is none; the
+    // substitutions made are added to substituted().
+    using Name = std::function<std::string()>;
+    std::string prepare(std::string& value, const Name& name);
 
     // The substitutions since the last clear(), in words:
     // `Vorgang.Vorname "Łukasz": "Ł" (U+0141) written as "L"`, …
@@ -39,5 +42,12 @@ private:
 
 // The text in Unicode normalisation form C (unchanged when it is already).
 void to_nfc(std::string& text);
+
+// Whether a report given as this JSON line may hold a text to prepare: an
+// escape or a raw control character, DEL, or any character outside
+// U+0020 to U+00FF but those of U+00C0 to U+00FF (C1 controls, and what
+// may be decomposed or not encodable). A line of ASCII and Latin-1 letters (U+00C0 to U+00FF, the
+// umlauts) needs nothing: its texts are walked only when this is true.
+bool may_need_preparing(std::string_view json_line);
 
 }  // namespace tamrel::cli

@@ -120,9 +120,14 @@ public:
                                                             {"strFirma", &frame_.strFirma},
                                                             {"strDatum", &frame_.strDatum}};
         for (const auto& [name, value] : own)
-            if (!json_binding::plain_ascii(*value)) prepare(*value, name, header);
+            if (!json_binding::plain_ascii(*value))
+                prepare(
+                    *value, [name = name] { return std::string(name); }, header);
         const json_binding::TextPlace dsko{nullptr, {}, "udtDSKOData"}, datensatz{nullptr, {}, "udtDatensatzData"};
-        auto edit = [&](std::string& v, const json_binding::TextPlace& at) { prepare(v, at.text(), header); };
+        auto edit = [&](std::string& v, const json_binding::TextPlace& at) {
+            prepare(
+                v, [&at] { return at.text(); }, header);
+        };
         json_binding::edit_texts(frame_.udtDSKOData, &dsko, edit);
         json_binding::edit_texts(datensatz_, &datensatz, edit);
         tell_substitutions(header);
@@ -133,7 +138,10 @@ public:
     // The report's texts made ready; their substitutions are told.
     void prepare_report(ReportRunner& runner, const Where& where) {
         texts_.clear();
-        runner.edit_texts([&](std::string& v, const json_binding::TextPlace& at) { prepare(v, at.text(), where); });
+        runner.edit_texts([&](std::string& v, const json_binding::TextPlace& at) {
+            prepare(
+                v, [&at] { return at.text(); }, where);
+        });
         tell_substitutions(where);
     }
     // What the last report's or the frame's substitutions were, in words
@@ -193,7 +201,7 @@ public:
     }
 
 private:
-    void prepare(std::string& value, std::string_view name, const Where& where) {
+    void prepare(std::string& value, const InputTexts::Name& name, const Where& where) {
         const std::string error = texts_.prepare(value, name);
         if (!error.empty()) throw ReportFailure(where.text() + ": " + error);
     }
@@ -245,7 +253,9 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
                             f);
         tell_findings(f, settings, {"header"});
     }
-    // Each fixed-width record is read back before it is written.
+    // The frame records are read back before they are written (the data
+    // records' fields are covered by the checks, rule sets and layout rules,
+    // at a fraction of the cost of reading each record back).
     const bool verify = settings.check && !xml;
     auto checked = [&](std::string record, const Where& where) {
         if (verify) verify_record(record, settings, where);
@@ -275,16 +285,14 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
             if (length > kMaxLineBytes) throw ReportFailure(report.text() + ": " + line_too_long_text(length));
             run(report, [&] { element ? runner->read(*element) : runner->read_text(text); });
             read = true;
-            gen.prepare_report(*runner, report);
+            if (element || may_need_preparing(text)) gen.prepare_report(*runner, report);
             if (xml) check_report_markup(*runner, param, report);
             if (settings.check) {
                 checks::Findings f;
                 runner->check(f);
                 tell_findings(f, settings, report);
             }
-            const std::string record = run(report, [&] { return runner->data(); });
-            if (verify) verify_record(record, settings, report);
-            gen.encode_line(line, record, report, runner.get());
+            gen.encode_line(line, run(report, [&] { return runner->data(); }), report, runner.get());
             // The substitutions of the record are the protocol line's text.
             if (proto)
                 gen.encode_protocol(proto_line,

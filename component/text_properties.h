@@ -99,7 +99,7 @@ void edit_texts(std::string& v, const TextPlace* at, F& edit) {
     if (!plain_ascii(v)) edit(v, *at);
 }
 template <Bound T, class F>
-void edit_texts(T& v, const TextPlace* at, F& edit, std::string_view prefix = {});
+void edit_texts(T& v, const TextPlace* at, F& edit);
 template <class T, class F>
 void edit_texts(Indexed<T>& v, const TextPlace* at, F& edit) {
     if constexpr (std::is_same_v<T, std::string>)
@@ -117,18 +117,25 @@ void edit_texts(std::vector<T>& v, const TextPlace* at, F& edit) {
         edit_texts(v[i], &place, edit);
     }
 }
-template <class T, class M, class O, class F>
-void edit_field(const Field<T, M>& field, O& v, const TextPlace* at, F& edit, std::string_view prefix) {
-    const TextPlace place{at, prefix, field.name};
-    edit_texts(v.*(field.member), &place, edit);
-}
-template <class T, class M, class O, class F>
-void edit_field(const Prefixed<T, M>& field, O& v, const TextPlace* at, F& edit, std::string_view) {
-    edit_texts(v.*(field.member), at, edit, field.prefix);
-}
+// Calls f(member, place) for every member of a bound object, with its
+// place; the members of a prefixed group are its parent's, their names
+// prefixed.
 template <Bound T, class F>
-void edit_texts(T& v, const TextPlace* at, F& edit, std::string_view prefix) {
-    std::apply([&](const auto&... field) { (edit_field(field, v, at, edit, prefix), ...); }, Binding<T>::fields);
+void each_member(T& v, const TextPlace* at, F&& f, std::string_view prefix = {}) {
+    auto one = [&](const auto& field) {
+        if constexpr (requires { field.name; }) {
+            const TextPlace place{at, prefix, field.name};
+            f(v.*(field.member), place);
+        } else {
+            each_member(v.*(field.member), at, f, field.prefix);
+        }
+    };
+    std::apply([&](const auto&... field) { (one(field), ...); }, Binding<T>::fields);
+}
+
+template <Bound T, class F>
+void edit_texts(T& v, const TextPlace* at, F& edit) {
+    each_member(v, at, [&](auto& member, const TextPlace& place) { edit_texts(member, &place, edit); });
 }
 
 // Calls f(member, place) for every text and integer member of `v` and its
@@ -136,24 +143,12 @@ void edit_texts(T& v, const TextPlace* at, F& edit, std::string_view prefix) {
 // place in the object stays where it is from report to report.
 template <class T, class F>
 requires(!Bound<T>) void each_scalar(T& v, const TextPlace* at, F& f) {
-    if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, std::int32_t> ||
-                  std::is_same_v<T, std::int16_t>)
+    if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, std::int32_t> || std::is_same_v<T, std::int16_t>)
         f(v, *at);
 }
 template <Bound T, class F>
-void each_scalar(T& v, const TextPlace* at, F& f, std::string_view prefix = {});
-template <class T, class M, class O, class F>
-void scalar_field(const Field<T, M>& field, O& v, const TextPlace* at, F& f, std::string_view prefix) {
-    const TextPlace place{at, prefix, field.name};
-    each_scalar(v.*(field.member), &place, f);
-}
-template <class T, class M, class O, class F>
-void scalar_field(const Prefixed<T, M>& field, O& v, const TextPlace* at, F& f, std::string_view) {
-    each_scalar(v.*(field.member), at, f, field.prefix);
-}
-template <Bound T, class F>
-void each_scalar(T& v, const TextPlace* at, F& f, std::string_view prefix) {
-    std::apply([&](const auto&... field) { (scalar_field(field, v, at, f, prefix), ...); }, Binding<T>::fields);
+void each_scalar(T& v, const TextPlace* at, F& f) {
+    each_member(v, at, [&](auto& member, const TextPlace& place) { each_scalar(member, &place, f); });
 }
 
 }  // namespace tamrel::json_binding

@@ -16,6 +16,7 @@
 #include "cli/output_encoding.h"
 
 #include "test_support.h"
+#include "tests/cli_jobs.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
@@ -38,25 +39,9 @@ protected:
     }
     void TearDown() override { fs::remove_all(dir_); }
 
-    static json report(const std::string& name) {
-        // The file reference is written in the record, the family name in the protocol line.
-        return {{"Meldegrund", "62"},
-                {"Meldungsart", 1},
-                {"Vorgang",
-                 {{"Aktenzeichen", name},
-                  {"Familienname", name},
-                  {"Arbeitgeber", {{"Betriebsnummer", tamrel::testing::kSenderBnr}}}}},
-                {"Empfaenger", {{"Betriebsnummer", tamrel::testing::kReceiverBnr}}}};
-    }
+    static json report(const std::string& name) { return tamrel::testing::named_report(name); }
     void write_job(const json& reports) const {
-        const json job = {{"class", "clsGenMeldung"},
-                          {"strBNRAb", tamrel::testing::kSenderBnr},
-                          {"strBNREm", tamrel::testing::kReceiverBnr},
-                          {"strFileNr", "1"},
-                          {"strFirma", "F"},
-                          {"datDate", "2024-03-01T10:11:12"},
-                          {"reports", reports}};
-        std::ofstream(dir_ / "job.json") << job.dump();
+        std::ofstream(dir_ / "job.json") << tamrel::testing::small_job(reports).dump();
     }
     // Runs tamrel in the test's folder with `args`, under `umask`.
     Outcome run(const std::string& args, const char* umask = "022") const {

@@ -17,6 +17,7 @@
 #include <nlohmann/json.hpp>
 
 #include "test_support.h"
+#include "tests/cli_jobs.h"
 
 extern char** environ;
 
@@ -40,25 +41,8 @@ protected:
     }
     void TearDown() override { fs::remove_all(dir_); }
 
-    static json report(const std::string& name) {
-        return {{"Meldegrund", "62"},
-                {"Meldungsart", 1},
-                {"Vorgang",
-                 {{"Aktenzeichen", name},
-                  {"Familienname", name},
-                  {"Arbeitgeber", {{"Betriebsnummer", tamrel::testing::kSenderBnr}}}}},
-                {"Empfaenger", {{"Betriebsnummer", tamrel::testing::kReceiverBnr}}}};
-    }
-    void write_job(const json& reports) const {
-        const json job = {{"class", "clsGenMeldung"},
-                          {"strBNRAb", tamrel::testing::kSenderBnr},
-                          {"strBNREm", tamrel::testing::kReceiverBnr},
-                          {"strFileNr", "1"},
-                          {"strFirma", "F"},
-                          {"datDate", "2024-03-01T10:11:12"},
-                          {"reports", reports}};
-        put("job.json", job.dump());
-    }
+    static json report(const std::string& name) { return tamrel::testing::named_report(name); }
+    void write_job(const json& reports) const { put("job.json", tamrel::testing::small_job(reports).dump()); }
     // Runs a shell command line in the test's folder, tamrel standing for
     // the tool; standard output is read, standard error kept apart.
     Outcome shell(const std::string& line) const {
@@ -78,8 +62,7 @@ protected:
         posix_spawn_file_actions_t actions;
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_adddup2(&actions, out_fd < 0 ? pipe_fd[1] : out_fd, STDOUT_FILENO);
-        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err_path.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
-                                         0644);
+        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err_path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
         if (out_fd < 0) posix_spawn_file_actions_addclose(&actions, pipe_fd[0]);
         std::vector<char*> args;
         for (const std::string& a : argv) args.push_back(const_cast<char*>(a.c_str()));
@@ -184,9 +167,9 @@ TEST_F(Robustness, ABrokenStreamLeavesTheProtocolAsItWas) {
     int fds[2];
     ASSERT_EQ(::pipe(fds), 0);
     ::close(fds[0]);  // nobody reads: the first write breaks
-    const Outcome r = spawn({TAMREL_EXE, "generate", (dir_ / "job.json").string(), "-o", "-", "--protocol",
-                             (dir_ / "p.prot").string()},
-                            fds[1]);
+    const Outcome r = spawn(
+        {TAMREL_EXE, "generate", (dir_ / "job.json").string(), "-o", "-", "--protocol", (dir_ / "p.prot").string()},
+        fds[1]);
     ::close(fds[1]);
     EXPECT_EQ(r.status, 4) << r.err;
     EXPECT_NE(r.err.find("-: write failed: Broken pipe"), std::string::npos) << r.err;

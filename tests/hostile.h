@@ -59,10 +59,29 @@ public:
     // A value for a text property that may be absent.
     std::string text(const std::string& s) {
         static const std::vector<std::string> kinds = {
-            "",          "   ",        "-1",         "0",          "123456789012345", "2023-11-15", "20231115",
-            "20231399",  "00000000",   "99999999",   "1.5",        "-12,34",          "abc",        "P-0001\n2",
-            "1\x1b]0;x\x07", "\t",     "Mu\xCC\x88ller", "\xC5\x81ukasz", "\xE2\x82\xAC", "J",       "N",
-            "X",         "ABCDEFGHIJKLMNOPQRSTUVWXYZABCDEFGHIJKLMNOPQRSTUVWXYZABCDEFGHIJKLMNOPQRSTUVWXYZ"};
+            "",
+            "   ",
+            "-1",
+            "0",
+            "123456789012345",
+            "2023-11-15",
+            "20231115",
+            "20231399",
+            "00000000",
+            "99999999",
+            "1.5",
+            "-12,34",
+            "abc",
+            "P-0001\n2",
+            "1\x1b]0;x\x07",
+            "\t",
+            "Mu\xCC\x88ller",
+            "\xC5\x81ukasz",
+            "\xE2\x82\xAC",
+            "J",
+            "N",
+            "X",
+            "ABCDEFGHIJKLMNOPQRSTUVWXYZABCDEFGHIJKLMNOPQRSTUVWXYZABCDEFGHIJKLMNOPQRSTUVWXYZ"};
         const double r = dist_(rng_);
         if (r < 0.5) return kinds[pick(kinds.size())];
         if (r < 0.7) return s + kinds[pick(kinds.size())];
@@ -83,7 +102,7 @@ private:
             out.push_back(at);
     }
     std::int64_t integer() {
-        static const std::int64_t picks[] = {0,     1,      -1,         2,          99,          100,
+        static const std::int64_t picks[] = {0,     1,      -1,         2,           99,         100,
                                              32767, -32768, 2147483647, -2147483648, 1234567890, -7};
         return picks[pick(std::size(picks))];
     }

@@ -60,7 +60,7 @@ TEST(ReportValues, ValuesThatWouldLeaveWrongAreRefusedNamingTheProperty) {
          "report 1: error DATE KsDatum (2023-11-15): not a calendar date (YYYYMMDD)"},
         {"eel-dslw.json", "DBVO date ISO",
          [](json& j) { j["reports"][0]["DBVO"]["Vorerkrankungen"][0]["BEGINNAU"] = "2023-11-15"; },
-         "report 1: error DATE BEGINNAU(i) in DSLW/DBVO entry 1 at 1-8 (23-11-15): not a calendar date (YYYYMMDD)"},
+         "report 1: error DATE DBVO.Vorerkrankungen(1).BEGINNAU (2023-11-15): not a calendar date (YYYYMMDD)"},
         // The frame's values, before the header is written.
         {"deuev-registration.json", "file number too wide", [](json& j) { j["strFileNr"] = "1234567"; },
          "header: error KEY-LENGTH strFileNr (1234567): key longer than its field"},
@@ -86,8 +86,7 @@ TEST(ReportValues, ValuesThatWouldLeaveWrongAreRefusedNamingTheProperty) {
         // Numbers that lose their sign or their first digits.
         {"deuev-registration.json", "Laufnummer -1", [](json& j) { j["reports"][0]["Laufnummer"] = -1; },
          "report 1: error NUMBER-RANGE Laufnummer (-1): number: negative, or more digits than its field holds"},
-        {"deuev-registration.json", "Laufnummer min",
-         [](json& j) { j["reports"][0]["Laufnummer"] = -2147483648LL; },
+        {"deuev-registration.json", "Laufnummer min", [](json& j) { j["reports"][0]["Laufnummer"] = -2147483648LL; },
          "report 1: error NUMBER-RANGE Laufnummer (-2147483648): number: negative, or more digits than its field "
          "holds"},
         {"betrieb-master-data.json", "DatensatzNr", [](json& j) { j["reports"][0]["DatensatzNr"] = -2; },
@@ -98,7 +97,8 @@ TEST(ReportValues, ValuesThatWouldLeaveWrongAreRefusedNamingTheProperty) {
         {"deuev-registration.json", "blank name", [](json& j) { j["reports"][0]["Vorgang"]["Familienname"] = "   "; },
          "report 1: error MISSING Vorgang.Familienname (   ): missing"},
         // Control characters: named with their property, echoed escaped.
-        {"deuev-registration.json", "line feed", [](json& j) { j["reports"][0]["Vorgang"]["Aktenzeichen"] = "P-0001\n2"; },
+        {"deuev-registration.json", "line feed",
+         [](json& j) { j["reports"][0]["Vorgang"]["Aktenzeichen"] = "P-0001\n2"; },
          "report 1: Vorgang.Aktenzeichen \"P-0001<U+000A>2\": the control character U+000A (character 7) cannot be "
          "written in a transfer file; --transliterate writes it as a blank"},
         {"deuev-registration.json", "terminal escape",
@@ -126,8 +126,9 @@ TEST(ReportValues, TextsAreMadeReadyBeforeTheyAreChecked) {
     EXPECT_NE(r.file.find("M\xFCller"), std::string::npos);
     EXPECT_NE(r.file.find("P-0001 2"), std::string::npos);  // the control character as a blank
     EXPECT_NE(r.file.find("EUR-7"), std::string::npos);
-    EXPECT_NE(r.notes.find("report 1: Vorgang.Aktenzeichen \"P-0001<U+000A>2\": \"<U+000A>\" (U+000A) written as \" \""),
-              std::string::npos)
+    EXPECT_NE(
+        r.notes.find("report 1: Vorgang.Aktenzeichen \"P-0001<U+000A>2\": \"<U+000A>\" (U+000A) written as \" \""),
+        std::string::npos)
         << r.notes;
     // The protocol line holds the same texts as the record.
     EXPECT_NE(r.protocol.find("M\xFCller"), std::string::npos);
