@@ -23,8 +23,10 @@ std::string_view reason_entry(std::string_view reason) {
         if (table[at] == reason[0] && table[at + 1] == reason[1]) return table.substr(at, 9);
     return {};
 }
-bool wanted(std::string_view entry, int block) { return !entry.empty() && entry[1 + block] == 'J'; }
-constexpr int kDBME = 1, kDBNA = 2, kDBKS = 7;
+// The table's flags follow the reason, in the order of the blocks' enumeration.
+bool wanted(std::string_view entry, MeldungBlock block) {
+    return !entry.empty() && entry[2 + static_cast<std::size_t>(block)] == 'J';
+}
 
 // The reason as a number, -1 for anything but two digits.
 int reason_code(std::string_view r) {
@@ -58,7 +60,7 @@ void check_report(const Meldung& m, Findings& f) {
         v.required("Geschlecht", p.Geschlecht);
         v.required("Geburtsort", p.Geburtsort);
     }
-    if (wanted(entry, kDBNA) || m.MitNamensdaten) {
+    if (wanted(entry, MeldungBlock::DBNA) || m.MitNamensdaten) {
         v.required("Familienname", p.Familienname);
         v.required("Vorname", p.Vorname);
     }
@@ -70,7 +72,7 @@ void check_report(const Meldung& m, Findings& f) {
     c.key("Zusatzmerkmal", m.Zusatzmerkmal, 1);
     c.key("Statuskennzeichen", m.Statuskennzeichen, 1);
     c.key("Meldekennzeichen", m.Meldekennzeichen, 1);
-    if (wanted(entry, kDBME)) {
+    if (wanted(entry, MeldungBlock::DBME)) {
         c.required("Personengruppe", m.Personengruppe);
         c.required("Beginn", m.Beginn);
         if (ends_period(code)) c.required("Ende", m.Ende);
@@ -101,11 +103,9 @@ void check_report(const Meldung& m, Findings& f) {
 
     // DBKS of a registration: exactly twelve lines (its fixed length), unless
     // the person group leaves the block out (marginal employment).
-    const std::string_view group = m.Personengruppe;
-    if (m.Meldungsart == 1 && wanted(entry, kDBKS) && group != "109" && group != "110" && group != "190" &&
+    if (m.Meldungsart == 1 && wanted(entry, MeldungBlock::DBKS) && !clsGenMeldung::MarginalGroup(m.Personengruppe) &&
         m.KsLetzter - m.KsErster + 1 != 12)
-        c.add(kDbksLines, "KsLetzter",
-              std::to_string(m.KsErster) + "-" + std::to_string(m.KsLetzter));
+        c.add(kDbksLines, "KsLetzter", std::to_string(m.KsErster) + "-" + std::to_string(m.KsLetzter));
 
     // The employer and the receiving health insurer.
     check_employer(v, p.Arbeitgeber);

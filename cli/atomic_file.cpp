@@ -17,7 +17,7 @@ namespace {
 
 // The temporary files being written, for the signal handler: fixed storage,
 // since a handler may neither allocate nor lock.
-constexpr int kSlots = 4;
+constexpr int kSlots = 8;  // the four outputs of a run, with room
 char g_temp_path[kSlots][4096];
 volatile std::sig_atomic_t g_temp_used[kSlots];
 

@@ -16,6 +16,9 @@ namespace {
 std::string flag_text(const clsGenMeldung& gen, const Meldung& m, std::int32_t enmVerfahren, MeldungPlan& plan) {
     constexpr std::string_view table = clsGenMeldung::kBlockTable;
     const std::string_view reason = m.Meldegrund;  // compared as a view: no call for a two-character test
+    // Meant as written: the reason is looked for anywhere in the table, as
+    // the record rules do (a one-character reason can match inside another
+    // entry); the checks refuse such reasons before the builder runs.
     std::size_t p = table.find(reason);
     if (p == std::string_view::npos)
         raise(kErrReason, "clsGenMeldung.GenDSME",
@@ -44,6 +47,8 @@ std::string flag_text(const clsGenMeldung& gen, const Meldung& m, std::int32_t e
         if (!m.Vorgang.PLZ.empty() || !m.Vorgang.Ort.empty()) set(4, 'J');
     }
     if (m.Meldungsart != 8) {
+        // A substring test, as the record rules have it ("1" and "0,1" match
+        // too): deliberate, not a list lookup to be "fixed".
         constexpr std::string_view eu_reasons = "10,11,12,13,20,40,58";
         if (!m.Vorgang.EuAngabe1.empty() && eu_reasons.find(m.Meldegrund) != std::string_view::npos &&
             m.Vorgang.Versicherungsnummer.empty() && !m.Vorgang.EuAngabe2.empty())
@@ -73,6 +78,8 @@ MeldungPlan clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const Dat
         with_args("clsGenMeldung.GenDSME(", ObjArg{"objMeldung"}, ObjArg{"udtDatensatzData"}, enmVerfahren, datDate),
         [&](int& line) {
             const Date date = mlGen::GetDate(datDate);
+            // Deliberately a substring test, as the record rules have it: "24"
+            // or "46" count as well as "2", "4" or "6".
             const bool minijob = m.Beitragsgruppe2.size() > 0 &&
                                  std::string_view("246").find(m.Beitragsgruppe2) != std::string_view::npos;
             MeldungPlan plan;

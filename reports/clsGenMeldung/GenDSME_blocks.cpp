@@ -11,6 +11,8 @@ namespace tamrel {
 
 void clsGenMeldung::GenDBME(std::string& out, const Meldung& m) {
     routine("clsGenMeldung.GenDBME", [&](int& line) {
+        // The reason test is a substring test on purpose, as the record
+        // rules have it ("1", "0,1" and "" are found too).
         const bool zero_marker = m.Meldekennzeichen.empty() && !m.Storno &&
                                  std::string_view("10,11,12,13").find(m.Meldegrund) == std::string_view::npos;
         const Joined groups{m.Beitragsgruppe1, m.Beitragsgruppe2, m.Beitragsgruppe3, m.Beitragsgruppe4};

@@ -81,8 +81,7 @@ std::string clsGenMeldung::GenData(const Meldung& m, DatensatzData& dd, std::int
 bool clsGenMeldung::IsGeringBkn(const Meldung& m) const {
     return routine("clsGenMeldung.IsGeringBkn(<objMeldung>)", [&](int& line) {
         line = 1;
-        const std::string_view group = m.Personengruppe;
-        return group == "109" || group == "110" || group == "190";
+        return MarginalGroup(m.Personengruppe);
     });
 }
 

@@ -41,6 +41,10 @@ public:
     MeldungPlan GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd, std::int32_t enmVerfahren,
                         const Date& datDate) const;
     bool IsGeringBkn(const Meldung& m) const;
+    // The person groups of marginal employment, whose registration has no DBKS.
+    static constexpr bool MarginalGroup(std::string_view group) {
+        return group == "109" || group == "110" || group == "190";
+    }
     static void GenDBME(std::string& out, const Meldung& m);
     static void GenDBEU(std::string& out, const Meldung& m);
     static void AppendDBUV(std::string& out, const Meldung& m, bool& produced);
