@@ -320,6 +320,52 @@ std::string findings(const std::string& file) {
     return all;
 }
 
+// A date in another form, letters or a minus set on each property that a
+// date or numeric field names, also where no example gives it: the
+// checks refuse the report, or what is written passes tamrel check. No
+// such field can be left out of the checks unnoticed.
+TEST(Layouts, ABreakingValueOnEachNamedFieldNeverReachesTheFile) {
+    std::size_t tried = 0;
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        if (e.info->xml()) continue;
+        const nlohmann::json& report = e.job["reports"][0];
+        const nlohmann::json response = call(tamrel::testing::gen_data_request(e, report));
+        const std::u32string line = tamrel::testing::chars(response["result"].get<std::string>());
+        std::vector<std::pair<const FieldLayout*, std::size_t>> fields;
+        checks::WalkProblem problem;
+        checks::walk_line(
+            line, *checks::find_layout(line),
+            [&](const checks::Part& p) {
+                if (p.entry) return;
+                for (const FieldLayout& f : p.layout->fields)
+                    if ((f.kind == FieldKind::Date || f.kind == FieldKind::DateOrBlank || f.kind == FieldKind::N) &&
+                        f.announce == Announce::None && is_path(f.name) && f.name != "reserve")
+                        fields.emplace_back(&f, p.item);
+            },
+            problem);
+        for (const auto& [field, item] : fields) {
+            const bool number = lookup(e.job, report, field->name, item).is_number();
+            const nlohmann::json breakers[] = {number ? nlohmann::json(-1) : nlohmann::json("2023-11-15"),
+                                               number ? nlohmann::json(2147483647) : nlohmann::json("1A")};
+            for (const nlohmann::json& value : breakers) {
+                tamrel::testing::ExampleJob changed = e;
+                nlohmann::json r = report;
+                set_path(changed.job, r, field->name, item, value);
+                changed.job["reports"] = nlohmann::json::array({r});
+                std::string file;
+                try {
+                    file = example_file(changed);
+                } catch (const std::exception&) {
+                    continue;  // refused before anything is written
+                }
+                ++tried;
+                EXPECT_EQ(findings(file), "") << e.path.filename() << " " << field->name << " = " << value.dump();
+            }
+        }
+    }
+    EXPECT_GT(tried, 10u);
+}
+
 TEST(TransferFiles, EveryExampleFilePassesTheChecks) {
     for (const auto& e : tamrel::testing::example_jobs()) {
         if (e.info->xml()) continue;
