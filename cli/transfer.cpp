@@ -63,11 +63,10 @@ void tell_findings(const checks::Findings& f, const TransferSettings& s, const W
                         (errors > 1 ? " (and " + std::to_string(errors - 1) + " more)" : ""));
 }
 
-// A record as built is read back as tamrel check reads it: a field that the
-// checks of the data did not cover (a value cut to its width, a date in
-// another form) fails its report here instead of the file later. The
-// findings name the field (its layout name, the property that fed it) and
-// where it is in the record.
+// A frame record as built is read back as tamrel check reads it: a field
+// that the checks of the frame's values did not cover fails the run here
+// instead of the file later. The findings name the field (its layout name,
+// the value that fed it) and where it is in the record.
 void verify_record(std::string_view record, const TransferSettings& s, const Where& where) {
     const std::vector<checks::FileFinding> found = checks::check_record(record);
     if (found.empty()) return;
