@@ -9,6 +9,7 @@
 #include <type_traits>
 
 #include "component/call_registry.h"
+#include "component/layout_rule_binding.h"
 #include "component/procedure.h"
 #include "component/property_list.h"
 #include "component/shared_bindings.h"
@@ -75,6 +76,7 @@ std::string check(const ProcedureDescriptor& p, Invocation& inv) {
     const Obj& obj = inv.object<Obj>(p.objParam);
     checks::Findings f;
     checks::check_report(obj, f);
+    checks::check_by_layout(bind_layout_rules(p.cls, obj), f);
     inv.out()["findings"] = findings_json(f);
     return {};
 }

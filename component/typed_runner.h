@@ -10,9 +10,9 @@
 #include <type_traits>
 
 #include "checks/checks.h"
-#include "checks/layout_rules.h"
 #include "component/json_scan.h"
 #include "component/json_simd.h"
+#include "component/layout_rule_binding.h"
 #include "component/procedure.h"
 #include "component/report_runner.h"
 #include "component/text_properties.h"
@@ -39,9 +39,11 @@ template <class Gen, class Obj, DataForm D, auto Proto>
 class Runner : public ReportRunner {
 public:
     Runner(const RunnerSettings& s, std::string_view objParam, std::string_view cls)
-        : settings_(s), path_{&kRunnerArgs, objParam}, gen_(*s.host), proto_entry_(*s.host) {
-        bind_layout_rules(cls);
-    }
+        : settings_(s),
+          path_{&kRunnerArgs, objParam},
+          gen_(*s.host),
+          proto_entry_(*s.host),
+          layout_rules_(bind_layout_rules(cls, obj_)) {}
 
     // The scanner first; a report it cannot vouch for (an error as a rule)
     // is read again through simdjson's DOM, which gives the result or the
@@ -100,25 +102,6 @@ public:
     void edit_texts(const TextEdit& edit) override { json_binding::edit_texts(obj_, nullptr, edit); }
 
 private:
-    // The layout rules, bound once to the members of the one data object
-    // that every report is read into.
-    void bind_layout_rules(std::string_view cls) {
-        auto bind = [&](auto& member, const json_binding::TextPlace& at) {
-            const FieldLayout* field = checks::ruled_field(cls, at.text());
-            if (!field) return;
-            checks::LayoutRule rule{field};
-            using M = std::remove_reference_t<decltype(member)>;
-            if constexpr (std::is_same_v<M, std::string>)
-                rule.text = &member;
-            else if constexpr (std::is_same_v<M, std::int32_t>)
-                rule.int32 = &member;
-            else
-                rule.int16 = &member;
-            layout_rules_.push_back(rule);
-        };
-        json_binding::each_scalar(obj_, nullptr, bind);
-    }
-
     // The line just loaded, valid UTF-8 without escapes.
     void read_scanned() {
         const char* at = line_.begin();
@@ -140,6 +123,7 @@ private:
     Gen gen_;
     clsProtoEntry proto_entry_;
     Obj obj_;
+    // Bound to obj_'s members, which stay where they are from report to report.
     std::vector<checks::LayoutRule> layout_rules_;
 };
 

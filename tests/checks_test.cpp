@@ -5,6 +5,8 @@
 // findings file.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <cstdlib>
 #include <functional>
 
@@ -270,6 +272,19 @@ TEST(DataChecks, EachProcedureFindsItsFaults) {
                    f["value"].get<std::string>() + "\n";
         EXPECT_EQ(got, std::string(c.want) + "\n") << c.example << " " << c.pointer;
     }
+}
+
+// The call protocol's Check applies the rules derived from the layouts too.
+TEST(DataChecks, CheckNamesANumberThatItsFieldCannotHold) {
+    const json request = {{"class", "clsGenBetrieb"},
+                          {"method", "Check"},
+                          {"args", {{"objBetrieb", {{"DatensatzNr", -2}, {"Kennziffer", "01"}}}}}};
+    const json findings = json::parse(call(request).dump())["out"]["findings"];
+    const auto it =
+        std::find_if(findings.begin(), findings.end(), [](const json& f) { return f["rule"] == "NUMBER-RANGE"; });
+    ASSERT_NE(it, findings.end()) << findings.dump();
+    EXPECT_EQ((*it)["field"], "DatensatzNr");
+    EXPECT_EQ((*it)["value"], "-2");
 }
 
 TEST(DataChecks, EveryExampleIsClean) {
