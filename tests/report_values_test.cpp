@@ -83,6 +83,9 @@ TEST(ReportValues, ValuesThatWouldLeaveWrongAreRefusedNamingTheProperty) {
          "header: error VERFAHREN enmVerfahren (7): enmVerfahren: expected 0 (vmNormal), 1 (vmSofort) or 2 (vmBV)"},
         {"deuev-registration.json", "13 DBKS lines", [](json& j) { j["reports"][1]["KsLetzter"] = 13; },
          "report 2: error DBKS-LINES KsLetzter (1-13): DBKS: expected exactly 12 lines (KsErster to KsLetzter)"},
+        {"deuev-registration.json", "control character in the firm's name", [](json& j) { j["strFirma"] = "A\tB"; },
+         "header: strFirma \"A<U+0009>B\": the control character U+0009 (character 2) cannot be written in a "
+         "transfer file; --transliterate writes it as a blank"},
         // Numbers that lose their sign or their first digits.
         {"deuev-registration.json", "Laufnummer -1", [](json& j) { j["reports"][0]["Laufnummer"] = -1; },
          "report 1: error NUMBER-RANGE Laufnummer (-1): number: negative, or more digits than its field holds"},
@@ -130,6 +133,15 @@ TEST(ReportValues, TextsAreMadeReadyBeforeTheyAreChecked) {
         r.notes.find("report 1: Vorgang.Aktenzeichen \"P-0001<U+000A>2\": \"<U+000A>\" (U+000A) written as \" \""),
         std::string::npos)
         << r.notes;
+    // The frame's texts too: a longer substitute is cut to its field.
+    job["strFirma"] = std::string(49, 'F') + "\xE2\x82\xAC";
+    job["udtDSKOData"]["strName1"] = "Caf\xC3\xA9 \xC5\x93";
+    const Outcome frame = generate(job, true);
+    ASSERT_EQ(frame.failure, "");
+    EXPECT_EQ(frame.file.substr(0, frame.file.find('\n')).size(), 105u);
+    EXPECT_NE(frame.file.find(std::string(49, 'F') + "E01"), std::string::npos);
+    EXPECT_NE(frame.notes.find("header: strFirma"), std::string::npos) << frame.notes;
+    EXPECT_NE(frame.file.find("Caf\xE9 oe"), std::string::npos);
     // The protocol line holds the same texts as the record.
     EXPECT_NE(r.protocol.find("M\xFCller"), std::string::npos);
 }
