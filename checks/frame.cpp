@@ -3,6 +3,7 @@
 #include "checks/field_checks.h"
 #include "checks/rules.h"
 #include "core/frame_layouts.h"
+#include "reports/clsGenBeitrErh/DSBE_layout.h"
 
 namespace tamrel::checks {
 
@@ -16,8 +17,7 @@ constexpr std::size_t width(const RecordLayout& r, std::string_view name) {
 }
 constexpr std::size_t kFileNrWidth = width(layouts::kVOSZ, "strFileNr");
 constexpr std::size_t kMicroSecWidth = width(layouts::kDSKO, "strMicroSec");
-// The data records' time stamp fraction, as wide as the communication record's.
-constexpr std::size_t kMicrosecondsWidth = width(layouts::kDSKO, "strMicroSec");
+constexpr std::size_t kMicrosecondsWidth = width(layouts::beitrerh::kDSBE, "DatensatzData.strMicroseconds");
 
 // A party of the communication record: the header's.
 void same_party(const FieldChecks& c, std::string_view name, std::string_view value, std::string_view header) {

@@ -43,9 +43,8 @@ char32_t latin9(unsigned char c) {
     }
 }
 
-// UTF-8, else one character a byte, into `out` (kept from call to call:
-// a record is read back for every report tamrel generate writes). A UTF-8
-// sequence cut short at the end is read as far as it goes.
+// UTF-8, else one character a byte, into `out` (its buffer kept from line
+// to line). A UTF-8 sequence cut short at the end is read as far as it goes.
 void decode(std::string_view line, FileEncoding encoding, std::u32string& out) {
     if (out.size() < line.size()) out.resize(line.size());
     char32_t* o = out.data();
@@ -211,6 +210,8 @@ void read_records(std::istream& in, const std::function<void(std::u32string_view
             throw std::runtime_error("an XML report: only fixed-width files are read");
     };
     bool any = false;
+    // UTF-8 that was given, not found out, is checked line by line.
+    const bool validate = encoding == FileEncoding::Utf8;
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> spool(nullptr, &std::fclose);
     if (encoding == FileEncoding::Detect) {
         const bool seekable = in.rdbuf()->pubseekoff(0, std::ios::cur, std::ios::in) != std::streampos(-1);
@@ -240,8 +241,7 @@ void read_records(std::istream& in, const std::function<void(std::u32string_view
     auto take = [&](std::size_t number) {
         first_line(number);
         any = true;
-        if (encoding == FileEncoding::Utf8 && !valid_utf8(line))
-            throw std::runtime_error("record " + std::to_string(number) + ": not UTF-8");
+        if (validate && !valid_utf8(line)) throw std::runtime_error("record " + std::to_string(number) + ": not UTF-8");
         decode(line, encoding, record);
         each(record);
     };

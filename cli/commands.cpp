@@ -157,8 +157,9 @@ int run(int argc, char** argv) {
     auto* docsCmd = app.add_subcommand("docs", "Write the reference documentation (call protocol, data objects)");
     std::string docsDir;
     docsCmd->add_option("DIR", docsDir, "Folder to write into (the project's docs/: tamrel docs docs)")->required();
-    docsCmd->footer("Exit codes: 0 written (each file's path on standard output); 2 bad command line; 4 a file "
-                    "could not be written.");
+    docsCmd->footer(
+        "Exit codes: 0 written (each file's path on standard output); 2 bad command line; 4 a file "
+        "could not be written.");
 
     if (argc < 2) {
         std::cerr << "tamrel: a subcommand is required:";

@@ -4,8 +4,8 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <iostream>
+#include <optional>
 
 #include <nlohmann/json.hpp>
 
@@ -34,9 +34,7 @@ int with_file(const std::string& command, const FileOptions& o, Body&& body) {
             std::cerr << "tamrel " << command << ": --encoding: expected " << kEncodingSpellings << '\n';
             return 2;
         }
-        encoding = *e == Encoding::Utf8     ? checks::FileEncoding::Utf8
-                   : *e == Encoding::Latin9 ? checks::FileEncoding::Latin9
-                                            : checks::FileEncoding::Latin1;
+        encoding = file_encoding(*e);
     }
     std::ifstream file;
     if (o.path != "-") {
@@ -84,7 +82,7 @@ int check_file(const FileOptions& o) {
             ++(f.rule->severity == checks::Severity::Error ? errors : warnings);
         }
         (o.json ? std::cerr : std::cout) << printable(o.path) << ": " << result.records << " records, " << errors
-                                          << " errors, " << warnings << " warnings\n";
+                                         << " errors, " << warnings << " warnings\n";
         return errors ? 1 : 0;
     });
 }

@@ -51,9 +51,10 @@ Outputs resolve_outputs(const GenerateOptions& o, const std::vector<std::string>
         const std::string& path;
         std::optional<OutputTarget>* target;
     };
+    static const std::string none;
     const bool memory = o.outputText != nullptr;
-    const Named named[] = {{"--output", memory ? std::string() : o.output, &out.transfer},
-                           {"--protocol", memory ? std::string() : o.protocol, &out.protocol},
+    const Named named[] = {{"--output", memory ? none : o.output, &out.transfer},
+                           {"--protocol", memory ? none : o.protocol, &out.protocol},
                            {"--findings", o.findings, &out.findings},
                            {"--log", o.log, &out.log}};
     std::vector<std::pair<std::string, const OutputTarget*>> seen;

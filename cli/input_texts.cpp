@@ -6,6 +6,7 @@
 #include <utf8proc.h>
 
 #include "core/printable.h"
+#include "core/text.h"
 
 namespace tamrel::cli {
 
@@ -56,8 +57,7 @@ std::string InputTexts::prepare(std::string& value, const Name& name) {
         std::string_view to;
         if (f.control) {
             if (!transliterate_) {
-                std::size_t position = 1;
-                for (std::size_t i = 0; i < at; ++i) position += (static_cast<unsigned char>(value[i]) & 0xC0) != 0x80;
+                const std::size_t position = text::char_count(std::string_view(value).substr(0, at)) + 1;
                 return name() + " \"" + printable(original) + "\": the control character " + unicode_name(character) +
                        " (character " + std::to_string(position) +
                        ") cannot be written in a transfer file; --transliterate writes it as a blank";

@@ -44,10 +44,10 @@ private:
 void to_nfc(std::string& text);
 
 // Whether a report given as this JSON line may hold a text to prepare: an
-// escape or a raw control character, DEL, or any character outside
-// U+0020 to U+00FF but those of U+00C0 to U+00FF (C1 controls, and what
-// may be decomposed or not encodable). A line of ASCII and Latin-1 letters (U+00C0 to U+00FF, the
-// umlauts) needs nothing: its texts are walked only when this is true.
+// escape or a raw control character, DEL, or any character beyond U+007F
+// but the Latin-1 letters U+00C0 to U+00FF (C1 controls, and what may be
+// decomposed or not encodable). A line of ASCII and umlauts needs nothing:
+// its texts are walked only when this is true.
 bool may_need_preparing(std::string_view json_line);
 
 }  // namespace tamrel::cli

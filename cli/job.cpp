@@ -52,7 +52,7 @@ void read_values(Job& job, const json& j, const std::string& path) {
         job.frame = read_frame_values(inv, *job.procedure);
         // The communication record names the parties of the header: where
         // the job leaves them out, they are the header's.
-        const json dsko = args["udtDSKOData"];
+        const json& dsko = args["udtDSKOData"];
         DSKOData& d = job.frame.udtDSKOData;
         if (dsko.is_object() && !dsko.contains("strBNRAb")) d.strBNRAb = job.frame.strBNRAb;
         if (dsko.is_object() && !dsko.contains("strBNREm")) d.strBNREm = job.frame.strBNREm;

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "core/printable.h"
+
 namespace tamrel::cli {
 namespace {
 
@@ -142,9 +144,7 @@ std::string_view substitute(char32_t c) {
 
 std::string unicode_name(std::string_view character) {
     std::size_t i = 0;
-    char name[16];
-    std::snprintf(name, sizeof name, "U+%04X", character.empty() ? 0u : static_cast<unsigned>(decode(character, i)));
-    return name;
+    return code_point_name(character.empty() ? U'\0' : decode(character, i));
 }
 
 std::optional<Encoding> parse_encoding(std::string_view name) {
@@ -155,6 +155,17 @@ std::optional<Encoding> parse_encoding(std::string_view name) {
     for (std::string_view n : {"UTF-8", "utf8"})
         if (ascii_equal_nocase(name, n)) return Encoding::Utf8;
     return std::nullopt;
+}
+
+checks::FileEncoding file_encoding(Encoding e) {
+    switch (e) {
+        case Encoding::Latin1:
+            return checks::FileEncoding::Latin1;
+        case Encoding::Latin9:
+            return checks::FileEncoding::Latin9;
+        default:
+            return checks::FileEncoding::Utf8;
+    }
 }
 
 const char* encoding_name(Encoding e) {

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "checks/transfer_file.h"
+
 namespace tamrel::cli {
 
 enum class Encoding { Latin1, Latin9, Utf8 };
@@ -15,6 +17,8 @@ enum class Encoding { Latin1, Latin9, Utf8 };
 // latin1, latin-1, l1; ISO-8859-15, latin9, latin-9, l9; UTF-8, utf8.
 std::optional<Encoding> parse_encoding(std::string_view name);
 const char* encoding_name(Encoding e);  // as in an XML declaration
+// How a file written in `e` is read back (tamrel check, inspect).
+checks::FileEncoding file_encoding(Encoding e);
 inline constexpr const char* kEncodingSpellings =
     "ISO-8859-1 (default; also latin1, l1), ISO-8859-15 (latin9, l9) or UTF-8 (utf8); any case";
 

@@ -19,7 +19,7 @@ struct OutputTarget {
     mode_t mode = 0644;  // of the file written
     uid_t uid = 0;       // of a replaced file, kept where the process may
     gid_t gid = 0;
-    int fd = -1;         // of a Descriptor: standard output for "-"
+    int fd = -1;  // of a Descriptor: standard output for "-"
     bool is_file() const { return kind == NewFile || kind == ReplaceFile; }
 };
 

@@ -57,10 +57,6 @@ bool each_text(const T& v, const std::string& path, const TextVisitor& f, std::s
                       Binding<T>::fields);
 }
 
-}  // namespace tamrel::json_binding
-
-namespace tamrel::json_binding {
-
 // Where a text property sits, as a chain of pieces: turned into the name
 // each_text gives it ("Vorgang.Vorname", "KsZeileA.3", "Position[2].PosFeld1")
 // only when it is asked for.
@@ -84,14 +80,16 @@ struct TextPlace {
     }
 };
 
-// Calls edit(value, place) for every text property of `v` that holds
-// anything but printable ASCII: the values that may need normalising or
-// that hold control characters. Plain texts cost one scan each.
+// Printable ASCII only: a text that needs no preparing.
 inline bool plain_ascii(std::string_view s) {
     for (char c : s)
         if (static_cast<unsigned char>(c) - 0x20u >= 0x5Fu) return false;
     return true;
 }
+
+// Calls edit(value, place) for every text property of `v` that holds
+// anything but printable ASCII: the values that may need normalising or
+// that hold control characters. Plain texts cost one scan each.
 template <class T, class F>
 requires(!Bound<T>) void edit_texts(T&, const TextPlace*, F&) {}
 template <class F>

@@ -39,14 +39,12 @@ bool LineReader::next(std::string& line, std::size_t& length) {
             const std::size_t part = max_ + 1 - line.size();
             line.append(start, part);
             pos_ += part;
-            offset_ += part;
             overlong_ = true;
             length = line.size();
             return true;
         }
         line.append(start, take);
         pos_ += take + (nl ? 1 : 0);
-        offset_ += take + (nl ? 1 : 0);
         if (nl) break;
     }
     if (!any) return false;

@@ -27,8 +27,6 @@ public:
     bool next(std::string& line, std::size_t& length);
     // Whether the last line was longer than the bound (the reader stopped).
     bool overlong() const { return overlong_; }
-    // The bytes read so far.
-    std::size_t offset() const { return offset_; }
 
 private:
     bool fill();
@@ -37,7 +35,7 @@ private:
     std::size_t max_;
     static constexpr std::size_t kChunk = 1 << 16;
     std::unique_ptr<char[]> buf_;
-    std::size_t pos_ = 0, end_ = 0, offset_ = 0;
+    std::size_t pos_ = 0, end_ = 0;
     bool overlong_ = false;
 };
 

@@ -18,7 +18,7 @@ std::string printable(std::string_view s) {
     for (std::size_t i = 0; i < s.size();) {
         const auto c = static_cast<unsigned char>(s[i]);
         const std::size_t n = text::seq_len(c);
-        if (n == 0 || i + n > s.size() || !text::is_valid_utf8(s.substr(i, n))) {
+        if (i + n > s.size() || !text::is_valid_utf8(s.substr(i, n))) {
             char buf[8];
             std::snprintf(buf, sizeof buf, "<0x%02X>", c);
             out += buf;

@@ -82,9 +82,7 @@ TEST(GenerateAndCheck, AgreeOnHostileReportsAndFrameValues) {
                     continue;
                 }
                 ++written;
-                const std::string found =
-                    errors_in(out.text, encoding == cli::Encoding::Utf8 ? checks::FileEncoding::Utf8
-                                                                        : checks::FileEncoding::Latin1);
+                const std::string found = errors_in(out.text, cli::file_encoding(encoding));
                 ASSERT_EQ(found, "") << e.path.filename() << " variant " << i << ":\n"
                                      << variant.dump().substr(0, 4000);
             }

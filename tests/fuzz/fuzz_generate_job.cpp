@@ -49,10 +49,7 @@ void run(const Job& job, bool keep_going, Encoding encoding, bool crlf, bool che
     // What is written with the checks on, tamrel check accepts.
     if (check && !xml) {
         std::istringstream in(out.text);
-        const auto file_encoding = encoding == Encoding::Utf8     ? tamrel::checks::FileEncoding::Utf8
-                                   : encoding == Encoding::Latin9 ? tamrel::checks::FileEncoding::Latin9
-                                                                  : tamrel::checks::FileEncoding::Latin1;
-        for (const auto& f : tamrel::checks::check_transfer_file(in, file_encoding).findings)
+        for (const auto& f : tamrel::checks::check_transfer_file(in, file_encoding(encoding)).findings)
             FUZZ_REQUIRE(f.rule->severity != tamrel::checks::Severity::Error);
     }
 }
