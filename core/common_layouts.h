@@ -6,7 +6,7 @@
 
 namespace tamrel::layouts {
 
-// Identifier, procedure, sender, receiver, version, creation time (named
+// Identifier, procedure, sender, Empfaenger, version, creation time (named
 // after the property it comes from), microseconds, error marker and count.
 constexpr std::array<FieldLayout, 9> record_head(std::string_view id, std::string_view procedure,
                                                  std::string_view version, std::string_view created) {

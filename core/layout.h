@@ -5,6 +5,7 @@
 // check, tamrel inspect); a test holds each one to the builder next to
 // which it is declared.
 #pragma once
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
@@ -63,7 +64,10 @@ struct RecordLayout {
     std::span<const RecordLayout* const> forms = {};
 };
 
-// Field helpers that keep the declarations one line a field.
+// Field helpers that keep the declarations one line a field. Each field is
+// declared once, by name (`DSME::Meldegrund`), in its record's namespace;
+// the record's `kFields` lists them in their order, the builder writes them
+// by name and the readers walk `kFields`.
 namespace layout {
 constexpr FieldLayout lit(std::string_view name, std::uint16_t pos, std::string_view text) {
     return {name, pos, static_cast<std::uint16_t>(text.size()), FieldKind::Literal, text};
@@ -87,14 +91,62 @@ constexpr FieldLayout always(const RecordLayout& block, std::uint16_t pos, bool 
 constexpr FieldLayout count(const RecordLayout& block, std::uint16_t pos, std::uint16_t len) {
     return {block.id, pos, len, FieldKind::N, {}, 0, Announce::Count, &block};
 }
-// A layout's fields made of a part that several layouts share and a part of
+// A piece of `whole` that a builder writes as a field of its own: one
+// alternative of a field that holds either one text or several.
+constexpr FieldLayout part(const FieldLayout& whole, std::string_view name, std::uint16_t offset, std::uint16_t len,
+                           FieldKind kind = FieldKind::An) {
+    return {name, static_cast<std::uint16_t>(whole.pos + offset), len, kind};
+}
+// The declared fields `first` to `last`, written as one text by a builder
+// that decides them together (a record's row of block flags).
+constexpr FieldLayout span(std::string_view name, const FieldLayout& first, const FieldLayout& last) {
+    return {name, first.pos, static_cast<std::uint16_t>(last.pos + last.len - first.pos), FieldKind::An};
+}
+// A layout's fields made of parts that several layouts share and parts of
 // its own.
-template <std::size_t N, std::size_t M>
-constexpr std::array<FieldLayout, N + M> joined(const std::array<FieldLayout, N>& a,
-                                                const std::array<FieldLayout, M>& b) {
-    std::array<FieldLayout, N + M> all{};
-    for (std::size_t i = 0; i < N; ++i) all[i] = a[i];
-    for (std::size_t i = 0; i < M; ++i) all[N + i] = b[i];
+template <std::size_t... N>
+constexpr std::array<FieldLayout, (N + ...)> joined(const std::array<FieldLayout, N>&... parts) {
+    std::array<FieldLayout, (N + ...)> all{};
+    std::size_t at = 0;
+    ((std::copy(parts.begin(), parts.end(), all.begin() + at), at += N), ...);
+    return all;
+}
+// The names "<stem>(1)" to "<stem>(Count)" of a repeated field, made once
+// at compile time.
+template <std::size_t Count>
+struct IndexedNames {
+    std::array<std::array<char, 32>, Count> text{};
+    std::array<std::uint8_t, Count> size{};
+    constexpr explicit IndexedNames(std::string_view stem) {
+        for (std::size_t i = 0; i < Count; ++i) {
+            std::size_t n = 0;
+            for (char c : stem) text[i][n++] = c;
+            text[i][n++] = '(';
+            char digits[8];
+            std::size_t d = 0;
+            for (std::size_t v = i + 1; v > 0; v /= 10) digits[d++] = static_cast<char>('0' + v % 10);
+            while (d > 0) text[i][n++] = digits[--d];
+            text[i][n++] = ')';
+            size[i] = static_cast<std::uint8_t>(n);
+        }
+    }
+    constexpr std::string_view operator[](std::size_t i) const { return {text[i].data(), size[i]}; }
+};
+// `Count` rows of `group` (its fields at positions from 1), one after another
+// from `pos`; field k of row i is named names[k][i].
+template <std::size_t K, std::size_t Count>
+constexpr std::array<FieldLayout, K * Count> repeated(const std::array<FieldLayout, K>& group, std::uint16_t pos,
+                                                      const std::array<const IndexedNames<Count>*, K>& names) {
+    std::array<FieldLayout, K * Count> all{};
+    std::uint16_t row = 0;
+    for (const FieldLayout& f : group) row = static_cast<std::uint16_t>(row + f.len);
+    for (std::size_t i = 0; i < Count; ++i)
+        for (std::size_t k = 0; k < K; ++k) {
+            FieldLayout& f = all[i * K + k];
+            f = group[k];
+            f.name = (*names[k])[i];
+            f.pos = static_cast<std::uint16_t>(pos + i * row + group[k].pos - 1);
+        }
     return all;
 }
 }  // namespace layout

@@ -6,37 +6,40 @@
 namespace tamrel::layouts {
 using layout::lit;
 
-inline constexpr FieldLayout kDBNAFields[] = {
-    lit("identifier", 1, "DBNA"),
-    {"Vorgang.Familienname", 5, 30, FieldKind::An},
-    {"Vorgang.Vorname", 35, 30, FieldKind::An},
-    {"Vorgang.Vorsatzwort", 65, 20, FieldKind::An},
-    {"Vorgang.Namenszusatz", 85, 20, FieldKind::An},
-    {"Vorgang.Titel", 105, 20, FieldKind::An},
-    {"marker (A or blank)", 125, 1, FieldKind::Code},
-};
-inline constexpr RecordLayout kDBNA{"DBNA", 125, kDBNAFields};
+namespace DBNA {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBNA");
+inline constexpr FieldLayout Familienname{"Vorgang.Familienname", 5, 30, FieldKind::An};
+inline constexpr FieldLayout Vorname{"Vorgang.Vorname", 35, 30, FieldKind::An};
+inline constexpr FieldLayout Vorsatzwort{"Vorgang.Vorsatzwort", 65, 20, FieldKind::An};
+inline constexpr FieldLayout Namenszusatz{"Vorgang.Namenszusatz", 85, 20, FieldKind::An};
+inline constexpr FieldLayout Titel{"Vorgang.Titel", 105, 20, FieldKind::An};
+inline constexpr FieldLayout Marker{"marker (A or blank)", 125, 1, FieldKind::Code};
+inline constexpr FieldLayout kFields[] = {Kennung, Familienname, Vorname, Vorsatzwort, Namenszusatz, Titel, Marker};
+}  // namespace DBNA
+inline constexpr RecordLayout kDBNA{"DBNA", 125, DBNA::kFields};
 
-inline constexpr FieldLayout kDBANFields[] = {
-    lit("identifier", 1, "DBAN"),
-    {"Vorgang.Land (blank for D)", 5, 3, FieldKind::An},
-    {"Vorgang.PLZ", 8, 10, FieldKind::An},
-    {"Vorgang.Ort", 18, 34, FieldKind::An},
-    {"Vorgang.Strasse", 52, 33, FieldKind::An},
-    {"Vorgang.Hausnummer", 85, 9, FieldKind::An},
-    {"Vorgang.Adresszusatz", 94, 40, FieldKind::An},
-};
-inline constexpr RecordLayout kDBAN{"DBAN", 133, kDBANFields};
+namespace DBAN {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBAN");
+inline constexpr FieldLayout Land{"Vorgang.Land (blank for D)", 5, 3, FieldKind::An};
+inline constexpr FieldLayout PLZ{"Vorgang.PLZ", 8, 10, FieldKind::An};
+inline constexpr FieldLayout Ort{"Vorgang.Ort", 18, 34, FieldKind::An};
+inline constexpr FieldLayout Strasse{"Vorgang.Strasse", 52, 33, FieldKind::An};
+inline constexpr FieldLayout Hausnummer{"Vorgang.Hausnummer", 85, 9, FieldKind::An};
+inline constexpr FieldLayout Adresszusatz{"Vorgang.Adresszusatz", 94, 40, FieldKind::An};
+inline constexpr FieldLayout kFields[] = {Kennung, Land, PLZ, Ort, Strasse, Hausnummer, Adresszusatz};
+}  // namespace DBAN
+inline constexpr RecordLayout kDBAN{"DBAN", 133, DBAN::kFields};
 
-inline constexpr FieldLayout kDBGBFields[] = {
-    lit("identifier", 1, "DBGB"),
-    {"Vorgang.Geburtsname", 5, 30, FieldKind::An},
-    {"Vorgang.GeburtsVorsatzwort", 35, 20, FieldKind::An},
-    {"Vorgang.GeburtsNamenszusatz", 55, 20, FieldKind::An},
-    {"Vorgang.Geburtsdatum", 75, 8, FieldKind::Date},
-    {"Vorgang.Geschlecht", 83, 1, FieldKind::An},
-    {"Vorgang.Geburtsort", 84, 34, FieldKind::An},
-};
-inline constexpr RecordLayout kDBGB{"DBGB", 117, kDBGBFields};
+namespace DBGB {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBGB");
+inline constexpr FieldLayout Geburtsname{"Vorgang.Geburtsname", 5, 30, FieldKind::An};
+inline constexpr FieldLayout GeburtsVorsatzwort{"Vorgang.GeburtsVorsatzwort", 35, 20, FieldKind::An};
+inline constexpr FieldLayout GeburtsNamenszusatz{"Vorgang.GeburtsNamenszusatz", 55, 20, FieldKind::An};
+inline constexpr FieldLayout Geburtsdatum{"Vorgang.Geburtsdatum", 75, 8, FieldKind::Date};
+inline constexpr FieldLayout Geschlecht{"Vorgang.Geschlecht", 83, 1, FieldKind::An};
+inline constexpr FieldLayout Geburtsort{"Vorgang.Geburtsort", 84, 34, FieldKind::An};
+inline constexpr FieldLayout kFields[] = {Kennung, Geburtsname, GeburtsVorsatzwort, GeburtsNamenszusatz, Geburtsdatum, Geschlecht, Geburtsort};
+}  // namespace DBGB
+inline constexpr RecordLayout kDBGB{"DBGB", 117, DBGB::kFields};
 
 }  // namespace tamrel::layouts

@@ -1,7 +1,13 @@
 // The one way a fixed-width record or block is written: fields appended left
-// to right through the named encoders into a buffer, each field one
+// to right by their declarations (core/layout.h), each through the encoder
+// of its kind and at its declared width, into a buffer; each field one
 // statement (the statement number of the log line), one filled flag shared
 // by every encoder of the block, and the length check that closes it.
+//
+// A builder states no width or position: it names the declared field. In a
+// build with assertions the writer holds each field to its declared
+// position, so a builder that skips a field, writes one twice or in another
+// order than its layout fails the test suite.
 #pragma once
 #include <cassert>
 #include <cstdint>
@@ -16,6 +22,7 @@
 #include "core/decimal.h"
 #include "core/flags.h"
 #include "core/joined.h"
+#include "core/layout.h"
 #include "core/record_buffer.h"
 #include "core/routine.h"
 #include "core/text.h"
@@ -38,6 +45,82 @@ public:
     Writer& operator=(const Writer&) = delete;
     [[gnu::always_inline]] ~Writer() { publish(); }
 
+    // The field as its declaration fixes it: a literal's text; any other
+    // field empty (blanks, or zeros where the kind is numeric).
+    [[gnu::always_inline]] Writer& put(const FieldLayout& f) {
+        at(f);
+        return f.kind == FieldKind::Literal ? lit(f.literal) : encode(f, {});
+    }
+    // `v` through the encoder of the field's kind: a text, a number (written
+    // as its digits) or a flag's truth (J or N).
+    template <class V>
+    [[gnu::always_inline]] Writer& put(const FieldLayout& f, const V& v) {
+        at(f);
+        if constexpr (std::is_same_v<V, bool>) {
+            assert(f.kind == FieldKind::Flag);
+            return lit(v ? "J" : "N");
+        } else if constexpr (std::is_integral_v<V>) {
+            return encode(f, mlGen::Decimal(v));
+        } else {
+            return encode(f, std::string_view(v));
+        }
+    }
+    // A text written as it is (the field's width is the text's), such as a
+    // code chosen by the builder or a count patched in later.
+    [[gnu::always_inline]] Writer& text(const FieldLayout& f, std::string_view s) {
+        at(f);
+        return lit(s);
+    }
+    // A J/N flag from an integer property (-1, 1: J).
+    [[gnu::always_inline]] Writer& jn(const FieldLayout& f, std::int32_t v) {
+        at(f);
+        const char c = mlGen::JNChar(v, filled_);
+        return lit({&c, 1});
+    }
+    // A block's flag: whether it follows the record, decided here for both
+    // the record and the plan that appends the blocks.
+    template <class Block>
+    [[gnu::always_inline]] Writer& announce(const FieldLayout& f, BlockPlan<Block>& plan, Block block, bool follows) {
+        plan.set(block, follows);
+        return put(f, follows);
+    }
+    // A date stamp: GetCurrDate's text as a numeric field. The usual one, the
+    // full creation time taken from the date itself, is written straight.
+    [[gnu::always_inline]] Writer& stamp(const FieldLayout& f, std::string_view dateText, int format, const Date& date,
+                                         bool declared = true) {
+        if (declared) at(f);
+        if (dateText.empty() && format == 1 && f.len == 14) {
+            const std::size_t w = open_field(f.len);
+            char* d = buf_.tail();
+            put_hhnnss(put_yyyymmdd(d, date), date);
+            const std::uint64_t zeros = bytes::kOnes * '0';
+            if (((bytes::load8(d) ^ zeros) | (bytes::load8(d + 6) ^ zeros)) != 0) filled_ = true;
+            return close_field(d + 14, w);
+        }
+        const mlGlobal::CurrDate text(dateText, format, date);
+        return n(Joined(text.pieces()), f.len);
+    }
+    // Replaces the field, a single ASCII character, once the record is written.
+    [[gnu::always_inline]] void patch(const FieldLayout& f, char c) {
+        assert(f.len == 1);
+        buf_.data()[f.pos - 1] = c;
+    }
+    // The fields that follow are an entry of a repeated group: their
+    // positions count from the entry's start.
+    [[gnu::always_inline]] void entry() {
+#ifndef NDEBUG
+        next_ = 1;
+#endif
+    }
+    // The entries are done: the fields that follow come after the declared
+    // `rows`.
+    [[gnu::always_inline]] void after([[maybe_unused]] std::span<const FieldLayout> rows) {
+#ifndef NDEBUG
+        next_ = static_cast<std::uint16_t>(rows.back().pos + rows.back().len);
+#endif
+    }
+
+    // Fields by width, for the builders not yet written by their declarations.
     [[gnu::always_inline]] Writer& lit(std::string_view s) {
         ++line_;
         buf_.put(s);
@@ -62,35 +145,29 @@ public:
         return lit({&c, 1});
     }
     [[gnu::always_inline]] Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
-    // A block's flag: whether it follows the record, decided here for both
-    // the record and the plan that appends the blocks.
     template <class Block>
     [[gnu::always_inline]] Writer& announce(BlockPlan<Block>& plan, Block block, bool follows) {
         plan.set(block, follows);
         return flag(follows);
     }
-    // A date stamp: GetCurrDate's text as a numeric field. The usual one, the
-    // full creation time taken from the date itself, is written straight.
     [[gnu::always_inline]] Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
-        if (dateText.empty() && format == 1 && width == 14) {
-            const std::size_t w = open_field(width);
-            char* d = buf_.tail();
-            put_hhnnss(put_yyyymmdd(d, date), date);
-            const std::uint64_t zeros = bytes::kOnes * '0';
-            if (((bytes::load8(d) ^ zeros) | (bytes::load8(d + 6) ^ zeros)) != 0) filled_ = true;
-            return close_field(d + 14, w);
-        }
-        const mlGlobal::CurrDate text(dateText, format, date);
-        return n(Joined(text.pieces()), width);
+        return stamp(FieldLayout{{}, 0, static_cast<std::uint16_t>(width), FieldKind::DateTime}, dateText, format, date,
+                     false);
     }
-    // Replaces the ASCII character at 0-based byte `index` of the record.
     [[gnu::always_inline]] void patch(std::size_t index, char c) { buf_.data()[index] = c; }
 
     std::string_view record() const { return buf_.view(); }
 
-    // The length check that closes the record and appends it. Every encoder
-    // writes exactly its width, so the writer knows the record's length in
-    // characters without counting them again.
+    // The length check that closes the record and appends it: the declared
+    // length, under the record's identifier or the `name` its check has
+    // always reported. Every encoder writes exactly its width, so the writer
+    // knows the record's length in characters without counting them again.
+    [[gnu::always_inline]] void check(const RecordLayout& l) { check(l, l.id); }
+    [[gnu::always_inline]] void check(const RecordLayout& l, std::string_view name) {
+        assert(next_ == l.length + 1);
+        check(l.length, name);
+    }
+    // As above, for a length that counts a repeated group's entries.
     [[gnu::always_inline]] void check(int length, std::string_view name) {
         ++line_;
         close(length, name);
@@ -110,6 +187,29 @@ public:
     }
 
 private:
+    // Where the next field must begin, by the declarations so far.
+    [[gnu::always_inline]] void at([[maybe_unused]] const FieldLayout& f) {
+#ifndef NDEBUG
+        assert(f.pos == next_);
+        next_ = static_cast<std::uint16_t>(f.pos + f.len);
+#endif
+    }
+    // The encoder of the field's kind, at its width.
+    [[gnu::always_inline]] Writer& encode(const FieldLayout& f, std::string_view v) {
+        switch (f.kind) {
+            case FieldKind::N:
+            case FieldKind::Date:
+            case FieldKind::DateTime:
+                return n(v, f.len);
+            case FieldKind::Amount:
+                return amount(v, f.len - f.decimals, f.decimals, false);
+            case FieldKind::SignedAmount:
+                return amount(v, f.len - 1 - f.decimals, f.decimals, true);
+            default:
+                assert(f.kind != FieldKind::Literal && f.kind != FieldKind::Flag);
+                return an(v, f.len);
+        }
+    }
     [[gnu::always_inline]] void close(int length, std::string_view name) {
         publish();
         assert(chars_ == text::char_count(record()));
@@ -150,12 +250,28 @@ private:
     // encoders at a member would make the writer address-taken (see below).
     bool filled_ = false;
     std::size_t chars_ = 0;
+#ifndef NDEBUG
+    std::uint16_t next_ = 1;
+#endif
     RecordBuffer buf_;
 };
 
-// A block whose fields all come from `fill`: its identifier, the fields, the
-// length check under its identifier, all under the routine `context`.
-// Returns whether any field held data.
+// A block of the layout `l` whose fields after its identifier all come from
+// `fill`: the identifier, the fields, the length check, all under the
+// routine `context`. Returns whether any field held data.
+template <class Fill>
+bool write_block(std::string& out, std::string_view context, const RecordLayout& l, Fill&& fill) {
+    return routine(context, [&](int& line) {
+        bool filled = false;
+        Writer w(out, line, filled);
+        w.put(l.fields[0]);
+        fill(w);
+        w.check(l);
+        return filled;
+    });
+}
+
+// As above, by width, for the blocks not yet written by their declarations.
 template <class Fill>
 bool write_block(std::string& out, std::string_view context, int length, std::string_view id, Fill&& fill) {
     return routine(context, [&](int& line) {

@@ -13,236 +13,262 @@ using layout::count;
 using layout::flag;
 using layout::lit;
 
-inline constexpr FieldLayout kDBAGFields[] = {
-    lit("identifier", 1, "DBAG"),
-    {"Vorgang.Arbeitgeber.Name1", 5, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name2", 35, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Name3", 65, 30, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Land", 95, 3, FieldKind::An},
-    {"Vorgang.Arbeitgeber.PLZ", 98, 10, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Ort", 108, 34, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Strasse", 142, 33, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Hausnummer", 175, 9, FieldKind::An},
-    {"Vorgang.Arbeitgeber.Adresszusatz", 184, 40, FieldKind::An},
-    {"DBAG.AGAPE", 224, 60, FieldKind::An},
-    {"DBAG.AGAPP", 284, 60, FieldKind::An},
-    {"DBAG.AGTELE", 344, 25, FieldKind::An},
-    {"DBAG.AGTELP", 369, 25, FieldKind::An},
-    {"DBAG.AGEMAILE", 394, 70, FieldKind::An},
-    {"DBAG.AGEMAILP", 464, 70, FieldKind::An},
-};
-inline constexpr RecordLayout kDBAG{"DBAG", 533, kDBAGFields};
+namespace DBAG {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBAG");
+inline constexpr FieldLayout Name1{"Vorgang.Arbeitgeber.Name1", 5, 30, FieldKind::An};
+inline constexpr FieldLayout Name2{"Vorgang.Arbeitgeber.Name2", 35, 30, FieldKind::An};
+inline constexpr FieldLayout Name3{"Vorgang.Arbeitgeber.Name3", 65, 30, FieldKind::An};
+inline constexpr FieldLayout Land{"Vorgang.Arbeitgeber.Land", 95, 3, FieldKind::An};
+inline constexpr FieldLayout PLZ{"Vorgang.Arbeitgeber.PLZ", 98, 10, FieldKind::An};
+inline constexpr FieldLayout Ort{"Vorgang.Arbeitgeber.Ort", 108, 34, FieldKind::An};
+inline constexpr FieldLayout Strasse{"Vorgang.Arbeitgeber.Strasse", 142, 33, FieldKind::An};
+inline constexpr FieldLayout Hausnummer{"Vorgang.Arbeitgeber.Hausnummer", 175, 9, FieldKind::An};
+inline constexpr FieldLayout Adresszusatz{"Vorgang.Arbeitgeber.Adresszusatz", 184, 40, FieldKind::An};
+inline constexpr FieldLayout AGAPE{"DBAG.AGAPE", 224, 60, FieldKind::An};
+inline constexpr FieldLayout AGAPP{"DBAG.AGAPP", 284, 60, FieldKind::An};
+inline constexpr FieldLayout AGTELE{"DBAG.AGTELE", 344, 25, FieldKind::An};
+inline constexpr FieldLayout AGTELP{"DBAG.AGTELP", 369, 25, FieldKind::An};
+inline constexpr FieldLayout AGEMAILE{"DBAG.AGEMAILE", 394, 70, FieldKind::An};
+inline constexpr FieldLayout AGEMAILP{"DBAG.AGEMAILP", 464, 70, FieldKind::An};
+inline constexpr FieldLayout kFields[] = {Kennung, Name1, Name2, Name3, Land, PLZ, Ort, Strasse, Hausnummer, Adresszusatz, AGAPE, AGAPP, AGTELE, AGTELP, AGEMAILE, AGEMAILP};
+}  // namespace DBAG
+inline constexpr RecordLayout kDBAG{"DBAG", 533, DBAG::kFields};
 
-inline constexpr FieldLayout kDBABFields[] = {
-    lit("identifier", 1, "DBAB"),
-    {"DBAB.BORTLDKZ", 5, 3, FieldKind::An},
-    {"DBAB.BPLZ", 8, 10, FieldKind::An},
-    {"DBAB.BORT", 18, 34, FieldKind::An},
-};
-inline constexpr RecordLayout kDBAB{"DBAB", 51, kDBABFields};
+namespace DBAB {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBAB");
+inline constexpr FieldLayout BORTLDKZ{"DBAB.BORTLDKZ", 5, 3, FieldKind::An};
+inline constexpr FieldLayout BPLZ{"DBAB.BPLZ", 8, 10, FieldKind::An};
+inline constexpr FieldLayout BORT{"DBAB.BORT", 18, 34, FieldKind::An};
+inline constexpr FieldLayout kFields[] = {Kennung, BORTLDKZ, BPLZ, BORT};
+}  // namespace DBAB
+inline constexpr RecordLayout kDBAB{"DBAB", 51, DBAB::kFields};
 
-inline constexpr FieldLayout kDBSEFields[] = {
-    lit("identifier", 1, "DBSE"),
-    {"DBSE.STKL", 5, 1, FieldKind::N},
-    amount("DBSE.FKT", 6, 4, 3),
-    amount("DBSE.KINDFRB", 10, 3, 1),
-    {"DBSE.AESTEDATBEG", 13, 8, FieldKind::Date},
-};
-inline constexpr RecordLayout kDBSE{"DBSE", 20, kDBSEFields};
+namespace DBSE {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBSE");
+inline constexpr FieldLayout STKL{"DBSE.STKL", 5, 1, FieldKind::N};
+inline constexpr FieldLayout FKT = amount("DBSE.FKT", 6, 4, 3);
+inline constexpr FieldLayout KINDFRB = amount("DBSE.KINDFRB", 10, 3, 1);
+inline constexpr FieldLayout AESTEDATBEG{"DBSE.AESTEDATBEG", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout kFields[] = {Kennung, STKL, FKT, KINDFRB, AESTEDATBEG};
+}  // namespace DBSE
+inline constexpr RecordLayout kDBSE{"DBSE", 20, DBSE::kFields};
 
-inline constexpr FieldLayout kDBNEFields[] = {
-    lit("identifier", 1, "DBNE"),
-    {"DBNE.AVEND", 5, 8, FieldKind::Date},
-    {"DBNE.MONATBEG", 13, 8, FieldKind::Date},
-    {"DBNE.MONATEND", 21, 8, FieldKind::Date},
-    {"reserve", 29, 9, FieldKind::An},
-    amount("DBNE.SVBREGLF", 38, 10, 2),
-    amount("DBNE.SVBREGE", 48, 10, 2),
-    {"DBNE.SVBREGEBEG", 58, 8, FieldKind::Date},
-    {"DBNE.SVBREGEEND", 66, 8, FieldKind::Date},
-    amount("DBNE.NETTOLFD", 74, 10, 2),
-    amount("DBNE.NETTOEINMAL", 84, 10, 2),
-    amount("DBNE.AZWOECH", 94, 4, 2),
-    {"DBNE.TTAUFENT", 98, 1, FieldKind::N},
-    {"DBNE.BVUNFORT", 99, 1, FieldKind::Code},
-    {"DBNE.BVUNFORTU", 100, 1, FieldKind::Code},
-};
-inline constexpr RecordLayout kDBNE{"DBNE", 100, kDBNEFields};
+namespace DBNE {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBNE");
+inline constexpr FieldLayout AVEND{"DBNE.AVEND", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout MONATBEG{"DBNE.MONATBEG", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout MONATEND{"DBNE.MONATEND", 21, 8, FieldKind::Date};
+inline constexpr FieldLayout Reserve{"reserve", 29, 9, FieldKind::An};
+inline constexpr FieldLayout SVBREGLF = amount("DBNE.SVBREGLF", 38, 10, 2);
+inline constexpr FieldLayout SVBREGE = amount("DBNE.SVBREGE", 48, 10, 2);
+inline constexpr FieldLayout SVBREGEBEG{"DBNE.SVBREGEBEG", 58, 8, FieldKind::Date};
+inline constexpr FieldLayout SVBREGEEND{"DBNE.SVBREGEEND", 66, 8, FieldKind::Date};
+inline constexpr FieldLayout NETTOLFD = amount("DBNE.NETTOLFD", 74, 10, 2);
+inline constexpr FieldLayout NETTOEINMAL = amount("DBNE.NETTOEINMAL", 84, 10, 2);
+inline constexpr FieldLayout AZWOECH = amount("DBNE.AZWOECH", 94, 4, 2);
+inline constexpr FieldLayout TTAUFENT{"DBNE.TTAUFENT", 98, 1, FieldKind::N};
+inline constexpr FieldLayout BVUNFORT{"DBNE.BVUNFORT", 99, 1, FieldKind::Code};
+inline constexpr FieldLayout BVUNFORTU{"DBNE.BVUNFORTU", 100, 1, FieldKind::Code};
+inline constexpr FieldLayout kFields[] = {Kennung, AVEND, MONATBEG, MONATEND, Reserve, SVBREGLF, SVBREGE, SVBREGEBEG, SVBREGEEND, NETTOLFD, NETTOEINMAL, AZWOECH, TTAUFENT, BVUNFORT, BVUNFORTU};
+}  // namespace DBNE
+inline constexpr RecordLayout kDBNE{"DBNE", 100, DBNE::kFields};
 
-inline constexpr FieldLayout kDBSAFields[] = {
-    lit("identifier", 1, "DBSA"),
-    {"DBSA.BYGRA", 5, 4, FieldKind::N},
-    {"DBSA.PERSGRA", 9, 3, FieldKind::N},
-    {"DBSA.KNAPPRV", 12, 1, FieldKind::Code},
-    {"DBSA.KNAPPRVBEG", 13, 8, FieldKind::Date},
-    {"DBSA.TTSC", 21, 9, FieldKind::An},
-};
-inline constexpr RecordLayout kDBSA{"DBSA", 29, kDBSAFields};
+namespace DBSA {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBSA");
+inline constexpr FieldLayout BYGRA{"DBSA.BYGRA", 5, 4, FieldKind::N};
+inline constexpr FieldLayout PERSGRA{"DBSA.PERSGRA", 9, 3, FieldKind::N};
+inline constexpr FieldLayout KNAPPRV{"DBSA.KNAPPRV", 12, 1, FieldKind::Code};
+inline constexpr FieldLayout KNAPPRVBEG{"DBSA.KNAPPRVBEG", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout TTSC{"DBSA.TTSC", 21, 9, FieldKind::An};
+inline constexpr FieldLayout kFields[] = {Kennung, BYGRA, PERSGRA, KNAPPRV, KNAPPRVBEG, TTSC};
+}  // namespace DBSA
+inline constexpr RecordLayout kDBSA{"DBSA", 29, DBSA::kFields};
 
-inline constexpr FieldLayout kDBSBFields[] = {
-    lit("identifier", 1, "DBSB"),
-    {"DBSB.PERSBYGRBEG", 5, 8, FieldKind::Date},
-    {"DBSB.BYGRB", 13, 4, FieldKind::N},
-    {"DBSB.PERSGRB", 17, 3, FieldKind::N},
-};
-inline constexpr RecordLayout kDBSB{"DBSB", 19, kDBSBFields};
+namespace DBSB {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBSB");
+inline constexpr FieldLayout PERSBYGRBEG{"DBSB.PERSBYGRBEG", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout BYGRB{"DBSB.BYGRB", 13, 4, FieldKind::N};
+inline constexpr FieldLayout PERSGRB{"DBSB.PERSGRB", 17, 3, FieldKind::N};
+inline constexpr FieldLayout kFields[] = {Kennung, PERSBYGRBEG, BYGRB, PERSGRB};
+}  // namespace DBSB
+inline constexpr RecordLayout kDBSB{"DBSB", 19, DBSB::kFields};
 
-inline constexpr FieldLayout kDBAZFields[] = {
-    lit("identifier", 1, "DBAZ"),         amount("DBAZ.AZWOECH", 5, 4, 2),          amount("DBAZ.AZVG", 9, 4, 2),
-    {"DBAZ.AZAEGR", 13, 2, FieldKind::N}, {"DBAZ.AZAEBEG", 15, 8, FieldKind::Date},
-};
-inline constexpr RecordLayout kDBAZ{"DBAZ", 22, kDBAZFields};
+namespace DBAZ {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBAZ");
+inline constexpr FieldLayout AZWOECH = amount("DBAZ.AZWOECH", 5, 4, 2);
+inline constexpr FieldLayout AZVG = amount("DBAZ.AZVG", 9, 4, 2);
+inline constexpr FieldLayout AZAEGR{"DBAZ.AZAEGR", 13, 2, FieldKind::N};
+inline constexpr FieldLayout AZAEBEG{"DBAZ.AZAEBEG", 15, 8, FieldKind::Date};
+inline constexpr FieldLayout kFields[] = {Kennung, AZWOECH, AZVG, AZAEGR, AZAEBEG};
+}  // namespace DBAZ
+inline constexpr RecordLayout kDBAZ{"DBAZ", 22, DBAZ::kFields};
 
-inline constexpr FieldLayout kDBENFields[] = {
-    lit("identifier", 1, "DBEN"),
-    {"DBEN.MONATBEG", 5, 8, FieldKind::Date},
-    {"DBEN.MONATEND", 13, 8, FieldKind::Date},
-    {"reserve", 21, 9, FieldKind::An},
-    {"DBEN.KENNZRK", 30, 1, FieldKind::An},
-    {"reserve", 31, 20, FieldKind::An},
-    amount("DBEN.SVBREGLF", 51, 10, 2),
-    amount("DBEN.SVBREGE", 61, 10, 2),
-    amount("DBEN.FIBR", 71, 10, 2),
-    {"reserve", 81, 12, FieldKind::An},
-    {"DBEN.TATSURLTAGE", 93, 3, FieldKind::N},
-    amount("DBEN.URLEG", 96, 10, 2),
-    {"DBEN.URLEGGEZ", 106, 1, FieldKind::N},
-    {"DBEN.MIA", 107, 1, FieldKind::Code},
-    {"DBEN.MIABEG", 108, 8, FieldKind::Date},
-    {"DBEN.MIAEND", 116, 8, FieldKind::Date},
-};
-inline constexpr RecordLayout kDBEN{"DBEN", 123, kDBENFields};
+namespace DBEN {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBEN");
+inline constexpr FieldLayout MONATBEG{"DBEN.MONATBEG", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout MONATEND{"DBEN.MONATEND", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout Reserve1{"reserve", 21, 9, FieldKind::An};
+inline constexpr FieldLayout KENNZRK{"DBEN.KENNZRK", 30, 1, FieldKind::An};
+inline constexpr FieldLayout Reserve2{"reserve", 31, 20, FieldKind::An};
+inline constexpr FieldLayout SVBREGLF = amount("DBEN.SVBREGLF", 51, 10, 2);
+inline constexpr FieldLayout SVBREGE = amount("DBEN.SVBREGE", 61, 10, 2);
+inline constexpr FieldLayout FIBR = amount("DBEN.FIBR", 71, 10, 2);
+inline constexpr FieldLayout Reserve3{"reserve", 81, 12, FieldKind::An};
+inline constexpr FieldLayout TATSURLTAGE{"DBEN.TATSURLTAGE", 93, 3, FieldKind::N};
+inline constexpr FieldLayout URLEG = amount("DBEN.URLEG", 96, 10, 2);
+inline constexpr FieldLayout URLEGGEZ{"DBEN.URLEGGEZ", 106, 1, FieldKind::N};
+inline constexpr FieldLayout MIA{"DBEN.MIA", 107, 1, FieldKind::Code};
+inline constexpr FieldLayout MIABEG{"DBEN.MIABEG", 108, 8, FieldKind::Date};
+inline constexpr FieldLayout MIAEND{"DBEN.MIAEND", 116, 8, FieldKind::Date};
+inline constexpr FieldLayout kFields[] = {Kennung, MONATBEG, MONATEND, Reserve1, KENNZRK, Reserve2, SVBREGLF, SVBREGE, FIBR, Reserve3, TATSURLTAGE, URLEG, URLEGGEZ, MIA, MIABEG, MIAEND};
+}  // namespace DBEN
+inline constexpr RecordLayout kDBEN{"DBEN", 123, DBEN::kFields};
 
-inline constexpr FieldLayout kDBEZFields[] = {
-    lit("identifier", 1, "DBEZ"),        amount("DBEZ.AZWOECH", 5, 4, 2),
-    {"DBEZ.AZAEGR", 9, 2, FieldKind::N}, {"DBEZ.AZAEBEG", 11, 8, FieldKind::Date},
-    amount("DBEZ.AZDUWOECH", 19, 4, 2),  amount("DBEZ.ATDUWOE", 23, 3, 2),
-};
-inline constexpr RecordLayout kDBEZ{"DBEZ", 25, kDBEZFields};
+namespace DBEZ {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBEZ");
+inline constexpr FieldLayout AZWOECH = amount("DBEZ.AZWOECH", 5, 4, 2);
+inline constexpr FieldLayout AZAEGR{"DBEZ.AZAEGR", 9, 2, FieldKind::N};
+inline constexpr FieldLayout AZAEBEG{"DBEZ.AZAEBEG", 11, 8, FieldKind::Date};
+inline constexpr FieldLayout AZDUWOECH = amount("DBEZ.AZDUWOECH", 19, 4, 2);
+inline constexpr FieldLayout ATDUWOE = amount("DBEZ.ATDUWOE", 23, 3, 2);
+inline constexpr FieldLayout kFields[] = {Kennung, AZWOECH, AZAEGR, AZAEBEG, AZDUWOECH, ATDUWOE};
+}  // namespace DBEZ
+inline constexpr RecordLayout kDBEZ{"DBEZ", 25, DBEZ::kFields};
 
-inline constexpr FieldLayout kDBEEFields[] = {
-    lit("identifier", 1, "DBEE"),
-    {"DBEE.MONATBEGEU", 5, 8, FieldKind::Date},
-    {"DBEE.MONATENDEU", 13, 8, FieldKind::Date},
-    {"reserve", 21, 9, FieldKind::An},
-    amount("DBEE.STBREGLFEU", 30, 10, 2),
-    amount("DBEE.STBREGSOEU", 40, 10, 2),
-    {"reserve", 50, 22, FieldKind::An},
-};
-inline constexpr RecordLayout kDBEE{"DBEE", 71, kDBEEFields};
+namespace DBEE {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBEE");
+inline constexpr FieldLayout MONATBEGEU{"DBEE.MONATBEGEU", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout MONATENDEU{"DBEE.MONATENDEU", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout Reserve1{"reserve", 21, 9, FieldKind::An};
+inline constexpr FieldLayout STBREGLFEU = amount("DBEE.STBREGLFEU", 30, 10, 2);
+inline constexpr FieldLayout STBREGSOEU = amount("DBEE.STBREGSOEU", 40, 10, 2);
+inline constexpr FieldLayout Reserve2{"reserve", 50, 22, FieldKind::An};
+inline constexpr FieldLayout kFields[] = {Kennung, MONATBEGEU, MONATENDEU, Reserve1, STBREGLFEU, STBREGSOEU, Reserve2};
+}  // namespace DBEE
+inline constexpr RecordLayout kDBEE{"DBEE", 71, DBEE::kFields};
 
-inline constexpr FieldLayout kDBFZFields[] = {
-    lit("identifier", 1, "DBFZ"),
-    {"DBFZ.FEHLBEG", 5, 8, FieldKind::Date},
-    {"DBFZ.FEHLART", 13, 2, FieldKind::N},
-    {"DBFZ.FEHLEND", 15, 8, FieldKind::Date},
-};
-inline constexpr RecordLayout kDBFZ{"DBFZ", 22, kDBFZFields};
+namespace DBFZ {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBFZ");
+inline constexpr FieldLayout FEHLBEG{"DBFZ.FEHLBEG", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout FEHLART{"DBFZ.FEHLART", 13, 2, FieldKind::N};
+inline constexpr FieldLayout FEHLEND{"DBFZ.FEHLEND", 15, 8, FieldKind::Date};
+inline constexpr FieldLayout kFields[] = {Kennung, FEHLBEG, FEHLART, FEHLEND};
+}  // namespace DBFZ
+inline constexpr RecordLayout kDBFZ{"DBFZ", 22, DBFZ::kFields};
 
-inline constexpr FieldLayout kDBHAFields[] = {
-    lit("identifier", 1, "DBHA"),
-    {"DBHA.URLTAGE", 5, 3, FieldKind::N},
-};
-inline constexpr RecordLayout kDBHA{"DBHA", 7, kDBHAFields};
+namespace DBHA {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBHA");
+inline constexpr FieldLayout URLTAGE{"DBHA.URLTAGE", 5, 3, FieldKind::N};
+inline constexpr FieldLayout kFields[] = {Kennung, URLTAGE};
+}  // namespace DBHA
+inline constexpr RecordLayout kDBHA{"DBHA", 7, DBHA::kFields};
 
-inline constexpr FieldLayout kDBKEFields[] = {
-    lit("identifier", 1, "DBKE"),
-    {"DBKE.AVEND", 5, 8, FieldKind::Date},
-    {"DBKE.BVEND", 13, 8, FieldKind::Date},
-    {"DBKE.AVBFR", 21, 1, FieldKind::An},
-    {"DBKE.AVBFSCHR", 22, 1, FieldKind::Code},
-    {"DBKE.AVBFURSP", 23, 8, FieldKind::Date},
-    {"DBKE.AVBFABSCHL", 31, 8, FieldKind::Date},
-    {"DBKE.VLBAV", 39, 1, FieldKind::Code},
-    {"DBKE.AVBFABVL", 40, 8, FieldKind::Date},
-    {"DBKE.AVBFRL", 48, 1, FieldKind::Code},
-    {"DBKE.AVKUEAM", 49, 8, FieldKind::Date},
-    {"DBKE.AVUWFWZ", 57, 1, FieldKind::Code},
-    {"DBKE.AVUWFWZBEG", 58, 8, FieldKind::Date},
-    {"DBKE.AVLETZTRL", 66, 6, FieldKind::N},
-    {"DBKE.AVKUEDU", 72, 1, FieldKind::N},
-    {"DBKE.AVKUESCH", 73, 1, FieldKind::Code},
-    {"DBKE.AVKUEBETR", 74, 1, FieldKind::Code},
-    {"DBKE.AVKUESCHUKL", 75, 1, FieldKind::An},
-    {"DBKE.AVKUEZUST", 76, 1, FieldKind::N},
-    {"DBKE.AVKUEAL", 77, 1, FieldKind::Code},
-    {"DBKE.AVKUEALAM", 78, 1, FieldKind::Code},
-    {"DBKE.AVAMDAT", 79, 8, FieldKind::Date},
-    {"DBKE.AVKUEZVB", 87, 1, FieldKind::Code},
-    {"DBKE.SAW", 88, 1, FieldKind::An},
-    {"DBKE.SAWPRSC", 89, 3, FieldKind::An},
-    {"DBKE.AGKUEAM", 92, 8, FieldKind::Date},
-    {"DBKE.AGKUEZU", 100, 8, FieldKind::Date},
-    {"DBKE.KF", 108, 3, FieldKind::N},
-    {"DBKE.KFZE", 111, 1, FieldKind::N},
-    {"DBKE.KFBZ", 112, 1, FieldKind::N},
-    {"DBKE.KA", 113, 1, FieldKind::Code},
-    {"DBKE.KAU", 114, 1, FieldKind::Code},
-    {"DBKE.KAUAUG", 115, 1, FieldKind::Code},
-    {"DBKE.OKGL", 116, 1, FieldKind::Code},
-    {"DBKE.OKGLFG", 117, 1, FieldKind::Code},
-    {"DBKE.AVENLZ", 118, 1, FieldKind::An},
-    {"DBKE.AVENLZG", 119, 2, FieldKind::N},
-    {"DBKE.ABF", 121, 1, FieldKind::An},
-    amount("DBKE.ABFHOE", 122, 10, 2),
-    {"DBKE.BETZU", 132, 2, FieldKind::N},
-    {"DBKE.BVEGEN", 134, 1, FieldKind::An},
-    {"DBKE.BVEGENB", 135, 8, FieldKind::Date},
-    {"DBKE.AVENUAG", 143, 1, FieldKind::An},
-    {"DBKE.BVENUR", 144, 8, FieldKind::Date},
-    {"DBKE.AVENVL", 152, 1, FieldKind::An},
-    {"DBKE.AVENVGB", 153, 8, FieldKind::Date},
-    amount("DBKE.AVENVG", 161, 5, 2),
-    {"DBKE.ABFMONAT", 166, 1, FieldKind::Code},
-    {"DBKE.ABFGEZ", 167, 1, FieldKind::Code},
-    {"DBKE.BFHG", 168, 8, FieldKind::Date},
-};
-inline constexpr RecordLayout kDBKE{"DBKE", 175, kDBKEFields};
+namespace DBKE {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBKE");
+inline constexpr FieldLayout AVEND{"DBKE.AVEND", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout BVEND{"DBKE.BVEND", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout AVBFR{"DBKE.AVBFR", 21, 1, FieldKind::An};
+inline constexpr FieldLayout AVBFSCHR{"DBKE.AVBFSCHR", 22, 1, FieldKind::Code};
+inline constexpr FieldLayout AVBFURSP{"DBKE.AVBFURSP", 23, 8, FieldKind::Date};
+inline constexpr FieldLayout AVBFABSCHL{"DBKE.AVBFABSCHL", 31, 8, FieldKind::Date};
+inline constexpr FieldLayout VLBAV{"DBKE.VLBAV", 39, 1, FieldKind::Code};
+inline constexpr FieldLayout AVBFABVL{"DBKE.AVBFABVL", 40, 8, FieldKind::Date};
+inline constexpr FieldLayout AVBFRL{"DBKE.AVBFRL", 48, 1, FieldKind::Code};
+inline constexpr FieldLayout AVKUEAM{"DBKE.AVKUEAM", 49, 8, FieldKind::Date};
+inline constexpr FieldLayout AVUWFWZ{"DBKE.AVUWFWZ", 57, 1, FieldKind::Code};
+inline constexpr FieldLayout AVUWFWZBEG{"DBKE.AVUWFWZBEG", 58, 8, FieldKind::Date};
+inline constexpr FieldLayout AVLETZTRL{"DBKE.AVLETZTRL", 66, 6, FieldKind::N};
+inline constexpr FieldLayout AVKUEDU{"DBKE.AVKUEDU", 72, 1, FieldKind::N};
+inline constexpr FieldLayout AVKUESCH{"DBKE.AVKUESCH", 73, 1, FieldKind::Code};
+inline constexpr FieldLayout AVKUEBETR{"DBKE.AVKUEBETR", 74, 1, FieldKind::Code};
+inline constexpr FieldLayout AVKUESCHUKL{"DBKE.AVKUESCHUKL", 75, 1, FieldKind::An};
+inline constexpr FieldLayout AVKUEZUST{"DBKE.AVKUEZUST", 76, 1, FieldKind::N};
+inline constexpr FieldLayout AVKUEAL{"DBKE.AVKUEAL", 77, 1, FieldKind::Code};
+inline constexpr FieldLayout AVKUEALAM{"DBKE.AVKUEALAM", 78, 1, FieldKind::Code};
+inline constexpr FieldLayout AVAMDAT{"DBKE.AVAMDAT", 79, 8, FieldKind::Date};
+inline constexpr FieldLayout AVKUEZVB{"DBKE.AVKUEZVB", 87, 1, FieldKind::Code};
+inline constexpr FieldLayout SAW{"DBKE.SAW", 88, 1, FieldKind::An};
+inline constexpr FieldLayout SAWPRSC{"DBKE.SAWPRSC", 89, 3, FieldKind::An};
+inline constexpr FieldLayout AGKUEAM{"DBKE.AGKUEAM", 92, 8, FieldKind::Date};
+inline constexpr FieldLayout AGKUEZU{"DBKE.AGKUEZU", 100, 8, FieldKind::Date};
+inline constexpr FieldLayout KF{"DBKE.KF", 108, 3, FieldKind::N};
+inline constexpr FieldLayout KFZE{"DBKE.KFZE", 111, 1, FieldKind::N};
+inline constexpr FieldLayout KFBZ{"DBKE.KFBZ", 112, 1, FieldKind::N};
+inline constexpr FieldLayout KA{"DBKE.KA", 113, 1, FieldKind::Code};
+inline constexpr FieldLayout KAU{"DBKE.KAU", 114, 1, FieldKind::Code};
+inline constexpr FieldLayout KAUAUG{"DBKE.KAUAUG", 115, 1, FieldKind::Code};
+inline constexpr FieldLayout OKGL{"DBKE.OKGL", 116, 1, FieldKind::Code};
+inline constexpr FieldLayout OKGLFG{"DBKE.OKGLFG", 117, 1, FieldKind::Code};
+inline constexpr FieldLayout AVENLZ{"DBKE.AVENLZ", 118, 1, FieldKind::An};
+inline constexpr FieldLayout AVENLZG{"DBKE.AVENLZG", 119, 2, FieldKind::N};
+inline constexpr FieldLayout ABF{"DBKE.ABF", 121, 1, FieldKind::An};
+inline constexpr FieldLayout ABFHOE = amount("DBKE.ABFHOE", 122, 10, 2);
+inline constexpr FieldLayout BETZU{"DBKE.BETZU", 132, 2, FieldKind::N};
+inline constexpr FieldLayout BVEGEN{"DBKE.BVEGEN", 134, 1, FieldKind::An};
+inline constexpr FieldLayout BVEGENB{"DBKE.BVEGENB", 135, 8, FieldKind::Date};
+inline constexpr FieldLayout AVENUAG{"DBKE.AVENUAG", 143, 1, FieldKind::An};
+inline constexpr FieldLayout BVENUR{"DBKE.BVENUR", 144, 8, FieldKind::Date};
+inline constexpr FieldLayout AVENVL{"DBKE.AVENVL", 152, 1, FieldKind::An};
+inline constexpr FieldLayout AVENVGB{"DBKE.AVENVGB", 153, 8, FieldKind::Date};
+inline constexpr FieldLayout AVENVG = amount("DBKE.AVENVG", 161, 5, 2);
+inline constexpr FieldLayout ABFMONAT{"DBKE.ABFMONAT", 166, 1, FieldKind::Code};
+inline constexpr FieldLayout ABFGEZ{"DBKE.ABFGEZ", 167, 1, FieldKind::Code};
+inline constexpr FieldLayout BFHG{"DBKE.BFHG", 168, 8, FieldKind::Date};
+inline constexpr FieldLayout kFields[] = {Kennung, AVEND, BVEND, AVBFR, AVBFSCHR, AVBFURSP, AVBFABSCHL, VLBAV, AVBFABVL, AVBFRL, AVKUEAM, AVUWFWZ, AVUWFWZBEG, AVLETZTRL, AVKUEDU, AVKUESCH, AVKUEBETR, AVKUESCHUKL, AVKUEZUST, AVKUEAL, AVKUEALAM, AVAMDAT, AVKUEZVB, SAW, SAWPRSC, AGKUEAM, AGKUEZU, KF, KFZE, KFBZ, KA, KAU, KAUAUG, OKGL, OKGLFG, AVENLZ, AVENLZG, ABF, ABFHOE, BETZU, BVEGEN, BVEGENB, AVENUAG, BVENUR, AVENVL, AVENVGB, AVENVG, ABFMONAT, ABFGEZ, BFHG};
+}  // namespace DBKE
+inline constexpr RecordLayout kDBKE{"DBKE", 175, DBKE::kFields};
 
-inline constexpr FieldLayout kDBKUFields[] = {
-    lit("identifier", 1, "DBKU"),
-    {"DBKU.AVEND", 5, 8, FieldKind::Date},
-    {"DBKU.BVEND", 13, 8, FieldKind::Date},
-    {"DBKU.AVBFR", 21, 1, FieldKind::An},
-    {"DBKU.AVBFURSPR", 22, 8, FieldKind::Date},
-    {"DBKU.AVUWFWZ", 30, 1, FieldKind::Code},
-    {"DBKU.AVUWFWZBEG", 31, 8, FieldKind::Date},
-    {"DBKU.AVKUEAM", 39, 8, FieldKind::Date},
-    {"DBKU.AVKUEDU", 47, 1, FieldKind::N},
-    {"DBKU.AVKUEBETR", 48, 1, FieldKind::Code},
-    {"DBKU.AVKUESCHUKL", 49, 1, FieldKind::An},
-    {"DBKU.AVKUEAL", 50, 1, FieldKind::Code},
-    {"DBKU.AVENLZ", 51, 1, FieldKind::An},
-    {"DBKU.AVENLZG", 52, 2, FieldKind::N},
-    {"DBKU.ABF", 54, 1, FieldKind::An},
-    amount("DBKU.ABFHOE", 55, 10, 2),
-    {"DBKU.BETZU", 65, 2, FieldKind::N},
-    {"DBKU.BVEGEN", 67, 1, FieldKind::An},
-    {"DBKU.BVEGENB", 68, 8, FieldKind::Date},
-    {"DBKU.AVENUAG", 76, 1, FieldKind::An},
-    {"DBKU.URLTAGEAV", 77, 3, FieldKind::N},
-    {"DBKU.AVENUR", 80, 8, FieldKind::Date},
-    amount("DBKU.UAGHOE", 88, 10, 2),
-    {"DBKU.AVVERZ", 98, 1, FieldKind::N},
-    {"DBKU.KF", 99, 3, FieldKind::N},
-    {"DBKU.KFZE", 102, 1, FieldKind::N},
-    {"DBKU.KFBZ", 103, 1, FieldKind::N},
-};
-inline constexpr RecordLayout kDBKU{"DBKU", 103, kDBKUFields};
+namespace DBKU {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBKU");
+inline constexpr FieldLayout AVEND{"DBKU.AVEND", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout BVEND{"DBKU.BVEND", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout AVBFR{"DBKU.AVBFR", 21, 1, FieldKind::An};
+inline constexpr FieldLayout AVBFURSPR{"DBKU.AVBFURSPR", 22, 8, FieldKind::Date};
+inline constexpr FieldLayout AVUWFWZ{"DBKU.AVUWFWZ", 30, 1, FieldKind::Code};
+inline constexpr FieldLayout AVUWFWZBEG{"DBKU.AVUWFWZBEG", 31, 8, FieldKind::Date};
+inline constexpr FieldLayout AVKUEAM{"DBKU.AVKUEAM", 39, 8, FieldKind::Date};
+inline constexpr FieldLayout AVKUEDU{"DBKU.AVKUEDU", 47, 1, FieldKind::N};
+inline constexpr FieldLayout AVKUEBETR{"DBKU.AVKUEBETR", 48, 1, FieldKind::Code};
+inline constexpr FieldLayout AVKUESCHUKL{"DBKU.AVKUESCHUKL", 49, 1, FieldKind::An};
+inline constexpr FieldLayout AVKUEAL{"DBKU.AVKUEAL", 50, 1, FieldKind::Code};
+inline constexpr FieldLayout AVENLZ{"DBKU.AVENLZ", 51, 1, FieldKind::An};
+inline constexpr FieldLayout AVENLZG{"DBKU.AVENLZG", 52, 2, FieldKind::N};
+inline constexpr FieldLayout ABF{"DBKU.ABF", 54, 1, FieldKind::An};
+inline constexpr FieldLayout ABFHOE = amount("DBKU.ABFHOE", 55, 10, 2);
+inline constexpr FieldLayout BETZU{"DBKU.BETZU", 65, 2, FieldKind::N};
+inline constexpr FieldLayout BVEGEN{"DBKU.BVEGEN", 67, 1, FieldKind::An};
+inline constexpr FieldLayout BVEGENB{"DBKU.BVEGENB", 68, 8, FieldKind::Date};
+inline constexpr FieldLayout AVENUAG{"DBKU.AVENUAG", 76, 1, FieldKind::An};
+inline constexpr FieldLayout URLTAGEAV{"DBKU.URLTAGEAV", 77, 3, FieldKind::N};
+inline constexpr FieldLayout AVENUR{"DBKU.AVENUR", 80, 8, FieldKind::Date};
+inline constexpr FieldLayout UAGHOE = amount("DBKU.UAGHOE", 88, 10, 2);
+inline constexpr FieldLayout AVVERZ{"DBKU.AVVERZ", 98, 1, FieldKind::N};
+inline constexpr FieldLayout KF{"DBKU.KF", 99, 3, FieldKind::N};
+inline constexpr FieldLayout KFZE{"DBKU.KFZE", 102, 1, FieldKind::N};
+inline constexpr FieldLayout KFBZ{"DBKU.KFBZ", 103, 1, FieldKind::N};
+inline constexpr FieldLayout kFields[] = {Kennung, AVEND, BVEND, AVBFR, AVBFURSPR, AVUWFWZ, AVUWFWZBEG, AVKUEAM, AVKUEDU, AVKUEBETR, AVKUESCHUKL, AVKUEAL, AVENLZ, AVENLZG, ABF, ABFHOE, BETZU, BVEGEN, BVEGENB, AVENUAG, URLTAGEAV, AVENUR, UAGHOE, AVVERZ, KF, KFZE, KFBZ};
+}  // namespace DBKU
+inline constexpr RecordLayout kDBKU{"DBKU", 103, DBKU::kFields};
 
-inline constexpr FieldLayout kDBNBFields[] = {
-    lit("identifier", 1, "DBNB"),    amount("DBNB.STU1KW", 5, 4, 2),  amount("DBNB.STU2KW", 9, 4, 2),
-    amount("DBNB.STU3KW", 13, 4, 2), amount("DBNB.STU4KW", 17, 4, 2), amount("DBNB.STU5KW", 21, 4, 2),
-    amount("DBNB.STU6KW", 25, 4, 2),
-};
-inline constexpr RecordLayout kDBNB{"DBNB", 28, kDBNBFields};
+namespace DBNB {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBNB");
+inline constexpr FieldLayout STU1KW = amount("DBNB.STU1KW", 5, 4, 2);
+inline constexpr FieldLayout STU2KW = amount("DBNB.STU2KW", 9, 4, 2);
+inline constexpr FieldLayout STU3KW = amount("DBNB.STU3KW", 13, 4, 2);
+inline constexpr FieldLayout STU4KW = amount("DBNB.STU4KW", 17, 4, 2);
+inline constexpr FieldLayout STU5KW = amount("DBNB.STU5KW", 21, 4, 2);
+inline constexpr FieldLayout STU6KW = amount("DBNB.STU6KW", 25, 4, 2);
+inline constexpr FieldLayout kFields[] = {Kennung, STU1KW, STU2KW, STU3KW, STU4KW, STU5KW, STU6KW};
+}  // namespace DBNB
+inline constexpr RecordLayout kDBNB{"DBNB", 28, DBNB::kFields};
 
-inline constexpr FieldLayout kDBHNFields[] = {
-    lit("identifier", 1, "DBHN"),
-    {"DBHN.HEIMARBAUSG", 5, 8, FieldKind::Date},
-    {"DBHN.HEIMARBABL", 13, 8, FieldKind::Date},
-};
-inline constexpr RecordLayout kDBHN{"DBHN", 20, kDBHNFields};
+namespace DBHN {
+inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBHN");
+inline constexpr FieldLayout HEIMARBAUSG{"DBHN.HEIMARBAUSG", 5, 8, FieldKind::Date};
+inline constexpr FieldLayout HEIMARBABL{"DBHN.HEIMARBABL", 13, 8, FieldKind::Date};
+inline constexpr FieldLayout kFields[] = {Kennung, HEIMARBAUSG, HEIMARBABL};
+}  // namespace DBHN
+inline constexpr RecordLayout kDBHN{"DBHN", 20, DBHN::kFields};
 
 // Positions 1-162, the same in the three records.
 constexpr std::array<FieldLayout, 21> head(std::string_view id) {
@@ -271,41 +297,44 @@ constexpr std::array<FieldLayout, 21> head(std::string_view id) {
     }};
 }
 
-inline constexpr std::array<FieldLayout, 9> kDSABTail{{
-    count(kDBSE, 163, 2),
-    {"reserve", 165, 2, FieldKind::N},
-    always(kDBSA, 167),
-    count(kDBSB, 168, 2),
-    count(kDBAZ, 170, 2),
-    count(kDBEN, 172, 2),
-    count(kDBFZ, 174, 2),
-    flag(kDBHA, 176),
-    always(kDBKE, 177),
-}};
-inline constexpr auto kDSABFields = layout::joined(head("DSAB"), kDSABTail);
-inline constexpr RecordLayout kDSAB{"DSAB", 177, kDSABFields};
+namespace DSAB {
+inline constexpr FieldLayout AnzahlDBSE = count(kDBSE, 163, 2);
+inline constexpr FieldLayout Reserve{"reserve", 165, 2, FieldKind::N};
+inline constexpr FieldLayout MitDBSA = always(kDBSA, 167);
+inline constexpr FieldLayout AnzahlDBSB = count(kDBSB, 168, 2);
+inline constexpr FieldLayout AnzahlDBAZ = count(kDBAZ, 170, 2);
+inline constexpr FieldLayout AnzahlDBEN = count(kDBEN, 172, 2);
+inline constexpr FieldLayout AnzahlDBFZ = count(kDBFZ, 174, 2);
+inline constexpr FieldLayout MitDBHA = flag(kDBHA, 176);
+inline constexpr FieldLayout MitDBKE = always(kDBKE, 177);
+inline constexpr std::array kTail{AnzahlDBSE, Reserve, MitDBSA, AnzahlDBSB, AnzahlDBAZ, AnzahlDBEN, AnzahlDBFZ, MitDBHA, MitDBKE};
+inline constexpr auto kFields = layout::joined(head("DSAB"), kTail);
+}  // namespace DSAB
+inline constexpr RecordLayout kDSAB{"DSAB", 177, DSAB::kFields};
 
-inline constexpr std::array<FieldLayout, 8> kDSEUTail{{
-    count(kDBSE, 163, 2),
-    {"reserve", 165, 2, FieldKind::N},
-    always(kDBSA, 167),
-    count(kDBSB, 168, 2),
-    count(kDBEZ, 170, 2),
-    count(kDBEE, 172, 2),
-    count(kDBFZ, 174, 2),
-    always(kDBKU, 176),
-}};
-inline constexpr auto kDSEUFields = layout::joined(head("DSEU"), kDSEUTail);
-inline constexpr RecordLayout kDSEU{"DSEU", 176, kDSEUFields};
+namespace DSEU {
+inline constexpr FieldLayout AnzahlDBSE = count(kDBSE, 163, 2);
+inline constexpr FieldLayout Reserve{"reserve", 165, 2, FieldKind::N};
+inline constexpr FieldLayout MitDBSA = always(kDBSA, 167);
+inline constexpr FieldLayout AnzahlDBSB = count(kDBSB, 168, 2);
+inline constexpr FieldLayout AnzahlDBEZ = count(kDBEZ, 170, 2);
+inline constexpr FieldLayout AnzahlDBEE = count(kDBEE, 172, 2);
+inline constexpr FieldLayout AnzahlDBFZ = count(kDBFZ, 174, 2);
+inline constexpr FieldLayout MitDBKU = always(kDBKU, 176);
+inline constexpr std::array kTail{AnzahlDBSE, Reserve, MitDBSA, AnzahlDBSB, AnzahlDBEZ, AnzahlDBEE, AnzahlDBFZ, MitDBKU};
+inline constexpr auto kFields = layout::joined(head("DSEU"), kTail);
+}  // namespace DSEU
+inline constexpr RecordLayout kDSEU{"DSEU", 176, DSEU::kFields};
 
-inline constexpr std::array<FieldLayout, 5> kDSNETail{{
-    always(kDBNE, 163),
-    {"reserve", 164, 2, FieldKind::N},
-    always(kDBSA, 166),
-    always(kDBNB, 167),
-    flag(kDBHN, 168),
-}};
-inline constexpr auto kDSNEFields = layout::joined(head("DSNE"), kDSNETail);
-inline constexpr RecordLayout kDSNE{"DSNE", 168, kDSNEFields};
+namespace DSNE {
+inline constexpr FieldLayout MitDBNE = always(kDBNE, 163);
+inline constexpr FieldLayout Reserve{"reserve", 164, 2, FieldKind::N};
+inline constexpr FieldLayout MitDBSA = always(kDBSA, 166);
+inline constexpr FieldLayout MitDBNB = always(kDBNB, 167);
+inline constexpr FieldLayout MitDBHN = flag(kDBHN, 168);
+inline constexpr std::array kTail{MitDBNE, Reserve, MitDBSA, MitDBNB, MitDBHN};
+inline constexpr auto kFields = layout::joined(head("DSNE"), kTail);
+}  // namespace DSNE
+inline constexpr RecordLayout kDSNE{"DSNE", 168, DSNE::kFields};
 
 }  // namespace tamrel::layouts::bea

@@ -7,32 +7,33 @@
 namespace tamrel::layouts::uv {
 using layout::lit;
 
-inline constexpr std::array<FieldLayout, 23> kDSASOwn{{
-    lit("fixed", 66, "N"),
-    lit("error marker", 67, "0"),
-    lit("number of errors", 68, "0"),
-    {"reserve", 69, 100, FieldKind::An},
-    {"DatensatzData.strProdID", 169, 7, FieldKind::An},
-    {"DatensatzData.strModID", 176, 8, FieldKind::An},
-    {"DatensatzData.strVersion", 184, 10, FieldKind::An},
-    {"DatensatzNr", 194, 10, FieldKind::N},
-    {"reserve", 204, 12, FieldKind::An},
-    {"Feld216", 216, 32, FieldKind::An},
-    {"Kennz248", 248, 1, FieldKind::Flag},
-    {"reserve", 249, 32, FieldKind::An},
-    lit("fixed", 281, "5"),
-    {"reserve", 282, 100, FieldKind::An},
-    {"Feld382", 382, 15, FieldKind::An},
-    {"Feld397", 397, 20, FieldKind::An},
-    {"Feld417", 417, 5, FieldKind::N},
-    {"Feld422", 422, 3, FieldKind::N},
-    {"Feld425", 425, 4, FieldKind::N},
-    {"Arbeitgeber.Betriebsnummer", 429, 15, FieldKind::Bnr},
-    {"Feld444", 444, 15, FieldKind::An},
-    layout::flag(kDBAP, 459),
-    lit("fixed", 460, "UV10"),
-}};
-inline constexpr auto kDSASFields = layout::joined(head("DSAS", "UVSDD"), kDSASOwn);
-inline constexpr RecordLayout kDSAS{"DSAS", 463, kDSASFields};
+namespace DSAS {
+inline constexpr FieldLayout Fest1 = lit("fixed", 66, "N");
+inline constexpr FieldLayout Fehlerkennzeichen = lit("error marker", 67, "0");
+inline constexpr FieldLayout Fehleranzahl = lit("number of errors", 68, "0");
+inline constexpr FieldLayout Reserve1{"reserve", 69, 100, FieldKind::An};
+inline constexpr FieldLayout strProdID{"DatensatzData.strProdID", 169, 7, FieldKind::An};
+inline constexpr FieldLayout strModID{"DatensatzData.strModID", 176, 8, FieldKind::An};
+inline constexpr FieldLayout strVersion{"DatensatzData.strVersion", 184, 10, FieldKind::An};
+inline constexpr FieldLayout DatensatzNr{"DatensatzNr", 194, 10, FieldKind::N};
+inline constexpr FieldLayout Reserve2{"reserve", 204, 12, FieldKind::An};
+inline constexpr FieldLayout Feld216{"Feld216", 216, 32, FieldKind::An};
+inline constexpr FieldLayout Kennz248{"Kennz248", 248, 1, FieldKind::Flag};
+inline constexpr FieldLayout Reserve3{"reserve", 249, 32, FieldKind::An};
+inline constexpr FieldLayout Fest2 = lit("fixed", 281, "5");
+inline constexpr FieldLayout Reserve4{"reserve", 282, 100, FieldKind::An};
+inline constexpr FieldLayout Feld382{"Feld382", 382, 15, FieldKind::An};
+inline constexpr FieldLayout Feld397{"Feld397", 397, 20, FieldKind::An};
+inline constexpr FieldLayout Feld417{"Feld417", 417, 5, FieldKind::N};
+inline constexpr FieldLayout Feld422{"Feld422", 422, 3, FieldKind::N};
+inline constexpr FieldLayout Feld425{"Feld425", 425, 4, FieldKind::N};
+inline constexpr FieldLayout Betriebsnummer{"Arbeitgeber.Betriebsnummer", 429, 15, FieldKind::Bnr};
+inline constexpr FieldLayout Feld444{"Feld444", 444, 15, FieldKind::An};
+inline constexpr FieldLayout MitDBAP = layout::flag(kDBAP, 459);
+inline constexpr FieldLayout Fest3 = lit("fixed", 460, "UV10");
+inline constexpr std::array kOwn{Fest1, Fehlerkennzeichen, Fehleranzahl, Reserve1, strProdID, strModID, strVersion, DatensatzNr, Reserve2, Feld216, Kennz248, Reserve3, Fest2, Reserve4, Feld382, Feld397, Feld417, Feld422, Feld425, Betriebsnummer, Feld444, MitDBAP, Fest3};
+inline constexpr auto kFields = layout::joined(head("DSAS", "UVSDD"), kOwn);
+}  // namespace DSAS
+inline constexpr RecordLayout kDSAS{"DSAS", 463, DSAS::kFields};
 
 }  // namespace tamrel::layouts::uv

@@ -79,9 +79,11 @@ constexpr std::array<FieldLayout, 63> statement(std::string_view id, std::string
     }};
 }
 
-inline constexpr auto kBW02Fields =
+namespace BW02 {
+inline constexpr auto kFields =
     statement("BW02", "BWNAC", "ConvertBNRSt(DatensatzData.strBNRSt)", "Arbeitgeber.Kennzeichen");
-inline constexpr RecordLayout kBW02Short{"BW02", 678, kBW02Fields};
+}  // namespace BW02
+inline constexpr RecordLayout kBW02Short{"BW02", 678, BW02::kFields};
 
 // The statement kind 1: eight further amounts.
 inline constexpr std::array<FieldLayout, 8> kExtension{{
@@ -94,12 +96,16 @@ inline constexpr std::array<FieldLayout, 8> kExtension{{
     signed_amount("Betrag23", 751, 12, 2),
     signed_amount("Betrag24", 763, 12, 2),
 }};
-inline constexpr auto kBW02ExtendedFields = layout::joined(kBW02Fields, kExtension);
-inline constexpr RecordLayout kBW02Extended{"BW02", 774, kBW02ExtendedFields};
+namespace BW02Extended {
+inline constexpr auto kFields = layout::joined(BW02::kFields, kExtension);
+}  // namespace BW02Extended
+inline constexpr RecordLayout kBW02Extended{"BW02", 774, BW02Extended::kFields};
 inline constexpr const RecordLayout* kBW02Forms[] = {&kBW02Extended, &kBW02Short};
-inline constexpr RecordLayout kBW02{"BW02", 678, kBW02Fields, nullptr, 0, 0, kBW02Forms};
+inline constexpr RecordLayout kBW02{"BW02", 678, BW02::kFields, nullptr, 0, 0, kBW02Forms};
 
-inline constexpr auto kBW03Fields = statement("BW03", "BWBNV", "DatensatzData.strBNRSt", "reserve");
-inline constexpr RecordLayout kBW03{"BW03", 678, kBW03Fields};
+namespace BW03 {
+inline constexpr auto kFields = statement("BW03", "BWBNV", "DatensatzData.strBNRSt", "reserve");
+}  // namespace BW03
+inline constexpr RecordLayout kBW03{"BW03", 678, BW03::kFields};
 
 }  // namespace tamrel::layouts::beitrnachw

@@ -3,10 +3,13 @@
 #include "core/establishment_number.h"
 #include "core/host.h"
 #include "core/writer.h"
+#include "reports/clsGenMeldung/DSME_layout.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
 namespace tamrel {
 namespace {
+
+using namespace layouts::meldung;
 
 // The ten flag characters at positions 171-180: the table's seven flags for
 // the reason, then "NNN", each later rule overriding an earlier one. The
@@ -64,12 +67,6 @@ std::string flag_text(const clsGenMeldung& gen, const Meldung& m, std::int32_t e
     return f;
 }
 
-// Version prefix (an 10) and running number (n 10): the file reference,
-// written as one text field of `width`.
-[[gnu::always_inline]] inline void reference(Writer& w, const DatensatzData& dd, std::int32_t number, int width) {
-    w.an(dd.strVersion, 10).n(number, 10).blank(width - 20);
-}
-
 }  // namespace
 
 MeldungPlan clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const DatensatzData& dd,
@@ -84,30 +81,34 @@ MeldungPlan clsGenMeldung::GenDSME(std::string& out, const Meldung& m, const Dat
                                  std::string_view("246").find(m.Beitragsgruppe2) != std::string_view::npos;
             MeldungPlan plan;
             Writer w(out, line);
-            w.lit("DSME").lit("DEUEV").an(dd.strBNRAb, 15).an(m.Empfaenger.Betriebsnummer, 15).lit("03");
-            w.stamp(m.Zeitpunkt, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").zeros(1);
-            w.an(m.Vorgang.Versicherungsnummer, 12);
-            w.an(m.Meldungsart == 1 ? (minijob ? "0G" : "0C") : "", 2);
-            w.an(m.Vorgang.Arbeitgeber.Betriebsnummer, 15).an(m.Vorgang.Aktenzeichen, 20);
-            w.an(m.Empfaenger.Betriebsnummer, 15);
+            w.put(DSME::Kennung).put(DSME::Verfahren).put(DSME::strBNRAb, dd.strBNRAb);
+            w.put(DSME::EmpfaengerBetriebsnummer1, m.Empfaenger.Betriebsnummer).put(DSME::Version);
+            w.stamp(DSME::Erstellt, m.Zeitpunkt, 1, date).put(DSME::strMicroseconds, dd.strMicroseconds);
+            w.put(DSME::Fehlerkennzeichen).put(DSME::Fehleranzahl);
+            w.put(DSME::Versicherungsnummer, m.Vorgang.Versicherungsnummer);
+            w.put(DSME::Kennzeichen0G0C, m.Meldungsart == 1 ? (minijob ? "0G" : "0C") : "");
+            w.put(DSME::ArbeitgeberBetriebsnummer, m.Vorgang.Arbeitgeber.Betriebsnummer);
+            w.put(DSME::Aktenzeichen, m.Vorgang.Aktenzeichen);
+            w.put(DSME::EmpfaengerBetriebsnummer2, m.Empfaenger.Betriebsnummer);
             if (m.Meldungsart != 8)
-                reference(w, dd, m.Laufnummer, 20);
+                w.put(DSME::BezugVersion, dd.strVersion).put(DSME::BezugLaufnummer, m.Laufnummer).put(DSME::BezugRest);
             else
-                w.an(!m.Vorgang.Bezugskennung.empty() ? m.Vorgang.Bezugskennung : m.Ersatzaktenzeichen, 20);
-            w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).n(m.Personengruppe, 3).n(m.Meldegrund, 2);
-            w.an(m.Vorgang.Laenderschluessel, 3);
-            w.an(flag_text(*this, m, enmVerfahren, plan), 10);
-            w.blank(1).lit("5").blank(1).announce(plan, MeldungBlock::DBSO, enmVerfahren == vmSofort);
-            w.an(m.Zusatzmerkmal, 1).blank(3);
-            w.announce(plan, MeldungBlock::DBKV, std::string_view(m.Meldegrund) == "58")
-                .blank(1)
-                .zeros(20)
-                .lit("01")
-                .an(dd.strProdID, 7)
-                .an(dd.strModID, 8);
-            reference(w, dd, m.Laufnummer, 32);
-            w.blank(100).lit("N").blank(199);
-            w.check(559, "DSME");
+                w.put(DSME::Bezug, !m.Vorgang.Bezugskennung.empty() ? m.Vorgang.Bezugskennung : m.Ersatzaktenzeichen);
+            w.put(DSME::ConvertBNRSt, mlGen::ConvertBNRSt(dd.strBNRSt)).put(DSME::Personengruppe, m.Personengruppe);
+            w.put(DSME::Meldegrund, m.Meldegrund).put(DSME::Laenderschluessel, m.Vorgang.Laenderschluessel);
+            w.put(DSME::Datenbausteine, flag_text(*this, m, enmVerfahren, plan));
+            w.put(DSME::Reserve1).put(DSME::Fest1).put(DSME::Reserve2);
+            w.announce(DSME::MitDBSO, plan, MeldungBlock::DBSO, enmVerfahren == vmSofort);
+            w.put(DSME::Zusatzmerkmal, m.Zusatzmerkmal).put(DSME::Reserve3);
+            w.announce(DSME::MitDBKV, plan, MeldungBlock::DBKV, std::string_view(m.Meldegrund) == "58")
+                .put(DSME::Reserve4)
+                .put(DSME::Reserve5)
+                .put(DSME::Fest2)
+                .put(DSME::strProdID, dd.strProdID)
+                .put(DSME::strModID, dd.strModID);
+            w.put(DSME::strVersion, dd.strVersion).put(DSME::Laufnummer, m.Laufnummer).put(DSME::Reserve6);
+            w.put(DSME::Reserve7).put(DSME::Fest3).put(DSME::Reserve8);
+            w.check(kDSME);
             return plan;
         });
 }
