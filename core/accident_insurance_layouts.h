@@ -25,6 +25,6 @@ inline constexpr auto kDBAPFields =
     contact_block("DBAP", {"ApAnrede", "ApName", "ApTel", "ApFax", "ApEmail", "Arbeitgeber.Name1", "Arbeitgeber.Name2",
                            "Arbeitgeber.Name3", "Arbeitgeber.PLZ", "Arbeitgeber.Ort", "Arbeitgeber.Strasse",
                            "Arbeitgeber.Hausnummer"});
-inline constexpr RecordLayout kDBAP{"DBAP", 321, kDBAPFields};
+inline constexpr RecordLayout kDBAP{"DBAP", Contact::kLength, kDBAPFields};
 
 }  // namespace tamrel::layouts::uv

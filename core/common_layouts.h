@@ -30,22 +30,33 @@ struct ContactNames {
     std::string_view name1, name2, name3, plz, ort, strasse, hausnummer;
 };
 
+// The contact-person block's fields, whichever block it is (DBAP, DBAA).
+namespace Contact {
+inline constexpr FieldLayout Kennung{"identifier", 1, 4, FieldKind::Literal};
+inline constexpr FieldLayout Anrede{"anrede", 5, 1, FieldKind::An};
+inline constexpr FieldLayout Name{"name", 6, 30, FieldKind::An};
+inline constexpr FieldLayout Tel{"tel", 36, 20, FieldKind::An};
+inline constexpr FieldLayout Fax{"fax", 56, 20, FieldKind::An};
+inline constexpr FieldLayout EMail{"email", 76, 70, FieldKind::An};
+inline constexpr FieldLayout Name1{"name1", 146, 30, FieldKind::An};
+inline constexpr FieldLayout Name2{"name2", 176, 30, FieldKind::An};
+inline constexpr FieldLayout Name3{"name3", 206, 30, FieldKind::An};
+inline constexpr FieldLayout PLZ{"plz", 236, 10, FieldKind::An};
+inline constexpr FieldLayout Ort{"ort", 246, 34, FieldKind::An};
+inline constexpr FieldLayout Strasse{"strasse", 280, 33, FieldKind::An};
+inline constexpr FieldLayout Hausnummer{"hausnummer", 313, 9, FieldKind::An};
+inline constexpr std::array kFields{Kennung, Anrede, Name, Tel, Fax, EMail, Name1, Name2, Name3, PLZ, Ort, Strasse, Hausnummer};
+inline constexpr std::uint16_t kLength = 321;
+}  // namespace Contact
+
+// The block `id` with the fields named as its data object names them.
 constexpr std::array<FieldLayout, 13> contact_block(std::string_view id, const ContactNames& n) {
-    return {{
-        layout::lit("identifier", 1, id),
-        {n.anrede, 5, 1, FieldKind::An},
-        {n.name, 6, 30, FieldKind::An},
-        {n.tel, 36, 20, FieldKind::An},
-        {n.fax, 56, 20, FieldKind::An},
-        {n.email, 76, 70, FieldKind::An},
-        {n.name1, 146, 30, FieldKind::An},
-        {n.name2, 176, 30, FieldKind::An},
-        {n.name3, 206, 30, FieldKind::An},
-        {n.plz, 236, 10, FieldKind::An},
-        {n.ort, 246, 34, FieldKind::An},
-        {n.strasse, 280, 33, FieldKind::An},
-        {n.hausnummer, 313, 9, FieldKind::An},
-    }};
+    std::array<FieldLayout, 13> f = Contact::kFields;
+    f[0].literal = id;
+    const std::string_view names[] = {n.anrede, n.name,  n.tel, n.fax,     n.email,      n.name1,
+                                      n.name2,  n.name3, n.plz, n.ort,     n.strasse,    n.hausnummer};
+    for (std::size_t i = 0; i < std::size(names); ++i) f[i + 1].name = names[i];
+    return f;
 }
 
 }  // namespace tamrel::layouts

@@ -1,5 +1,6 @@
 #include "core/contact_block.h"
 
+#include "core/common_layouts.h"
 #include "core/routine.h"
 #include "core/writer.h"
 
@@ -10,10 +11,11 @@ void AppendContactBlock(std::string& out, std::string_view id, ContactView ap, c
     routine(context, [&](int& line) {
         hasData = false;
         Writer w(out, line, hasData);
-        w.lit(id).an(ap.anrede, 1).an(ap.name, 30).an(ap.tel, 20).an(ap.fax, 20).an(ap.email, 70);
-        w.an(ag.Name1, 30).an(ag.Name2, 30).an(ag.Name3, 30).an(ag.PLZ, 10).an(ag.Ort, 34).an(ag.Strasse, 33);
-        w.an(ag.Hausnummer, 9);
-        w.check(321, id);
+        using namespace layouts::Contact;
+        w.text(Kennung, id).put(Anrede, ap.anrede).put(Name, ap.name).put(Tel, ap.tel).put(Fax, ap.fax);
+        w.put(EMail, ap.email).put(Name1, ag.Name1).put(Name2, ag.Name2).put(Name3, ag.Name3).put(PLZ, ag.PLZ);
+        w.put(Ort, ag.Ort).put(Strasse, ag.Strasse).put(Hausnummer, ag.Hausnummer);
+        w.check(kLength, id);
     });
 }
 

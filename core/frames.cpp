@@ -2,18 +2,22 @@
 
 #include "core/check_length.h"
 #include "core/date_fields.h"
+#include "core/frame_layouts.h"
 #include "core/routine.h"
 #include "core/text_fields.h"
 #include "core/writer.h"
 
 namespace tamrel::mlGen {
 
+using namespace layouts;
+
 std::string GenVOSZHead(std::string_view code, std::string_view sender, std::string_view receiver,
                         std::string_view fileNr, std::string_view dateText) {
     return routine(with_args("mlGen.GenVOSZHead(", code, sender, receiver, fileNr, dateText), [&](int& line) {
         std::string out;
         Writer w(out, line);
-        w.lit("VOSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6);
+        w.put(VOSZ::Kennung).text(VOSZ::Verfahren, code).put(VOSZ::strBNRAb, sender).put(VOSZ::strBNREm, receiver);
+        w.put(VOSZ::strDatum, dateText).put(VOSZ::strFileNr, fileNr);
         w.end();
         return out;
     });
@@ -30,10 +34,10 @@ std::string GenVOSZ(std::string_view code, std::string_view sender, std::string_
                        line = 3;
                        std::string out = GenVOSZHead(code, sender, receiver, fileNr, dateText);
                        bool filled = false;
-                       AppendAn(out, senderName, 50, filled);
-                       AppendN(out, version, 2, filled);
+                       AppendAn(out, senderName, VOSZ::strFirma.len, filled);
+                       AppendN(out, version, VOSZ::Version.len, filled);
                        line = 4;
-                       CheckLength(out, 105, "VOSZ");
+                       CheckLength(out, kVOSZ.length, kVOSZ.id);
                        return out;
                    });
 }
@@ -43,7 +47,8 @@ std::string GenNCSZHead(std::string_view code, std::string_view sender, std::str
     return routine(with_args("mlGen.GenNCSZHead(", code, sender, receiver, fileNr, count, dateText), [&](int& line) {
         std::string out;
         Writer w(out, line);
-        w.lit("NCSZ").lit(code).an(sender, 15).an(receiver, 15).n(dateText, 8).n(fileNr, 6).n(count, 8);
+        w.put(NCSZ::Kennung).text(NCSZ::Verfahren, code).put(NCSZ::strBNRAb, sender).put(NCSZ::strBNREm, receiver);
+        w.put(NCSZ::Datum, dateText).put(NCSZ::strFileNr, fileNr).put(NCSZ::strCount, count);
         w.end();
         return out;
     });
@@ -58,7 +63,7 @@ std::string GenNCSZ(std::string_view code, std::string_view sender, std::string_
         std::string out = GenNCSZHead(code, sender, receiver, fileNr, count, dateText);
         out += version;
         line = 3;
-        CheckLength(out, 63, "NCSZ");
+        CheckLength(out, kNCSZ.length, kNCSZ.id);
         return out;
     });
 }
@@ -66,16 +71,19 @@ std::string GenNCSZ(std::string_view code, std::string_view sender, std::string_
 std::string GenDSKO(DSKOData& data, std::string_view code, const Date& date) {
     return routine(with_args("mlGen.GenDSKO(", ObjArg{"udtDSKOData"}, code, date), [&](int& line) {
         std::string out;
-        out.reserve(415);
+        out.reserve(kDSKO.length);
         Writer w(out, line);
-        w.lit("DSKO").an(code, 5).an(data.strBNRAb, 15).an(data.strBNREm, 15).lit("04");
-        w.stamp({}, 1, GetDate(date), 14).n(data.strMicroSec, 6).lit("0").lit("0");
-        w.an(data.strBNRAb, 15).an(data.strProdID, 7).an(data.strModID, 8);
-        w.an(data.strName1, 30).an(data.strName2, 30).an(data.strName3, 30);
-        w.an(data.strPLZ, 10).an(data.strOrt, 34).an(data.strStrasse, 33).an(data.strHausNr, 9);
-        w.an(data.strAnGeschl, 1).an(data.strAnName, 30).an(data.strAnTel, 20).an(data.strAnFax, 20);
-        w.an(data.strAnEMail, 70).blank(5);
-        w.check(415, "DSKO");
+        w.put(DSKO::Kennung).put(DSKO::Verfahren, code).put(DSKO::strBNRAb, data.strBNRAb);
+        w.put(DSKO::strBNREm, data.strBNREm).put(DSKO::Version);
+        w.stamp(DSKO::Erstellt, {}, 1, GetDate(date)).put(DSKO::strMicroSec, data.strMicroSec);
+        w.put(DSKO::Fehlerkennzeichen).put(DSKO::Fehleranzahl);
+        w.put(DSKO::Verursacher, data.strBNRAb).put(DSKO::strProdID, data.strProdID).put(DSKO::strModID, data.strModID);
+        w.put(DSKO::strName1, data.strName1).put(DSKO::strName2, data.strName2).put(DSKO::strName3, data.strName3);
+        w.put(DSKO::strPLZ, data.strPLZ).put(DSKO::strOrt, data.strOrt).put(DSKO::strStrasse, data.strStrasse);
+        w.put(DSKO::strHausNr, data.strHausNr).put(DSKO::strAnGeschl, data.strAnGeschl);
+        w.put(DSKO::strAnName, data.strAnName).put(DSKO::strAnTel, data.strAnTel).put(DSKO::strAnFax, data.strAnFax);
+        w.put(DSKO::strAnEMail, data.strAnEMail).put(DSKO::Reserve);
+        w.check(kDSKO);
         return out;
     });
 }

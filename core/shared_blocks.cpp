@@ -1,25 +1,31 @@
 #include "core/shared_blocks.h"
 
 #include "core/routine.h"
+#include "core/shared_block_layouts.h"
 #include "core/writer.h"
 
 namespace tamrel::mlGen {
 
+using namespace layouts;
+
 void AppendNameBlock(std::string& out, NameView n, std::string_view marker, std::string_view context) {
     routine(context, [&](int& line) {
         Writer w(out, line);
-        w.lit("DBNA").an(n.familienname, 30).an(n.vorname, 30).an(n.vorsatzwort, 20).an(n.namenszusatz, 20);
-        w.an(n.titel, 20).an(marker, 1);
-        w.check(125, "DBNA");
+        w.put(DBNA::Kennung).put(DBNA::Familienname, n.familienname).put(DBNA::Vorname, n.vorname);
+        w.put(DBNA::Vorsatzwort, n.vorsatzwort).put(DBNA::Namenszusatz, n.namenszusatz).put(DBNA::Titel, n.titel);
+        w.put(DBNA::Marker, marker);
+        w.check(kDBNA);
     });
 }
 
 void AppendAddressBlock(std::string& out, const Vorgang& v, bool blank_d, bool& filled, std::string_view context) {
     routine(context, [&](int& line) {
         Writer w(out, line, filled);
-        w.lit("DBAN").an(blank_d && std::string_view(v.Land) == "D" ? std::string_view{} : std::string_view(v.Land), 3);
-        w.an(v.PLZ, 10).an(v.Ort, 34).an(v.Strasse, 33).an(v.Hausnummer, 9).an(v.Adresszusatz, 40);
-        w.check(133, "DBAN");
+        w.put(DBAN::Kennung);
+        w.put(DBAN::Land, blank_d && std::string_view(v.Land) == "D" ? std::string_view{} : std::string_view(v.Land));
+        w.put(DBAN::PLZ, v.PLZ).put(DBAN::Ort, v.Ort).put(DBAN::Strasse, v.Strasse);
+        w.put(DBAN::Hausnummer, v.Hausnummer).put(DBAN::Adresszusatz, v.Adresszusatz);
+        w.check(kDBAN);
     });
 }
 
@@ -34,9 +40,11 @@ void AppendDBAN(std::string& out, const Vorgang& v, bool& filled) {
 void AppendDBGB(std::string& out, const Vorgang& v) {
     routine("mlGen.GenDBGB", [&](int& line) {
         Writer w(out, line);
-        w.lit("DBGB").an(v.Geburtsname, 30).an(v.GeburtsVorsatzwort, 20).an(v.GeburtsNamenszusatz, 20);
-        w.n(v.Geburtsdatum, 8).an(v.Geschlecht, 1).an(v.Geburtsort, 34);
-        w.check(117, "DBGB");
+        w.put(DBGB::Kennung).put(DBGB::Geburtsname, v.Geburtsname);
+        w.put(DBGB::GeburtsVorsatzwort, v.GeburtsVorsatzwort).put(DBGB::GeburtsNamenszusatz, v.GeburtsNamenszusatz);
+        w.put(DBGB::Geburtsdatum, v.Geburtsdatum).put(DBGB::Geschlecht, v.Geschlecht);
+        w.put(DBGB::Geburtsort, v.Geburtsort);
+        w.check(kDBGB);
     });
 }
 

@@ -261,7 +261,7 @@ inline constexpr auto kFields =
                            "Vorgang.Arbeitgeber.Name2", "Vorgang.Arbeitgeber.Name3", "Vorgang.Arbeitgeber.PLZ",
                            "Vorgang.Arbeitgeber.Ort", "Vorgang.Arbeitgeber.Strasse", "Vorgang.Arbeitgeber.Hausnummer"});
 }  // namespace DBAP
-inline constexpr RecordLayout kDBAP{"DBAP", 321, DBAP::kFields};
+inline constexpr RecordLayout kDBAP{"DBAP", Contact::kLength, DBAP::kFields};
 
 namespace DBID {
 inline constexpr FieldLayout Kennung = lit("identifier", 1, "DBID");

@@ -97,7 +97,7 @@ inline constexpr auto kFields =
                            "Vorgang.Arbeitgeber.Name2", "Vorgang.Arbeitgeber.Name3", "Vorgang.Arbeitgeber.PLZ",
                            "Vorgang.Arbeitgeber.Ort", "Vorgang.Arbeitgeber.Strasse", "Vorgang.Arbeitgeber.Hausnummer"});
 }  // namespace DBAA
-inline constexpr RecordLayout kDBAA{"DBAA", 321, DBAA::kFields};
+inline constexpr RecordLayout kDBAA{"DBAA", Contact::kLength, DBAA::kFields};
 
 namespace DSER {
 inline constexpr FieldLayout Versicherungsnummer{"Vorgang.Versicherungsnummer", 64, 12, FieldKind::Vsnr};
