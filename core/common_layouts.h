@@ -6,22 +6,25 @@
 
 namespace tamrel::layouts {
 
-// Identifier, procedure, sender, Empfaenger, version, creation time (named
-// after the property it comes from), microseconds, error marker and count.
-constexpr std::array<FieldLayout, 9> record_head(std::string_view id, std::string_view procedure,
-                                                 std::string_view version, std::string_view created) {
-    return {{
-        layout::lit("identifier", 1, id),
-        layout::lit("procedure", 5, procedure),
-        {"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr},
-        {"Empfaenger.Betriebsnummer", 25, 15, FieldKind::Bnr},
-        layout::lit("version", 40, version),
-        {created, 42, 14, FieldKind::DateTime},
-        {"DatensatzData.strMicroseconds", 56, 6, FieldKind::N},
-        layout::lit("error marker", 62, "0"),
-        layout::lit("number of errors", 63, "0"),
-    }};
-}
+// The first 63 positions of most data records: identifier, procedure,
+// sender, receiver, version, creation time (named after the property it
+// comes from), microseconds, error marker and count.
+struct RecordHead {
+    std::string_view id, procedure, version, created;
+    FieldLayout Kennung = layout::lit("identifier", 1, id);
+    FieldLayout Verfahren = layout::lit("procedure", 5, procedure);
+    FieldLayout strBNRAb{"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr};
+    FieldLayout EmpfaengerBetriebsnummer{"Empfaenger.Betriebsnummer", 25, 15, FieldKind::Bnr};
+    FieldLayout Version = layout::lit("version", 40, version);
+    FieldLayout Erstellt{created, 42, 14, FieldKind::DateTime};
+    FieldLayout strMicroseconds{"DatensatzData.strMicroseconds", 56, 6, FieldKind::N};
+    FieldLayout Fehlerkennzeichen = layout::lit("error marker", 62, "0");
+    FieldLayout Fehleranzahl = layout::lit("number of errors", 63, "0");
+    constexpr std::array<FieldLayout, 9> fields() const {
+        return {Kennung, Verfahren, strBNRAb, EmpfaengerBetriebsnummer, Version, Erstellt, strMicroseconds,
+                Fehlerkennzeichen, Fehleranzahl};
+    }
+};
 
 // The names of a contact person's five texts and of the employer's seven,
 // as the data object spells them.

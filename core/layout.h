@@ -97,6 +97,12 @@ constexpr FieldLayout part(const FieldLayout& whole, std::string_view name, std:
                            FieldKind kind = FieldKind::An) {
     return {name, static_cast<std::uint16_t>(whole.pos + offset), len, kind};
 }
+// The field `f` in another form: the same place, written by the encoder of
+// `kind` (an amount with `decimals`), where a builder writes the field one
+// way or another (a date or blanks, a text or digits).
+constexpr FieldLayout as(const FieldLayout& f, FieldKind kind, std::uint8_t decimals = 0) {
+    return {f.name, f.pos, f.len, kind, {}, decimals};
+}
 // The declared fields `first` to `last`, written as one text by a builder
 // that decides them together (a record's row of block flags).
 constexpr FieldLayout span(std::string_view name, const FieldLayout& first, const FieldLayout& last) {

@@ -272,6 +272,7 @@ inline constexpr FieldLayout kFields[] = {Kennung, AZSV, Aktenzeichen};
 inline constexpr RecordLayout kDBID{"DBID", 44, DBID::kFields};
 
 namespace DSLW {
+inline constexpr RecordHead Head{"DSLW", "LEIST", "10", "created (ErstellDatum)"};
 inline constexpr FieldLayout Versicherungsnummer{"Vorgang.Versicherungsnummer", 64, 12, FieldKind::Vsnr};
 inline constexpr FieldLayout Geburtsdatum{"Vorgang.Geburtsdatum", 76, 8, FieldKind::Date};
 inline constexpr FieldLayout Betriebsnummer{"Vorgang.Arbeitgeber.Betriebsnummer", 84, 15, FieldKind::Bnr};
@@ -305,7 +306,7 @@ inline constexpr FieldLayout MitDBAP = flag(kDBAP, 218);
 inline constexpr FieldLayout MitDBID = flag(kDBID, 219);
 inline constexpr std::array kOwn{Versicherungsnummer, Geburtsdatum, Betriebsnummer, RecordID, strProdID, strModID, Reserve1, Reserve2, BBNRKK, strBNRSt, RUECKMELDUNGEEL, ABGABEGRUND, KENNZSTORNO, MitDBNA, MitDBAN, MitDBAL, MitDBAE, MitDBZA, MitDBEE, MitDBAW, MitDBFR, MitDBUN, MitDBMU, MitDBVO, MitDBHE, MitDBBE, MitDBLT, MitDBSF, MitDBTK, MitDBAP, MitDBID};
 inline constexpr auto kFields =
-    layout::joined(record_head("DSLW", "LEIST", "10", "created (ErstellDatum)"), kOwn);
+    layout::joined(Head.fields(), kOwn);
 }  // namespace DSLW
 inline constexpr RecordLayout kDSLW{"DSLW", 219, DSLW::kFields};
 

@@ -24,6 +24,7 @@ inline constexpr FieldLayout kFields[] = {Kennung, DbkaName1, DbkaName2, DbkaNam
 inline constexpr RecordLayout kDBKA{"DBKA", 208, DBKA::kFields};
 
 namespace DSBD {
+inline constexpr RecordHead Head{"DSBD", "BTRAG", "01", "created (ErstellDatum)"};
 inline constexpr FieldLayout ArbeitgeberBetriebsnummer{"Arbeitgeber.Betriebsnummer", 64, 15, FieldKind::Bnr};
 inline constexpr FieldLayout Reserve1{"reserve", 79, 11, FieldKind::An};
 inline constexpr FieldLayout ConvertBNRSt{"ConvertBNRSt(DatensatzData.strBNRSt)", 90, 15, FieldKind::An};
@@ -55,7 +56,7 @@ inline constexpr FieldLayout Fest = lit("fixed", 536, "N");
 inline constexpr FieldLayout Reserve5{"reserve", 537, 5, FieldKind::An};
 inline constexpr std::array kOwn{ArbeitgeberBetriebsnummer, Reserve1, ConvertBNRSt, Kennziffer, Reserve2, Name1, Name2, Name3, PLZ, Ort, Strasse, Hausnummer, AdressTeil1, AdressTeil2, KennzeichenR, Kennung15, AnsprechpartnerGeschlecht, AnsprechpartnerName, AnsprechpartnerTelefon, AnsprechpartnerFax, AnsprechpartnerEMail, Reserve3, strVersion, DatensatzNr, EmpfaengerBetriebsnummer, Reserve4, MitDBKA, Fest, Reserve5};
 inline constexpr auto kFields =
-    layout::joined(record_head("DSBD", "BTRAG", "01", "created (ErstellDatum)"), kOwn);
+    layout::joined(Head.fields(), kOwn);
 }  // namespace DSBD
 inline constexpr RecordLayout kDSBD{"DSBD", 541, DSBD::kFields};
 

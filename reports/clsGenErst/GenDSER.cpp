@@ -3,10 +3,13 @@
 #include "core/establishment_number.h"
 #include "core/version_number.h"
 #include "core/writer.h"
+#include "reports/clsGenErst/DSER_layout.h"
 #include "reports/clsGenErst/clsGenErst.h"
 
 namespace tamrel {
 namespace {
+
+using namespace layouts::erst;
 
 std::string_view reason_code(const Erst& e) {
     if (e.Erstattungsgrund == 11) return "01";
@@ -26,7 +29,9 @@ std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& da
     return call(with_args("clsGenErst.GenData(", ObjArg{"objErst"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
                     return record_then_blocks(
-                        line, datDate, 455 + 202 + 180 + 191 + 174 + 125 + 321,
+                        line, datDate,
+                        kDSER.length + kDBAU.length + kDBBT.length + kDBZU.length + kDBBV.length + layouts::kDBNA.length +
+                            kDBAA.length,
                         [&](std::string& out, const Date& date) { return GenDSER(out, e, dd, date); },
                         [&](std::string& out, const ErstPlan& plan) {
                             using enum ErstBlock;
@@ -47,17 +52,24 @@ ErstPlan clsGenErst::GenDSER(std::string& out, const Erst& e, const DatensatzDat
         const VersionNumber reference(dd.strVersion, e.ErstattungsId);
         ErstPlan plan;
         Writer w(out, line);
-        w.lit("DSER").lit("AAGER").an(dd.strBNRAb, 15).an(e.Empfaenger.Betriebsnummer, 15).lit("05");
-        w.stamp(e.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0");
-        w.an(v.Versicherungsnummer, 12).n(v.Geburtsdatum, 8).an(v.Arbeitgeber.Betriebsnummer, 15);
-        w.an(v.Aktenzeichen, 20).blank(20).an(e.Empfaenger.Betriebsnummer, 15).blank(20);
-        w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).n(reason_code(e), 2).n(e.ErstDatum, 8);
-        w.n(settlement_code(e.Abrechnungskennzeichen), 1).an(v.Geschlecht, 1).lit("2").an(dd.strProdID, 7);
-        w.an(dd.strModID, 8).an(reference, 32).blank(100);
-        w.announce(plan, DBAU, e.Erstattungsgrund == 11).announce(plan, DBBT, e.Leistungsart == 2);
-        w.announce(plan, DBZU, e.Leistungsart == 1).announce(plan, DBBV, true).announce(plan, DBNA, true);
-        w.announce(plan, DBAA, !e.DBAAEntfaellt).blank(1).blank(100);
-        w.check(455, "DSER");
+        using namespace DSER;
+        w.put(Head.Kennung).put(Head.Verfahren).put(Head.strBNRAb, dd.strBNRAb);
+        w.put(Head.EmpfaengerBetriebsnummer, e.Empfaenger.Betriebsnummer).put(Head.Version);
+        w.stamp(Head.Erstellt, e.ErstelltAm, 1, date).put(Head.strMicroseconds, dd.strMicroseconds);
+        w.put(Head.Fehlerkennzeichen).put(Head.Fehleranzahl);
+        w.put(Versicherungsnummer, v.Versicherungsnummer).put(Geburtsdatum, v.Geburtsdatum);
+        w.put(ArbeitgeberBetriebsnummer, v.Arbeitgeber.Betriebsnummer);
+        w.put(Aktenzeichen, v.Aktenzeichen).put(Reserve1).put(EmpfaengerBetriebsnummer, e.Empfaenger.Betriebsnummer);
+        w.put(Reserve2);
+        w.put(ConvertBNRSt, mlGen::ConvertBNRSt(dd.strBNRSt)).put(ReasonCode, reason_code(e)).put(ErstDatum, e.ErstDatum);
+        w.put(Abrechnungskennzeichen, settlement_code(e.Abrechnungskennzeichen)).put(Geschlecht, v.Geschlecht);
+        w.put(Fest).put(strProdID, dd.strProdID);
+        w.put(strModID, dd.strModID).put(RecordReference, reference).put(Reserve3);
+        w.announce(MitDBAU, plan, DBAU, e.Erstattungsgrund == 11).announce(MitDBBT, plan, DBBT, e.Leistungsart == 2);
+        w.announce(MitDBZU, plan, DBZU, e.Leistungsart == 1).announce(MitDBBV, plan, DBBV, true);
+        w.announce(MitDBNA, plan, DBNA, true);
+        w.announce(MitDBAA, plan, DBAA, !e.DBAAEntfaellt).put(Reserve4).put(Reserve5);
+        w.check(kDSER);
         return plan;
     });
 }

@@ -3,9 +3,13 @@
 #include "core/host.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
+#include "reports/clsGenErst/DSER_layout.h"
 #include "reports/clsGenErst/clsGenErst.h"
 
 namespace tamrel {
+
+using namespace layouts::erst;
+
 namespace {
 
 std::string_view digit(bool v) { return v ? "1" : "0"; }
@@ -26,9 +30,9 @@ Cascade first_non_empty(std::initializer_list<const std::string*> amounts) {
 }
 
 // The common start of DBAU, DBBT and DBZU.
-void head(Writer& w, std::string_view id, const Erst& e) {
-    w.lit(id).n(digit(e.DBAAEntfaellt), 1).n(e.ZeitraumBeginn, 8).n(e.ZeitraumEnde, 8);
-    w.n(digit(e.Ausgleichsart == 2), 1);
+void head(Writer& w, const ClaimHead& h, const Erst& e) {
+    w.put(h.Kennung).put(h.DBAAEntfaellt, digit(e.DBAAEntfaellt)).put(h.ZeitraumBeginn, e.ZeitraumBeginn);
+    w.put(h.ZeitraumEnde, e.ZeitraumEnde).put(h.Ausgleichsart2, digit(e.Ausgleichsart == 2));
 }
 
 std::string_view bt_code(std::int32_t v) { return v == 2 ? "1" : v == 3 ? "2" : v == 4 ? "3" : "0"; }
@@ -40,41 +44,48 @@ void clsGenErst::GenDBAU(std::string& out, const Erst& e) {
         const Cascade pay = first_non_empty({&e.Entgelt1, &e.Entgelt2, &e.Entgelt3, &e.Entgelt4});
         const Cascade value = first_non_empty({&e.Wert1, &e.Wert2, &e.Wert3});
         Writer w(out, line);
-        head(w, "DBAU", e);
-        w.pb(pay.amount, 7, 2).n(pay.code, 1).jn(e.AngabeJN2).pb(value.amount, 3, 2).n(value.code, 1);
-        w.pb(e.Satz1, 2, 2).pb(e.Satz2, 2, 2).pb(e.Betrag1, 7, 2).pb(e.Betrag2, 7, 2).pb(e.Betrag3, 3, 2);
-        w.pb(e.Betrag6, 7, 2).n(e.MerkmalA == 1 ? "2" : e.MerkmalB == 1 ? "1" : "0", 1).jn(e.AngabeJN1);
+        using namespace DBAU;
+        head(w, Head, e);
+        w.put(FirstOfEntgelt14, pay.amount).put(WhichEntgelt, pay.code).jn(AngabeJN2, e.AngabeJN2);
+        w.put(FirstOfWert13, value.amount).put(WhichWert, value.code);
+        w.put(Satz1, e.Satz1).put(Satz2, e.Satz2).put(Betrag1, e.Betrag1).put(Betrag2, e.Betrag2);
+        w.put(Betrag3, e.Betrag3).put(Betrag6, e.Betrag6);
+        w.put(MerkmalAOrMerkmalB, e.MerkmalA == 1 ? "2" : e.MerkmalB == 1 ? "1" : "0").jn(AngabeJN1, e.AngabeJN1);
         if (!e.Satz3.empty())
-            w.pb(e.Satz3, 2, 2);
+            w.put(Satz3Betrag, e.Satz3);
         else
-            w.blank(4);
-        w.n(e.Zusatzdatum, 8).pb(e.Betrag4, 7, 2).pb(e.Betrag5, 7, 2).blank(91);
-        w.check(202, "DBAU");
+            w.put(Satz3);
+        w.put(Zusatzdatum, e.Zusatzdatum).put(Betrag4, e.Betrag4).put(Betrag5, e.Betrag5).put(Reserve);
+        w.check(kDBAU);
     });
 }
 
 void clsGenErst::GenDBBT(std::string& out, const Erst& e) {
     routine("clsGenErst.GenDBBT", [&](int& line) {
         Writer w(out, line);
-        head(w, "DBBT", e);
+        using namespace DBBT;
+        head(w, Head, e);
         if (!e.Zusatzdatum.empty())
-            w.n(e.Zusatzdatum, 8);
+            w.put(ZusatzdatumDatum, e.Zusatzdatum);
         else
-            w.blank(8);
-        w.pb(e.Betrag1, 7, 2).pb(e.Betrag2, 7, 2).lit("10000").pb(e.Betrag6, 7, 2).n(bt_code(e.BTKennzeichen), 1);
-        w.n(e.Abschlussdatum, 8).pb(e.Betrag4, 7, 2).pb(e.Betrag5, 7, 2).blank(91);
-        w.check(180, "DBBT");
+            w.put(Zusatzdatum);
+        w.put(Betrag1, e.Betrag1).put(Betrag2, e.Betrag2).put(Fest).put(Betrag6, e.Betrag6);
+        w.put(BTKennzeichen, bt_code(e.BTKennzeichen));
+        w.put(Abschlussdatum, e.Abschlussdatum).put(Betrag4, e.Betrag4).put(Betrag5, e.Betrag5).put(Reserve);
+        w.check(kDBBT);
     });
 }
 
 void clsGenErst::GenDBZU(std::string& out, const Erst& e) {
     routine("clsGenErst.GenDBZU", [&](int& line) {
         Writer w(out, line);
-        head(w, "DBZU", e);
-        w.n(e.ZuschussBeginn, 8).n(e.ZuschussEnde, 8).pb(e.Entgelt4, 7, 2).pb(e.ZuschussBetrag1, 7, 2);
-        w.pb(e.ZuschussBetrag2, 7, 2).pb(e.ZuschussBetrag3, 7, 2).pb(e.ZuschussBetrag4, 7, 2);
-        w.n(e.Abschlussdatum, 8).blank(100);
-        w.check(191, "DBZU");
+        using namespace DBZU;
+        head(w, Head, e);
+        w.put(ZuschussBeginn, e.ZuschussBeginn).put(ZuschussEnde, e.ZuschussEnde).put(Entgelt4, e.Entgelt4);
+        w.put(ZuschussBetrag1, e.ZuschussBetrag1).put(ZuschussBetrag2, e.ZuschussBetrag2);
+        w.put(ZuschussBetrag3, e.ZuschussBetrag3).put(ZuschussBetrag4, e.ZuschussBetrag4);
+        w.put(Abschlussdatum, e.Abschlussdatum).put(Reserve);
+        w.check(kDBZU);
     });
 }
 
@@ -84,14 +95,15 @@ void clsGenErst::GenDBBV(std::string& out, const Erst& e) {
         const bool text_fields = now() >= Date{2014, 1, 1};
         const Arbeitgeber& ag = e.Vorgang.Arbeitgeber;
         Writer w(out, line);
-        w.lit("DBBV").n(e.Bankkennzeichen == 1 ? "2" : e.Bankkennzeichen == 2 ? "1" : "0", 1);
-        w.n(e.BVZahl4, 4).n(e.BVZahl2, 2);
+        using namespace DBBV;
+        w.put(Kennung).put(Bankkennzeichen, e.Bankkennzeichen == 1 ? "2" : e.Bankkennzeichen == 2 ? "1" : "0");
+        w.put(BVZahl4, e.BVZahl4).put(BVZahl2, e.BVZahl2);
         if (text_fields)
-            w.an(ag.Kontonummer, 10).an(ag.Bankleitzahl, 8);
+            w.put(Kontonummer, ag.Kontonummer).put(Bankleitzahl, ag.Bankleitzahl);
         else
-            w.n(ag.Kontonummer, 10).n(ag.Bankleitzahl, 8);
-        w.an(e.IBAN, 34).an(e.BIC, 11).an(e.Kontoinhaber1, 50).an(e.Kontoinhaber2, 50);
-        w.check(174, "DBBV");
+            w.put(KontonummerNumerisch, ag.Kontonummer).put(BankleitzahlNumerisch, ag.Bankleitzahl);
+        w.put(IBAN, e.IBAN).put(BIC, e.BIC).put(Kontoinhaber1, e.Kontoinhaber1).put(Kontoinhaber2, e.Kontoinhaber2);
+        w.check(kDBBV);
     });
 }
 

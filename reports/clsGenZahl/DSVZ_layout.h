@@ -51,6 +51,7 @@ inline constexpr FieldLayout kFields[] = {Kennung, Geburtsdatum, Geschlecht};
 inline constexpr RecordLayout kDBGA{"DBGA", 13, DBGA::kFields};
 
 namespace DSVZ {
+inline constexpr RecordHead Head{"DSVZ", "ZAHLS", "02", "created (ErstelltAm)"};
 inline constexpr FieldLayout Kennung14{"Vorgang.Kennung14", 64, 14, FieldKind::An};
 inline constexpr FieldLayout ArbeitgeberBetriebsnummer{"Vorgang.Arbeitgeber.Betriebsnummer", 78, 15, FieldKind::Bnr};
 inline constexpr FieldLayout Aktenzeichen{"Vorgang.Aktenzeichen", 93, 20, FieldKind::An};
@@ -76,7 +77,7 @@ inline constexpr FieldLayout Versicherungsnummer{"Vorgang.Versicherungsnummer (z
 inline constexpr FieldLayout Reserve4{"reserve", 236, 2, FieldKind::An};
 inline constexpr std::array kOwn{Kennung14, ArbeitgeberBetriebsnummer, Aktenzeichen, EmpfaengerBetriebsnummer, strVersion1, ZahlId1, strBNRSt, Reserve1, Fest1, strProdID, strModID, strVersion2, ZahlId2, Reserve2, Reserve3, MitDBZK, MitDBNAZahl, MitDBGA, Fest2, MitDBAN, Fest3, Versicherungsnummer, Reserve4};
 inline constexpr auto kFields =
-    layout::joined(record_head("DSVZ", "ZAHLS", "02", "created (ErstelltAm)"), kOwn);
+    layout::joined(Head.fields(), kOwn);
 }  // namespace DSVZ
 inline constexpr RecordLayout kDSVZ{"DSVZ", 237, DSVZ::kFields};
 
