@@ -3,10 +3,13 @@
 #include "core/establishment_number.h"
 #include "core/writer.h"
 #include "reports/clsGenBeitrErh/BeitrErh.h"
+#include "reports/clsGenBeitrErh/DSBE_layout.h"
 #include "reports/clsGenBeitrErh/clsGenBeitrErh.h"
 
 namespace tamrel {
 namespace {
+
+using namespace layouts::beitrerh;
 
 // The blocks a DSBE record may announce, in the order they follow it.
 enum class BeitrErhBlock { DBMI, DBHB };
@@ -24,24 +27,26 @@ BeitrErhPlan GENDSBE(std::string& out, const BeitrErh& b, const DatensatzData& d
         const Arbeitgeber& ag = v.Arbeitgeber;
         BeitrErhPlan plan;
         Writer w(out, line);
-        w.lit("DSBE")
-            .lit("02")
-            .lit("01")
-            .lit("00")
-            .lit("BVBEI")
-            .an(dd.strBNRAb, 15)
-            .an(b.Empfaenger.Betriebsnummer, 15);
-        w.stamp(b.Zeitpunkt, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0").lit("N");
-        w.an(dd.strProdID, 7).an(dd.strModID, 8).an(dd.strVersion, 10).n(b.Laufnummer, 10).blank(12).zeros(20);
-        w.an(ag.Name1, 30).an(ag.Name2, 30).an(ag.Name3, 30).an(ag.Strasse, 33).an(ag.Hausnummer, 9).n(ag.PLZ, 5);
-        w.an(ag.Ort, 34).an(dd.strVersion, 10).n(b.Laufnummer, 10).an(ag.Betriebsnummer, 15);
-        w.an(mlGen::ConvertBNRSt(dd.strBNRSt), 15).an(b.Empfaenger.Betriebsnummer, 15);
-        w.an(!v.Bezugskennung.empty() ? v.Bezugskennung : b.Ersatzaktenzeichen, 17);
-        w.n(b.Zeitraum2, 6).n(b.Zeitraum1, 6).lit(b.ArtKennzeichen ? "K" : "G");
-        w.bg(b.Betrag1, 2, 0).bg(b.Betrag2, 6, 2).n(b.Merkmal1 == 1 ? "1" : "0", 1).bg(b.Betrag3, 7, 2);
-        w.bg(b.Betrag4, 6, 2).n(merkmal2_code(b.Merkmal2), 1).bg(b.Betrag5, 6, 2);
-        w.announce(plan, BeitrErhBlock::DBMI, true).announce(plan, BeitrErhBlock::DBHB, !b.Betrag6.empty()).blank(2);
-        w.check(447, "DSBE");
+        using namespace DSBE;
+        w.put(Kennung).put(Fest1).put(Fest2).put(Fest3).put(Verfahren).put(strBNRAb, dd.strBNRAb);
+        w.put(EmpfaengerBetriebsnummer1, b.Empfaenger.Betriebsnummer);
+        w.stamp(Erstellt, b.Zeitpunkt, 1, date).put(strMicroseconds, dd.strMicroseconds);
+        w.put(Fehlerkennzeichen).put(Fehleranzahl).put(Fest4);
+        w.put(strProdID, dd.strProdID).put(strModID, dd.strModID).put(strVersion1, dd.strVersion);
+        w.put(Laufnummer1, b.Laufnummer).put(Reserve1).put(Reserve2);
+        w.put(Name1, ag.Name1).put(Name2, ag.Name2).put(Name3, ag.Name3).put(Strasse, ag.Strasse);
+        w.put(Hausnummer, ag.Hausnummer).put(PLZ, ag.PLZ);
+        w.put(Ort, ag.Ort).put(strVersion2, dd.strVersion).put(Laufnummer2, b.Laufnummer);
+        w.put(ArbeitgeberBetriebsnummer, ag.Betriebsnummer);
+        w.put(ConvertBNRSt, mlGen::ConvertBNRSt(dd.strBNRSt)).put(EmpfaengerBetriebsnummer2, b.Empfaenger.Betriebsnummer);
+        w.put(Bezugskennung, !v.Bezugskennung.empty() ? v.Bezugskennung : b.Ersatzaktenzeichen);
+        w.put(Zeitraum2, b.Zeitraum2).put(Zeitraum1, b.Zeitraum1).text(ArtKennzeichen, b.ArtKennzeichen ? "K" : "G");
+        w.put(Betrag1, b.Betrag1).put(Betrag2, b.Betrag2).put(Merkmal1, b.Merkmal1 == 1 ? "1" : "0");
+        w.put(Betrag3, b.Betrag3);
+        w.put(Betrag4, b.Betrag4).put(Merkmal2, merkmal2_code(b.Merkmal2)).put(Betrag5, b.Betrag5);
+        w.announce(MitDBMI, plan, BeitrErhBlock::DBMI, true);
+        w.announce(MitDBHB, plan, BeitrErhBlock::DBHB, !b.Betrag6.empty()).put(Reserve3);
+        w.check(kDSBE);
         return plan;
     });
 }
@@ -50,17 +55,19 @@ void GenDBMI(std::string& out, const BeitrErh& b) {
     routine("clsGenBeitrErh.GenDBMI", [&](int& line) {
         const Vorgang& v = b.Vorgang;
         Writer w(out, line);
-        w.lit("DBMI").an(v.Aktenzeichen, 20).an(v.Familienname, 30).an(v.Vorname, 30).an(v.Vorsatzwort, 20);
-        w.an(v.Namenszusatz, 20).an(v.Titel, 20).an(v.Geschlecht, 1).n(v.Geburtsdatum, 8);
-        w.check(153, "DBMI");
+        using namespace DBMI;
+        w.put(Kennung).put(Aktenzeichen, v.Aktenzeichen).put(Familienname, v.Familienname).put(Vorname, v.Vorname);
+        w.put(Vorsatzwort, v.Vorsatzwort).put(Namenszusatz, v.Namenszusatz).put(Titel, v.Titel);
+        w.put(Geschlecht, v.Geschlecht).put(Geburtsdatum, v.Geburtsdatum);
+        w.check(kDBMI);
     });
 }
 
 void GenDBHB(std::string& out, const BeitrErh& b) {
     routine("clsGenBeitrErh.GenDBHB", [&](int& line) {
         Writer w(out, line);
-        w.lit("DBHB").bg(b.Betrag6, 6, 2);
-        w.check(13, "DBHB");
+        w.put(DBHB::Kennung).put(DBHB::Betrag6, b.Betrag6);
+        w.check(kDBHB);
     });
 }
 
@@ -70,7 +77,7 @@ std::string clsGenBeitrErh::GenData(const BeitrErh& b, DatensatzData& dd, const 
     return call(with_args("clsGenBeitrErh.GenData(", ObjArg{"objBeitrErh"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
                     std::string out;
-                    out.reserve(613);
+                    out.reserve(kDSBE.length + kDBMI.length + kDBHB.length);
                     line = 1;
                     const BeitrErhPlan plan = GENDSBE(out, b, dd, mlGen::GetDate(datDate));
                     line = 2;

@@ -74,6 +74,7 @@ inline constexpr FieldLayout Fest2 = lit("fixed", 221, "N");
 inline constexpr FieldLayout MitDBAN = layout::flag(kDBAN, 222);
 inline constexpr FieldLayout Fest3 = lit("fixed", 223, "N");
 inline constexpr FieldLayout Versicherungsnummer{"Vorgang.Versicherungsnummer (zeros when pseudonymised)", 224, 12, FieldKind::Vsnr};
+inline constexpr FieldLayout VersicherungsnummerNullen = layout::as(Versicherungsnummer, FieldKind::N);
 inline constexpr FieldLayout Reserve4{"reserve", 236, 2, FieldKind::An};
 inline constexpr std::array kOwn{Kennung14, ArbeitgeberBetriebsnummer, Aktenzeichen, EmpfaengerBetriebsnummer, strVersion1, ZahlId1, strBNRSt, Reserve1, Fest1, strProdID, strModID, strVersion2, ZahlId2, Reserve2, Reserve3, MitDBZK, MitDBNAZahl, MitDBGA, Fest2, MitDBAN, Fest3, Versicherungsnummer, Reserve4};
 inline constexpr auto kFields =

@@ -3,15 +3,18 @@
 #include "core/host.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
+#include "reports/clsGenZahl/DSVZ_layout.h"
 #include "reports/clsGenZahl/clsGenZahl.h"
 
 namespace tamrel {
+
+using namespace layouts::zahl;
 
 std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& datDate) const {
     return call(with_args("clsGenZahl.GenData(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
                     return record_then_blocks(
-                        line, datDate, 237 + 91 + 125 + 13 + 133,
+                        line, datDate, kDSVZ.length + kDBZK.length + kDBNAZahl.length + kDBGA.length + layouts::kDBAN.length,
                         [&](std::string& out, const Date& date) { return GenDSVZ(out, z, dd, date); },
                         [&](std::string& out, const ZahlPlan& plan) {
                             using enum ZahlBlock;
@@ -30,23 +33,29 @@ ZahlPlan clsGenZahl::GenDSVZ(std::string& out, const Zahl& z, const DatensatzDat
             const Vorgang& v = z.Vorgang;
             ZahlPlan plan;
             Writer w(out, line);
-            w.lit("DSVZ").lit("ZAHLS").an(dd.strBNRAb, 15).an(z.Empfaenger.Betriebsnummer, 15).lit("02");
-            w.stamp(z.ErstelltAm, 1, date, 14).n(dd.strMicroseconds, 6).lit("0").lit("0").an(v.Kennung14, 14);
-            w.an(v.Arbeitgeber.Betriebsnummer, 15).an(v.Aktenzeichen, 20).an(z.Empfaenger.Betriebsnummer, 15);
-            w.an(dd.strVersion, 10).n(z.ZahlId, 10).an(dd.strBNRSt, 15).blank(3).lit("01").an(dd.strProdID, 7);
-            w.an(dd.strModID, 8).an(dd.strVersion, 10).n(z.ZahlId, 10).blank(12).blank(3);
-            w.announce(plan, DBZK, true).announce(plan, DBNA, true);
+            using namespace DSVZ;
+            w.put(Head.Kennung).put(Head.Verfahren).put(Head.strBNRAb, dd.strBNRAb);
+            w.put(Head.EmpfaengerBetriebsnummer, z.Empfaenger.Betriebsnummer).put(Head.Version);
+            w.stamp(Head.Erstellt, z.ErstelltAm, 1, date).put(Head.strMicroseconds, dd.strMicroseconds);
+            w.put(Head.Fehlerkennzeichen).put(Head.Fehleranzahl).put(Kennung14, v.Kennung14);
+            w.put(ArbeitgeberBetriebsnummer, v.Arbeitgeber.Betriebsnummer).put(Aktenzeichen, v.Aktenzeichen);
+            w.put(EmpfaengerBetriebsnummer, z.Empfaenger.Betriebsnummer);
+            w.put(strVersion1, dd.strVersion).put(ZahlId1, z.ZahlId).put(strBNRSt, dd.strBNRSt).put(Reserve1);
+            w.put(Fest1).put(strProdID, dd.strProdID);
+            w.put(strModID, dd.strModID).put(strVersion2, dd.strVersion).put(ZahlId2, z.ZahlId).put(Reserve2);
+            w.put(Reserve3);
+            w.announce(MitDBZK, plan, DBZK, true).announce(MitDBNAZahl, plan, DBNA, true);
             bool dbga = false, dban = false;
             plan.dbga = GenDBGA(z, dbga);
-            w.announce(plan, DBGA, dbga).lit("N");
+            w.announce(MitDBGA, plan, DBGA, dbga).put(Fest2);
             plan.dban = GenDBAN(z, dban);
-            w.announce(plan, DBAN, dban).lit("N");
+            w.announce(MitDBAN, plan, DBAN, dban).put(Fest3);
             if (z.Pseudonym)
-                w.zeros(12);
+                w.put(VersicherungsnummerNullen);
             else
-                w.an(v.Versicherungsnummer, 12);
-            w.blank(2);
-            w.check(237, "DSVZ");
+                w.put(Versicherungsnummer, v.Versicherungsnummer);
+            w.put(Reserve4);
+            w.check(kDSVZ);
             return plan;
         });
 }
@@ -56,15 +65,18 @@ void clsGenZahl::GenDBZK(std::string& out, const Zahl& z) {
         std::string today;
         if (z.Pseudonym) append_yyyymmdd(today, now());
         Writer w(out, line);
-        w.lit("DBZK").flag(z.ZKKennzeichen).n(z.Pseudonym ? std::string_view("2") : std::string_view(z.ZKArt), 1);
+        using namespace DBZK;
+        w.put(Kennung).put(ZKKennzeichen, z.ZKKennzeichen);
+        w.put(ZKArt, z.Pseudonym ? std::string_view("2") : std::string_view(z.ZKArt));
         if (z.Pseudonym)
-            w.an("N", 1);
+            w.put(ZKAngabeJN, "N");
         else
-            w.jn(z.ZKAngabeJN);
-        w.n(z.ZKBeginn, 8).n(z.ZKEnde, 8).n(z.Pseudonym ? std::string_view(today) : std::string_view(z.ZKDatum), 8);
-        w.pb(z.ZKBetrag1, 6, 2).n(z.ZKDatum2, 8).n(z.ZKDatum3, 8).n(z.ZKDatum4, 8).pb(z.ZKBetrag2, 10, 2);
-        w.pb(z.ZKBetrag3, 6, 2).pb(z.ZKBetrag4, 6, 2);
-        w.check(91, "DBZK");
+            w.jn(ZKAngabeJN, z.ZKAngabeJN);
+        w.put(ZKBeginn, z.ZKBeginn).put(ZKEnde, z.ZKEnde);
+        w.put(ZKDatum, z.Pseudonym ? std::string_view(today) : std::string_view(z.ZKDatum));
+        w.put(ZKBetrag1, z.ZKBetrag1).put(ZKDatum2, z.ZKDatum2).put(ZKDatum3, z.ZKDatum3).put(ZKDatum4, z.ZKDatum4);
+        w.put(ZKBetrag2, z.ZKBetrag2).put(ZKBetrag3, z.ZKBetrag3).put(ZKBetrag4, z.ZKBetrag4);
+        w.check(kDBZK);
     });
 }
 
@@ -88,8 +100,9 @@ std::string clsGenZahl::GenDBGA(const Zahl& z, bool& hasData) {
     return routine("clsGenZahl.GenDBGA", [&](int& line) {
         std::string out;
         Writer w(out, line, hasData);
-        w.lit("DBGA").n(z.Vorgang.Geburtsdatum, 8).an(z.Vorgang.Geschlecht, 1);
-        w.check(13, "DBGA");
+        w.put(DBGA::Kennung).put(DBGA::Geburtsdatum, z.Vorgang.Geburtsdatum);
+        w.put(DBGA::Geschlecht, z.Vorgang.Geschlecht);
+        w.check(kDBGA);
         return out;
     });
 }
