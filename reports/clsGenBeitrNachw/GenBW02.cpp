@@ -4,17 +4,20 @@
 #include "core/date_fields.h"
 #include "core/establishment_number.h"
 #include "core/writer.h"
+#include "reports/clsGenBeitrNachw/BW02_layout.h"
 #include "reports/clsGenBeitrNachw/BeitrNachw.h"
 #include "reports/clsGenBeitrNachw/clsGenBeitrNachw.h"
 
 namespace tamrel {
 namespace {
 
+using namespace layouts::beitrnachw;
+
 // Betrag18 is always written with "-" in place of its sign.
-std::string negated(std::string_view amount) {
+std::string negated(const FieldLayout& f, std::string_view amount) {
     bool filled = false;
     std::string out;
-    mlGen::AppendBG(out, amount, 9, 2, filled);
+    mlGen::AppendBG(out, amount, f.len - 1 - f.decimals, f.decimals, filled);
     out[0] = '-';
     return out;
 }
@@ -36,40 +39,41 @@ std::string clsGenBeitrNachw::GenData(const BeitrNachw& b, std::string_view strB
             const Arbeitgeber& ag = b.Arbeitgeber;
 
             std::string out;
-            out.reserve(774);
+            out.reserve(kBW02Extended.length);
+            const Statement& f = bnv ? BW03::Fields : BW02::Fields;
             Writer w(out, line);
-            w.lit(bnv ? "BW03" : "BW02")
-                .lit(bnv ? "BWBNV" : "BWNAC")
-                .an(strBNRAb, 15)
-                .an(b.Empfaenger.Betriebsnummer, 15);
-            w.lit("11").stamp(b.Zeitpunkt, 1, date, 14).n(strMicroseconds, 6).lit("0").lit("0");
-            w.an(strVersion, 10).n(b.Laufnummer, 10).blank(20).lit(b.Merkmal1 ? "1" : "0").lit(b.Merkmal2 ? "1" : "0");
-            w.zeros(1).an(ag.Betriebsnummer, 15).n(b.Zeitraum1, 8).n(b.Zeitraum2, 8);
-            for (std::string_view amount :
-                 {std::string_view(b.Betrag01), std::string_view(b.Betrag02), std::string_view(b.Betrag03),
-                  std::string_view(b.Betrag11), std::string_view(b.Betrag06), std::string_view(b.Betrag04),
-                  std::string_view(b.Betrag09), extended ? std::string_view{} : std::string_view(b.Betrag07),
-                  std::string_view(b.Betrag14), std::string_view(b.Betrag10), std::string_view(b.Betrag12),
-                  std::string_view(b.Betrag13), std::string_view(b.Betrag05), std::string_view(b.Betrag08),
-                  std::string_view{}, std::string_view(b.Betrag15), sonder, std::string_view(b.Betrag17)})
-                w.bg(amount, 9, 2);
-            w.lit(negated(b.Betrag18));
-            for (std::string_view amount :
-                 {std::string_view(b.Betrag16), std::string_view(b.Betrag25), std::string_view(b.Betrag26),
-                  std::string_view(b.Betrag19), std::string_view{}, std::string_view{}, std::string_view{}})
-                w.bg(amount, 9, 2);
-            w.an(ag.Name1, 30).an(ag.Name2, 30).an(ag.Strasse + " " + ag.Hausnummer, 30).an(ag.Land, 3);
-            w.an(ag.PLZ, 10).an(ag.Ort, 25).an(bnv ? std::string(strBNRSt) : mlGen::ConvertBNRSt(strBNRSt), 15);
-            w.blank(15).blank(20).an(b.SKennzeichen ? "S" : "", 1).zeros(4).zeros(4).zeros(4);
-            w.an(bnv ? std::string_view{} : std::string_view(ag.Kennzeichen), 1).lit("0").lit("000");
+            w.put(f.Kennung).put(f.Verfahren).put(f.strBNRAb, strBNRAb);
+            w.put(f.EmpfaengerBetriebsnummer, b.Empfaenger.Betriebsnummer);
+            w.put(f.Version).stamp(f.Erstellt, b.Zeitpunkt, 1, date).put(f.strMicroseconds, strMicroseconds);
+            w.put(f.Fehlerkennzeichen).put(f.Fehleranzahl);
+            w.put(f.strVersion, strVersion).put(f.Laufnummer, b.Laufnummer).put(f.Reserve1);
+            w.text(f.Merkmal1, b.Merkmal1 ? "1" : "0").text(f.Merkmal2, b.Merkmal2 ? "1" : "0");
+            w.put(f.Reserve2).put(f.Betriebsnummer, ag.Betriebsnummer).put(f.Zeitraum1, b.Zeitraum1);
+            w.put(f.Zeitraum2, b.Zeitraum2);
+            w.put(f.Betrag01, b.Betrag01).put(f.Betrag02, b.Betrag02).put(f.Betrag03, b.Betrag03);
+            w.put(f.Betrag11, b.Betrag11).put(f.Betrag06, b.Betrag06).put(f.Betrag04, b.Betrag04);
+            w.put(f.Betrag09, b.Betrag09).put(f.Betrag07, extended ? std::string_view{} : std::string_view(b.Betrag07));
+            w.put(f.Betrag14, b.Betrag14).put(f.Betrag10, b.Betrag10).put(f.Betrag12, b.Betrag12);
+            w.put(f.Betrag13, b.Betrag13).put(f.Betrag05, b.Betrag05).put(f.Betrag08, b.Betrag08);
+            w.put(f.Reserve3).put(f.Betrag15, b.Betrag15).put(f.Sonderbetrag, sonder).put(f.Betrag17, b.Betrag17);
+            w.text(f.Betrag18, negated(f.Betrag18, b.Betrag18));
+            w.put(f.Betrag16, b.Betrag16).put(f.Betrag25, b.Betrag25).put(f.Betrag26, b.Betrag26);
+            w.put(f.Betrag19, b.Betrag19).put(f.Reserve4).put(f.Reserve5).put(f.Reserve6);
+            w.put(f.Name1, ag.Name1).put(f.Name2, ag.Name2).put(f.StrasseHausnummer, ag.Strasse + " " + ag.Hausnummer);
+            w.put(f.Land, ag.Land).put(f.PLZ, ag.PLZ).put(f.Ort, ag.Ort);
+            w.put(f.Betriebsstaette, bnv ? std::string(strBNRSt) : mlGen::ConvertBNRSt(strBNRSt));
+            w.put(f.Reserve7).put(f.Reserve8).put(f.SKennzeichen, b.SKennzeichen ? "S" : "");
+            w.put(f.Reserve9).put(f.Reserve10).put(f.Reserve11);
+            w.put(f.Kennzeichen, bnv ? std::string_view{} : std::string_view(ag.Kennzeichen)).put(f.Fest1).put(f.Fest2);
             if (b.Waehrung == "D")
                 raise(kErrAmount, "clsGenBeitrNachw.GenData", "Die Angabe von DM ist nicht mehr zul\xC3\xA4ssig.");
-            w.lit("E").bg(b.Betrag27, 9, 2).an(ag.Arbeitgeberangabe, 20);
+            w.put(f.Waehrung).put(f.Betrag27, b.Betrag27).put(f.Arbeitgeberangabe, ag.Arbeitgeberangabe);
             if (extended) {
-                w.bg(b.Betrag20, 9, 2).bg(b.Betrag21, 9, 2).bg(b.Betrag22, 9, 2).bg({}, 9, 2).bg(b.Betrag07, 9, 2);
-                w.bg({}, 9, 2).bg(b.Betrag23, 9, 2).bg(b.Betrag24, 9, 2);
+                using namespace BW02;
+                w.put(Betrag20, b.Betrag20).put(Betrag21, b.Betrag21).put(Betrag22, b.Betrag22).put(Reserve12);
+                w.put(Betrag07, b.Betrag07).put(Reserve13).put(Betrag23, b.Betrag23).put(Betrag24, b.Betrag24);
             }
-            w.check(extended ? 774 : 678, "Datensatz");
+            w.check(extended ? kBW02Extended : kBW02Short, "Datensatz");
             return out;
         });
 }
