@@ -46,10 +46,11 @@ public:
     [[gnu::always_inline]] ~Writer() { publish(); }
 
     // The field as its declaration fixes it: a literal's text; any other
-    // field empty (blanks, or zeros where the kind is numeric).
+    // field with the content it declares, if any, else empty (blanks, or
+    // zeros where the kind is numeric).
     [[gnu::always_inline]] Writer& put(const FieldLayout& f) {
         at(f);
-        return f.kind == FieldKind::Literal ? lit(f.literal) : encode(f, {});
+        return f.kind == FieldKind::Literal ? lit(f.literal) : encode(f, f.literal);
     }
     // `v` through the encoder of the field's kind: a text, a number (written
     // as its digits) or a flag's truth (J or N).

@@ -12,7 +12,7 @@ namespace DSVV {
 inline constexpr FieldLayout Kennung = lit("identifier", 1, "DSVV");
 inline constexpr FieldLayout Verfahren = lit("procedure", 5, "DEUEV");
 inline constexpr FieldLayout strBNRAb{"DatensatzData.strBNRAb", 10, 15, FieldKind::Bnr};
-inline constexpr FieldLayout Empfaenger{"receiver (fixed)", 25, 15, FieldKind::An};
+inline constexpr FieldLayout BBNREmpfaenger{"receiver (fixed)", 25, 15, FieldKind::An, "66667777"};
 inline constexpr FieldLayout Version = lit("version", 40, "01");
 inline constexpr FieldLayout Erstellt{"created (Datum)", 42, 14, FieldKind::DateTime};
 inline constexpr FieldLayout strMicroseconds{"DatensatzData.strMicroseconds", 56, 6, FieldKind::N};
@@ -33,7 +33,7 @@ inline constexpr FieldLayout MitDBNA = always(kDBNA, 172);
 inline constexpr FieldLayout MitDBGB = always(kDBGB, 173);
 inline constexpr FieldLayout MitDBAN = always(kDBAN, 174);
 inline constexpr FieldLayout Reserve6{"reserve", 175, 26, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, Verfahren, strBNRAb, Empfaenger, Version, Erstellt, strMicroseconds, Fehlerkennzeichen, Fehleranzahl, AngefragteVersicherungsnummer, Reserve1, Reserve2, Betriebsnummer, Aktenzeichen, strVersion, Kennzahl, Reserve3, Reserve4, Fest, Reserve5, MitDBNA, MitDBGB, MitDBAN, Reserve6};
+inline constexpr FieldLayout kFields[] = {Kennung, Verfahren, strBNRAb, BBNREmpfaenger, Version, Erstellt, strMicroseconds, Fehlerkennzeichen, Fehleranzahl, AngefragteVersicherungsnummer, Reserve1, Reserve2, Betriebsnummer, Aktenzeichen, strVersion, Kennzahl, Reserve3, Reserve4, Fest, Reserve5, MitDBNA, MitDBGB, MitDBAN, Reserve6};
 }  // namespace DSVV
 inline constexpr RecordLayout kDSVV{"DSVV", 200, DSVV::kFields};
 
