@@ -8,6 +8,7 @@ namespace tamrel::layouts::uv {
 using layout::lit;
 
 namespace DSAS {
+inline constexpr UvHead Head{"DSAS", "UVSDD"};
 inline constexpr FieldLayout Fest1 = lit("fixed", 66, "N");
 inline constexpr FieldLayout Fehlerkennzeichen = lit("error marker", 67, "0");
 inline constexpr FieldLayout Fehleranzahl = lit("number of errors", 68, "0");
@@ -32,7 +33,7 @@ inline constexpr FieldLayout Feld444{"Feld444", 444, 15, FieldKind::An};
 inline constexpr FieldLayout MitDBAP = layout::flag(kDBAP, 459);
 inline constexpr FieldLayout Fest3 = lit("fixed", 460, "UV10");
 inline constexpr std::array kOwn{Fest1, Fehlerkennzeichen, Fehleranzahl, Reserve1, strProdID, strModID, strVersion, DatensatzNr, Reserve2, Feld216, Kennz248, Reserve3, Fest2, Reserve4, Feld382, Feld397, Feld417, Feld422, Feld425, Betriebsnummer, Feld444, MitDBAP, Fest3};
-inline constexpr auto kFields = layout::joined(head("DSAS", "UVSDD"), kOwn);
+inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DSAS
 inline constexpr RecordLayout kDSAS{"DSAS", 463, DSAS::kFields};
 

@@ -12,7 +12,9 @@ std::string clsGenAbfrVers::GenData(const AbfrVers& a, DatensatzData& dd, const 
     return call(with_args("clsGenAbfrVers.GenData(", ObjArg{"objAbfrVers"}, ObjArg{"udtDatensatzData"}, datDate),
                 [&](int& line) {
                     return record_then_blocks(
-                        line, datDate, kDSVV.length + layouts::kDBNA.length + layouts::kDBGB.length + layouts::kDBAN.length, [&](std::string& out, const Date& date) { GenDSVV(out, a, dd, date); },
+                        line, datDate,
+                        kDSVV.length + layouts::kDBNA.length + layouts::kDBGB.length + layouts::kDBAN.length,
+                        [&](std::string& out, const Date& date) { GenDSVV(out, a, dd, date); },
                         [&](std::string& out) {
                             mlGen::AppendDBNA(out, a.Vorgang, false);
                             mlGen::AppendDBGB(out, a.Vorgang);

@@ -4,9 +4,12 @@
 #include "core/int16.h"
 #include "core/list_loop.h"
 #include "core/writer.h"
+#include "queries/clsGenLohnnachweis/DSLN_layout.h"
 #include "queries/clsGenLohnnachweis/clsGenLohnnachweis.h"
 
 namespace tamrel {
+
+using namespace layouts::uv;
 
 std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd, const Date& datDate) const {
     const std::size_t positions = l.AnzahlPositionen > 0 ? static_cast<std::size_t>(l.AnzahlPositionen) : 0;
@@ -14,7 +17,7 @@ std::string clsGenLohnnachweis::GenData(const Lohnnachweis& l, DatensatzData& dd
         with_args("clsGenLohnnachweis.GenData(", ObjArg{"objLohnnachweis"}, ObjArg{"udtDatensatzData"}, datDate),
         [&](int& line) {
             return record_then_blocks(
-                line, datDate, 494 + 321 + 59 * positions,
+                line, datDate, kDSLN.length + kDBAP.length + kDSLNPosition.length * positions,
                 [&](std::string& out, const Date& date) { return GenDSLN(out, l, dd, date); }, AppendPlannedBlocks);
         });
 }
@@ -24,22 +27,55 @@ ContactPlan clsGenLohnnachweis::GenDSLN(std::string& out, const Lohnnachweis& l,
     return routine("clsGenLohnnachweis.GenDSLN", [&](int& line) {
         ContactPlan plan;
         Writer w(out, line);
-        w.an("DSLN", 4).an("UVELN", 5).an(dd.strBNRAb, 15).an("95783331", 15).n("01", 2).zeros(2).zeros(2);
-        w.stamp(l.ErstellDatum, 1, date, 14).n(dd.strMicroseconds, 6).zeros(20).an("N", 1).n("0", 1).n("0", 1);
-        w.blank(100).an(dd.strProdID, 7).an(dd.strModID, 8).an(dd.strVersion, 10).n(l.DatensatzNr, 10).blank(12);
-        w.an(l.Feld236, 32).flag(l.Kennz268).blank(32).n("5", 1).blank(100).an(l.Feld402, 15).an(l.Feld417, 20);
-        w.n(l.Feld437, 5).n(l.Feld442, 3).n(l.Feld445, 4).an(l.Arbeitgeber.Betriebsnummer, 15).an(l.Feld464, 15);
+        using namespace DSLN;
+        w.put(Head.Kennung)
+            .put(Head.Verfahren)
+            .put(Head.strBNRAb, dd.strBNRAb)
+            .put(Head.Empfaenger)
+            .put(Head.Version)
+            .put(Head.Reserve1)
+            .put(Head.Reserve2);
+        w.stamp(Head.Erstellt, l.ErstellDatum, 1, date)
+            .put(Head.strMicroseconds, dd.strMicroseconds)
+            .put(Reserve1)
+            .put(Fest1)
+            .put(Fehlerkennzeichen)
+            .put(Fehleranzahl);
+        w.put(Reserve2)
+            .put(strProdID, dd.strProdID)
+            .put(strModID, dd.strModID)
+            .put(strVersion, dd.strVersion)
+            .put(DatensatzNr, l.DatensatzNr)
+            .put(Reserve3);
+        w.put(Feld236, l.Feld236)
+            .put(Kennz268, l.Kennz268)
+            .put(Reserve4)
+            .put(Fest2)
+            .put(Reserve5)
+            .put(Feld402, l.Feld402)
+            .put(Feld417, l.Feld417);
+        w.put(Feld437, l.Feld437)
+            .put(Feld442, l.Feld442)
+            .put(Feld445, l.Feld445)
+            .put(Betriebsnummer, l.Arbeitgeber.Betriebsnummer)
+            .put(Feld464, l.Feld464);
         const bool dbap = BuildDBAP(plan, l, l.Arbeitgeber, "clsGenLohnnachweis.GenDBAP");
-        w.announce(plan, ContactBlock::DBAP, dbap)
-            .an(l.Feld480, 4)
-            .an(l.Feld484, 3)
-            .n(l.Feld487, 6)
-            .n(l.AnzahlPositionen, 2);
+        w.announce(MitDBAP, plan, ContactBlock::DBAP, dbap)
+            .put(Feld480, l.Feld480)
+            .put(Feld484, l.Feld484)
+            .put(Feld487, l.Feld487)
+            .put(AnzahlPositionen, l.AnzahlPositionen);
         list_loop(line, 5, 1, l.AnzahlPositionen, [&](std::int16_t i) {
             const LnPosition p = l.Position(i);
-            w.an(p.PosFeld1, 15).an(p.PosFeld2, 8).n(p.PosFeld3, 15).n(p.PosFeld4, 15).n(p.PosFeld5, 6);
+            w.entry();
+            using namespace DSLNPosition;
+            w.put(PosFeld1, p.PosFeld1)
+                .put(PosFeld2, p.PosFeld2)
+                .put(PosFeld3, p.PosFeld3)
+                .put(PosFeld4, p.PosFeld4)
+                .put(PosFeld5, p.PosFeld5);
         });
-        w.check([&] { return add16(494, mul16(59, l.AnzahlPositionen)); }, "DSLN");
+        w.check([&] { return add16(kDSLN.length, mul16(kDSLNPosition.length, l.AnzahlPositionen)); }, kDSLN.id);
         return plan;
     });
 }
