@@ -30,7 +30,8 @@ inline constexpr FieldLayout AGTELE{"DBAG.AGTELE", 344, 25, FieldKind::An};
 inline constexpr FieldLayout AGTELP{"DBAG.AGTELP", 369, 25, FieldKind::An};
 inline constexpr FieldLayout AGEMAILE{"DBAG.AGEMAILE", 394, 70, FieldKind::An};
 inline constexpr FieldLayout AGEMAILP{"DBAG.AGEMAILP", 464, 70, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, Name1, Name2, Name3, Land, PLZ, Ort, Strasse, Hausnummer, Adresszusatz, AGAPE, AGAPP, AGTELE, AGTELP, AGEMAILE, AGEMAILP};
+inline constexpr FieldLayout kFields[] = {Kennung,    Name1,        Name2, Name3, Land,   PLZ,    Ort,      Strasse,
+                                          Hausnummer, Adresszusatz, AGAPE, AGAPP, AGTELE, AGTELP, AGEMAILE, AGEMAILP};
 }  // namespace DBAG
 inline constexpr RecordLayout kDBAG{"DBAG", 533, DBAG::kFields};
 
@@ -69,7 +70,9 @@ inline constexpr FieldLayout AZWOECH = amount("DBNE.AZWOECH", 94, 4, 2);
 inline constexpr FieldLayout TTAUFENT{"DBNE.TTAUFENT", 98, 1, FieldKind::N};
 inline constexpr FieldLayout BVUNFORT{"DBNE.BVUNFORT", 99, 1, FieldKind::Code};
 inline constexpr FieldLayout BVUNFORTU{"DBNE.BVUNFORTU", 100, 1, FieldKind::Code};
-inline constexpr FieldLayout kFields[] = {Kennung, AVEND, MONATBEG, MONATEND, Reserve, SVBREGLF, SVBREGE, SVBREGEBEG, SVBREGEEND, NETTOLFD, NETTOEINMAL, AZWOECH, TTAUFENT, BVUNFORT, BVUNFORTU};
+inline constexpr FieldLayout kFields[] = {Kennung,     AVEND,   MONATBEG,   MONATEND,   Reserve,
+                                          SVBREGLF,    SVBREGE, SVBREGEBEG, SVBREGEEND, NETTOLFD,
+                                          NETTOEINMAL, AZWOECH, TTAUFENT,   BVUNFORT,   BVUNFORTU};
 }  // namespace DBNE
 inline constexpr RecordLayout kDBNE{"DBNE", 100, DBNE::kFields};
 
@@ -120,7 +123,9 @@ inline constexpr FieldLayout URLEGGEZ{"DBEN.URLEGGEZ", 106, 1, FieldKind::N};
 inline constexpr FieldLayout MIA{"DBEN.MIA", 107, 1, FieldKind::Code};
 inline constexpr FieldLayout MIABEG{"DBEN.MIABEG", 108, 8, FieldKind::Date};
 inline constexpr FieldLayout MIAEND{"DBEN.MIAEND", 116, 8, FieldKind::Date};
-inline constexpr FieldLayout kFields[] = {Kennung, MONATBEG, MONATEND, Reserve1, KENNZRK, Reserve2, SVBREGLF, SVBREGE, FIBR, Reserve3, TATSURLTAGE, URLEG, URLEGGEZ, MIA, MIABEG, MIAEND};
+inline constexpr FieldLayout kFields[] = {Kennung,  MONATBEG, MONATEND, Reserve1, KENNZRK,     Reserve2,
+                                          SVBREGLF, SVBREGE,  FIBR,     Reserve3, TATSURLTAGE, URLEG,
+                                          URLEGGEZ, MIA,      MIABEG,   MIAEND};
 }  // namespace DBEN
 inline constexpr RecordLayout kDBEN{"DBEN", 123, DBEN::kFields};
 
@@ -214,7 +219,12 @@ inline constexpr FieldLayout AVENVG = amount("DBKE.AVENVG", 161, 5, 2);
 inline constexpr FieldLayout ABFMONAT{"DBKE.ABFMONAT", 166, 1, FieldKind::Code};
 inline constexpr FieldLayout ABFGEZ{"DBKE.ABFGEZ", 167, 1, FieldKind::Code};
 inline constexpr FieldLayout BFHG{"DBKE.BFHG", 168, 8, FieldKind::Date};
-inline constexpr FieldLayout kFields[] = {Kennung, AVEND, BVEND, AVBFR, AVBFSCHR, AVBFURSP, AVBFABSCHL, VLBAV, AVBFABVL, AVBFRL, AVKUEAM, AVUWFWZ, AVUWFWZBEG, AVLETZTRL, AVKUEDU, AVKUESCH, AVKUEBETR, AVKUESCHUKL, AVKUEZUST, AVKUEAL, AVKUEALAM, AVAMDAT, AVKUEZVB, SAW, SAWPRSC, AGKUEAM, AGKUEZU, KF, KFZE, KFBZ, KA, KAU, KAUAUG, OKGL, OKGLFG, AVENLZ, AVENLZG, ABF, ABFHOE, BETZU, BVEGEN, BVEGENB, AVENUAG, BVENUR, AVENVL, AVENVGB, AVENVG, ABFMONAT, ABFGEZ, BFHG};
+inline constexpr FieldLayout kFields[] = {
+    Kennung,   AVEND,   BVEND,      AVBFR,     AVBFSCHR, AVBFURSP, AVBFABSCHL, VLBAV,       AVBFABVL,  AVBFRL,
+    AVKUEAM,   AVUWFWZ, AVUWFWZBEG, AVLETZTRL, AVKUEDU,  AVKUESCH, AVKUEBETR,  AVKUESCHUKL, AVKUEZUST, AVKUEAL,
+    AVKUEALAM, AVAMDAT, AVKUEZVB,   SAW,       SAWPRSC,  AGKUEAM,  AGKUEZU,    KF,          KFZE,      KFBZ,
+    KA,        KAU,     KAUAUG,     OKGL,      OKGLFG,   AVENLZ,   AVENLZG,    ABF,         ABFHOE,    BETZU,
+    BVEGEN,    BVEGENB, AVENUAG,    BVENUR,    AVENVL,   AVENVGB,  AVENVG,     ABFMONAT,    ABFGEZ,    BFHG};
 }  // namespace DBKE
 inline constexpr RecordLayout kDBKE{"DBKE", 175, DBKE::kFields};
 
@@ -246,7 +256,10 @@ inline constexpr FieldLayout AVVERZ{"DBKU.AVVERZ", 98, 1, FieldKind::N};
 inline constexpr FieldLayout KF{"DBKU.KF", 99, 3, FieldKind::N};
 inline constexpr FieldLayout KFZE{"DBKU.KFZE", 102, 1, FieldKind::N};
 inline constexpr FieldLayout KFBZ{"DBKU.KFBZ", 103, 1, FieldKind::N};
-inline constexpr FieldLayout kFields[] = {Kennung, AVEND, BVEND, AVBFR, AVBFURSPR, AVUWFWZ, AVUWFWZBEG, AVKUEAM, AVKUEDU, AVKUEBETR, AVKUESCHUKL, AVKUEAL, AVENLZ, AVENLZG, ABF, ABFHOE, BETZU, BVEGEN, BVEGENB, AVENUAG, URLTAGEAV, AVENUR, UAGHOE, AVVERZ, KF, KFZE, KFBZ};
+inline constexpr FieldLayout kFields[] = {Kennung, AVEND,   BVEND,     AVBFR,       AVBFURSPR, AVUWFWZ, AVUWFWZBEG,
+                                          AVKUEAM, AVKUEDU, AVKUEBETR, AVKUESCHUKL, AVKUEAL,   AVENLZ,  AVENLZG,
+                                          ABF,     ABFHOE,  BETZU,     BVEGEN,      BVEGENB,   AVENUAG, URLTAGEAV,
+                                          AVENUR,  UAGHOE,  AVVERZ,    KF,          KFZE,      KFBZ};
 }  // namespace DBKU
 inline constexpr RecordLayout kDBKU{"DBKU", 103, DBKU::kFields};
 
@@ -271,33 +284,42 @@ inline constexpr FieldLayout kFields[] = {Kennung, HEIMARBAUSG, HEIMARBABL};
 inline constexpr RecordLayout kDBHN{"DBHN", 20, DBHN::kFields};
 
 // Positions 1-162, the same in the three records.
-constexpr std::array<FieldLayout, 21> head(std::string_view id) {
-    return {{
-        lit("identifier", 1, id),
-        lit("version", 5, "03"),
-        {"procedure (ALG)", 7, 5, FieldKind::An},
-        {"DatensatzData.strBNRAb", 12, 15, FieldKind::Bnr},
-        {"created (ErstellDatum)", 27, 14, FieldKind::DateTime},
-        {"DatensatzData.strMicroseconds", 41, 6, FieldKind::N},
-        lit("error marker", 47, "0"),
-        lit("number of errors", 48, "0"),
-        {"Vorgang.Versicherungsnummer", 49, 12, FieldKind::Vsnr},
-        {"Vorgang.Arbeitgeber.Betriebsnummer", 61, 15, FieldKind::Bnr},
-        {"Vorgang.Aktenzeichen", 76, 20, FieldKind::An},
-        {"DatensatzData.strBNRSt", 96, 15, FieldKind::An},
-        {"DatensatzData.strVersion", 111, 10, FieldKind::An},
-        {"DatensatzNr", 121, 10, FieldKind::N},
-        {"reserve", 131, 12, FieldKind::An},
-        {"reserve", 143, 8, FieldKind::An},
-        {"Feld151", 151, 8, FieldKind::N},
-        always(kDBNA, 159),
-        always(kDBAN, 160),
-        always(kDBAG, 161),
-        flag(kDBAB, 162),
-    }};
-}
+struct CertificateHead {
+    std::string_view id;
+    FieldLayout Kennung = lit("identifier", 1, id);
+    FieldLayout Version = lit("version", 5, "03");
+    FieldLayout Verfahren{"procedure (ALG)", 7, 5, FieldKind::An, "ALG"};
+    FieldLayout strBNRAb{"DatensatzData.strBNRAb", 12, 15, FieldKind::Bnr};
+    FieldLayout Erstellt{"created (ErstellDatum)", 27, 14, FieldKind::DateTime};
+    FieldLayout strMicroseconds{"DatensatzData.strMicroseconds", 41, 6, FieldKind::N};
+    FieldLayout Fehlerkennzeichen = lit("error marker", 47, "0");
+    FieldLayout Fehleranzahl = lit("number of errors", 48, "0");
+    FieldLayout Versicherungsnummer{"Vorgang.Versicherungsnummer", 49, 12, FieldKind::Vsnr};
+    FieldLayout Betriebsnummer{"Vorgang.Arbeitgeber.Betriebsnummer", 61, 15, FieldKind::Bnr};
+    FieldLayout Aktenzeichen{"Vorgang.Aktenzeichen", 76, 20, FieldKind::An};
+    FieldLayout strBNRSt{"DatensatzData.strBNRSt", 96, 15, FieldKind::An};
+    FieldLayout strVersion{"DatensatzData.strVersion", 111, 10, FieldKind::An};
+    FieldLayout DatensatzNr{"DatensatzNr", 121, 10, FieldKind::N};
+    FieldLayout Reserve1{"reserve", 131, 12, FieldKind::An};
+    FieldLayout Reserve2{"reserve", 143, 8, FieldKind::An};
+    FieldLayout Feld151{"Feld151", 151, 8, FieldKind::N};
+    FieldLayout MitDBNA = always(kDBNA, 159);
+    FieldLayout MitDBAN = always(kDBAN, 160);
+    FieldLayout MitDBAG = always(kDBAG, 161);
+    FieldLayout MitDBAB = flag(kDBAB, 162);
+    constexpr std::array<FieldLayout, 21> fields() const {
+        return {Kennung,           Version,      Verfahren,
+                strBNRAb,          Erstellt,     strMicroseconds,
+                Fehlerkennzeichen, Fehleranzahl, Versicherungsnummer,
+                Betriebsnummer,    Aktenzeichen, strBNRSt,
+                strVersion,        DatensatzNr,  Reserve1,
+                Reserve2,          Feld151,      MitDBNA,
+                MitDBAN,           MitDBAG,      MitDBAB};
+    }
+};
 
 namespace DSAB {
+inline constexpr CertificateHead Head{"DSAB"};
 inline constexpr FieldLayout AnzahlDBSE = count(kDBSE, 163, 2);
 inline constexpr FieldLayout Reserve{"reserve", 165, 2, FieldKind::N};
 inline constexpr FieldLayout MitDBSA = always(kDBSA, 167);
@@ -307,12 +329,14 @@ inline constexpr FieldLayout AnzahlDBEN = count(kDBEN, 172, 2);
 inline constexpr FieldLayout AnzahlDBFZ = count(kDBFZ, 174, 2);
 inline constexpr FieldLayout MitDBHA = flag(kDBHA, 176);
 inline constexpr FieldLayout MitDBKE = always(kDBKE, 177);
-inline constexpr std::array kTail{AnzahlDBSE, Reserve, MitDBSA, AnzahlDBSB, AnzahlDBAZ, AnzahlDBEN, AnzahlDBFZ, MitDBHA, MitDBKE};
-inline constexpr auto kFields = layout::joined(head("DSAB"), kTail);
+inline constexpr std::array kTail{AnzahlDBSE, Reserve,    MitDBSA, AnzahlDBSB, AnzahlDBAZ,
+                                  AnzahlDBEN, AnzahlDBFZ, MitDBHA, MitDBKE};
+inline constexpr auto kFields = layout::joined(Head.fields(), kTail);
 }  // namespace DSAB
 inline constexpr RecordLayout kDSAB{"DSAB", 177, DSAB::kFields};
 
 namespace DSEU {
+inline constexpr CertificateHead Head{"DSEU"};
 inline constexpr FieldLayout AnzahlDBSE = count(kDBSE, 163, 2);
 inline constexpr FieldLayout Reserve{"reserve", 165, 2, FieldKind::N};
 inline constexpr FieldLayout MitDBSA = always(kDBSA, 167);
@@ -321,19 +345,21 @@ inline constexpr FieldLayout AnzahlDBEZ = count(kDBEZ, 170, 2);
 inline constexpr FieldLayout AnzahlDBEE = count(kDBEE, 172, 2);
 inline constexpr FieldLayout AnzahlDBFZ = count(kDBFZ, 174, 2);
 inline constexpr FieldLayout MitDBKU = always(kDBKU, 176);
-inline constexpr std::array kTail{AnzahlDBSE, Reserve, MitDBSA, AnzahlDBSB, AnzahlDBEZ, AnzahlDBEE, AnzahlDBFZ, MitDBKU};
-inline constexpr auto kFields = layout::joined(head("DSEU"), kTail);
+inline constexpr std::array kTail{AnzahlDBSE, Reserve,    MitDBSA,    AnzahlDBSB,
+                                  AnzahlDBEZ, AnzahlDBEE, AnzahlDBFZ, MitDBKU};
+inline constexpr auto kFields = layout::joined(Head.fields(), kTail);
 }  // namespace DSEU
 inline constexpr RecordLayout kDSEU{"DSEU", 176, DSEU::kFields};
 
 namespace DSNE {
+inline constexpr CertificateHead Head{"DSNE"};
 inline constexpr FieldLayout MitDBNE = always(kDBNE, 163);
 inline constexpr FieldLayout Reserve{"reserve", 164, 2, FieldKind::N};
 inline constexpr FieldLayout MitDBSA = always(kDBSA, 166);
 inline constexpr FieldLayout MitDBNB = always(kDBNB, 167);
 inline constexpr FieldLayout MitDBHN = flag(kDBHN, 168);
 inline constexpr std::array kTail{MitDBNE, Reserve, MitDBSA, MitDBNB, MitDBHN};
-inline constexpr auto kFields = layout::joined(head("DSNE"), kTail);
+inline constexpr auto kFields = layout::joined(Head.fields(), kTail);
 }  // namespace DSNE
 inline constexpr RecordLayout kDSNE{"DSNE", 168, DSNE::kFields};
 

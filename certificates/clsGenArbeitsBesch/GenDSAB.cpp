@@ -1,5 +1,6 @@
 // The records DSAB, DSEU and DSNE (common head, then each tail as its
 // layout table) and GenData, which appends the announced blocks in order.
+#include "certificates/clsGenArbeitsBesch/DSAB_layout.h"
 #include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
 #include "core/date_fields.h"
 #include "core/int16.h"
@@ -9,15 +10,20 @@ namespace tamrel {
 namespace {
 
 using enum ArbeitsBeschBlock;
+namespace L = layouts::bea;
 
 // Positions 1-161, the same in the three records; DBNA, DBAN and DBAG always follow.
-void head(Writer& w, ArbeitsBeschPlan& plan, std::string_view name, const ArbeitsBesch& a, const DatensatzData& dd,
-          const Date& date) {
+void head(Writer& w, ArbeitsBeschPlan& plan, const L::CertificateHead& h, const ArbeitsBesch& a,
+          const DatensatzData& dd, const Date& date) {
     const Vorgang& v = a.Vorgang;
-    w.an(name, 4).n("03", 2).an("ALG", 5).an(dd.strBNRAb, 15).stamp(a.ErstellDatum, 1, date, 14);
-    w.n(dd.strMicroseconds, 6).n("0", 1).n("0", 1).an(v.Versicherungsnummer, 12).an(v.Arbeitgeber.Betriebsnummer, 15);
-    w.an(v.Aktenzeichen, 20).an(dd.strBNRSt, 15).an(dd.strVersion, 10).n(a.DatensatzNr, 10).blank(12).blank(8);
-    w.n(a.Feld151, 8).announce(plan, DBNA, true).announce(plan, DBAN, true).announce(plan, DBAG, true);
+    w.put(h.Kennung).put(h.Version).put(h.Verfahren).put(h.strBNRAb, dd.strBNRAb);
+    w.stamp(h.Erstellt, a.ErstellDatum, 1, date).put(h.strMicroseconds, dd.strMicroseconds);
+    w.put(h.Fehlerkennzeichen).put(h.Fehleranzahl).put(h.Versicherungsnummer, v.Versicherungsnummer);
+    w.put(h.Betriebsnummer, v.Arbeitgeber.Betriebsnummer).put(h.Aktenzeichen, v.Aktenzeichen);
+    w.put(h.strBNRSt, dd.strBNRSt).put(h.strVersion, dd.strVersion).put(h.DatensatzNr, a.DatensatzNr);
+    w.put(h.Reserve1).put(h.Reserve2).put(h.Feld151, a.Feld151);
+    w.announce(h.MitDBNA, plan, DBNA, true).announce(h.MitDBAN, plan, DBAN, true);
+    w.announce(h.MitDBAG, plan, DBAG, true).announce(h.MitDBAB, plan, DBAB, bea::GenDBAB(plan.dbab, a));
 }
 
 // A group's blocks for index 1 to its count (16-bit counter, count read once).
@@ -33,12 +39,13 @@ ArbeitsBeschPlan clsGenArbeitsBesch::GenDSAB(std::string& out, const ArbeitsBesc
     return routine("clsGenArbeitsBesch.GenDSAB", [&](int& line) {
         ArbeitsBeschPlan plan;
         Writer w(out, line);
-        head(w, plan, "DSAB", a, dd, date);
-        w.announce(plan, DBAB, bea::GenDBAB(plan.dbab, a));
-        w.n(a.AnzahlDBSE, 2).zeros(2).announce(plan, DBSA, true).n(a.AnzahlDBSB, 2).n(a.AnzahlDBAZ, 2);
-        w.n(a.AnzahlDBEN, 2).n(a.AnzahlDBFZ, 2);
-        w.announce(plan, DBHA, bea::GenDBHA(plan.dbha, a)).announce(plan, DBKE, true);
-        w.check(177, "DSAB");
+        using namespace L::DSAB;
+        head(w, plan, Head, a, dd, date);
+        w.put(AnzahlDBSE, a.AnzahlDBSE).put(Reserve).announce(MitDBSA, plan, DBSA, true);
+        w.put(AnzahlDBSB, a.AnzahlDBSB).put(AnzahlDBAZ, a.AnzahlDBAZ);
+        w.put(AnzahlDBEN, a.AnzahlDBEN).put(AnzahlDBFZ, a.AnzahlDBFZ);
+        w.announce(MitDBHA, plan, DBHA, bea::GenDBHA(plan.dbha, a)).announce(MitDBKE, plan, DBKE, true);
+        w.check(L::kDSAB);
         return plan;
     });
 }
@@ -48,11 +55,12 @@ ArbeitsBeschPlan clsGenArbeitsBesch::GenDSEU(std::string& out, const ArbeitsBesc
     return routine("clsGenArbeitsBesch.GenDSEU", [&](int& line) {
         ArbeitsBeschPlan plan;
         Writer w(out, line);
-        head(w, plan, "DSEU", a, dd, date);
-        w.announce(plan, DBAB, bea::GenDBAB(plan.dbab, a));
-        w.n(a.AnzahlDBSE, 2).zeros(2).announce(plan, DBSA, true).n(a.AnzahlDBSB, 2).n(a.AnzahlDBEZ, 2);
-        w.n(a.AnzahlDBEE, 2).n(a.AnzahlDBFZ, 2).announce(plan, DBKU, true);
-        w.check(176, "DSEU");
+        using namespace L::DSEU;
+        head(w, plan, Head, a, dd, date);
+        w.put(AnzahlDBSE, a.AnzahlDBSE).put(Reserve).announce(MitDBSA, plan, DBSA, true);
+        w.put(AnzahlDBSB, a.AnzahlDBSB).put(AnzahlDBEZ, a.AnzahlDBEZ);
+        w.put(AnzahlDBEE, a.AnzahlDBEE).put(AnzahlDBFZ, a.AnzahlDBFZ).announce(MitDBKU, plan, DBKU, true);
+        w.check(L::kDSEU);
         return plan;
     });
 }
@@ -62,11 +70,11 @@ ArbeitsBeschPlan clsGenArbeitsBesch::GenDSNE(std::string& out, const ArbeitsBesc
     return routine("clsGenArbeitsBesch.GenDSNE", [&](int& line) {
         ArbeitsBeschPlan plan;
         Writer w(out, line);
-        head(w, plan, "DSNE", a, dd, date);
-        w.announce(plan, DBAB, bea::GenDBAB(plan.dbab, a));
-        w.announce(plan, DBNE, true).zeros(2).announce(plan, DBSA, true).announce(plan, DBNB, true);
-        w.announce(plan, DBHN, bea::GenDBHN(plan.dbhn, a));
-        w.check(168, "DSNE");
+        using namespace L::DSNE;
+        head(w, plan, Head, a, dd, date);
+        w.announce(MitDBNE, plan, DBNE, true).put(Reserve).announce(MitDBSA, plan, DBSA, true);
+        w.announce(MitDBNB, plan, DBNB, true).announce(MitDBHN, plan, DBHN, bea::GenDBHN(plan.dbhn, a));
+        w.check(L::kDSNE);
         return plan;
     });
 }

@@ -1,11 +1,15 @@
 // The employment certificate's blocks, each as its published layout table
 // (an = text, n = digits, pb = amounts and decimal numbers, dates as n 8).
+#include "certificates/clsGenArbeitsBesch/DSAB_layout.h"
 #include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
 #include "core/routine.h"
 #include "core/shared_blocks.h"
 #include "core/writer.h"
 
 namespace tamrel::bea {
+
+namespace L = layouts::bea;
+
 // The class's own name and address blocks: the shared layouts, with the
 // change marker of the object and the country code written as given.
 bool GenDBNA(std::string& out, const ArbeitsBesch& a) {
@@ -22,115 +26,236 @@ bool GenDBAN(std::string& out, const ArbeitsBesch& a) {
 bool GenDBAG(std::string& out, const ArbeitsBesch& a) {
     const Arbeitgeber& ag = a.Vorgang.Arbeitgeber;
     const auto& b = a.DBAG;
-    return write_block(out, "clsGenArbeitsBesch.GenDBAG", 533, "DBAG", [&](Writer& w) {
-        w.an(ag.Name1, 30).an(ag.Name2, 30).an(ag.Name3, 30).an(ag.Land, 3).an(ag.PLZ, 10).an(ag.Ort, 34);
-        w.an(ag.Strasse, 33).an(ag.Hausnummer, 9).an(ag.Adresszusatz, 40).an(b.AGAPE, 60).an(b.AGAPP, 60);
-        w.an(b.AGTELE, 25).an(b.AGTELP, 25).an(b.AGEMAILE, 70).an(b.AGEMAILP, 70);
+    return write_block(out, "clsGenArbeitsBesch.GenDBAG", L::kDBAG, [&](Writer& w) {
+        w.put(L::DBAG::Name1, ag.Name1)
+            .put(L::DBAG::Name2, ag.Name2)
+            .put(L::DBAG::Name3, ag.Name3)
+            .put(L::DBAG::Land, ag.Land)
+            .put(L::DBAG::PLZ, ag.PLZ)
+            .put(L::DBAG::Ort, ag.Ort);
+        w.put(L::DBAG::Strasse, ag.Strasse)
+            .put(L::DBAG::Hausnummer, ag.Hausnummer)
+            .put(L::DBAG::Adresszusatz, ag.Adresszusatz)
+            .put(L::DBAG::AGAPE, b.AGAPE)
+            .put(L::DBAG::AGAPP, b.AGAPP);
+        w.put(L::DBAG::AGTELE, b.AGTELE)
+            .put(L::DBAG::AGTELP, b.AGTELP)
+            .put(L::DBAG::AGEMAILE, b.AGEMAILE)
+            .put(L::DBAG::AGEMAILP, b.AGEMAILP);
     });
 }
 
 bool GenDBAB(std::string& out, const ArbeitsBesch& a) {
     const auto& b = a.DBAB;
-    return write_block(out, "clsGenArbeitsBesch.GenDBAB", 51, "DBAB",
-                       [&](Writer& w) { w.an(b.BORTLDKZ, 3).an(b.BPLZ, 10).an(b.BORT, 34); });
+    return write_block(out, "clsGenArbeitsBesch.GenDBAB", L::kDBAB, [&](Writer& w) {
+        w.put(L::DBAB::BORTLDKZ, b.BORTLDKZ).put(L::DBAB::BPLZ, b.BPLZ).put(L::DBAB::BORT, b.BORT);
+    });
 }
 
 bool GenDBSE(std::string& out, const DBSE& i) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBSE", 20, "DBSE",
-                       [&](Writer& w) { w.n(i.STKL, 1).pb(i.FKT, 1, 3).pb(i.KINDFRB, 2, 1).n(i.AESTEDATBEG, 8); });
+    return write_block(out, "clsGenArbeitsBesch.GenDBSE", L::kDBSE, [&](Writer& w) {
+        w.put(L::DBSE::STKL, i.STKL)
+            .put(L::DBSE::FKT, i.FKT)
+            .put(L::DBSE::KINDFRB, i.KINDFRB)
+            .put(L::DBSE::AESTEDATBEG, i.AESTEDATBEG);
+    });
 }
 
 bool GenDBNE(std::string& out, const ArbeitsBesch& a) {
     const auto& b = a.DBNE;
-    return write_block(out, "clsGenArbeitsBesch.GenDBNE", 100, "DBNE", [&](Writer& w) {
-        w.n(b.AVEND, 8).n(b.MONATBEG, 8).n(b.MONATEND, 8).blank(9).pb(b.SVBREGLF, 8, 2).pb(b.SVBREGE, 8, 2);
-        w.n(b.SVBREGEBEG, 8).n(b.SVBREGEEND, 8).pb(b.NETTOLFD, 8, 2).pb(b.NETTOEINMAL, 8, 2).pb(b.AZWOECH, 2, 2);
-        w.n(b.TTAUFENT, 1).an(b.BVUNFORT, 1).an(b.BVUNFORTU, 1);
+    return write_block(out, "clsGenArbeitsBesch.GenDBNE", L::kDBNE, [&](Writer& w) {
+        w.put(L::DBNE::AVEND, b.AVEND)
+            .put(L::DBNE::MONATBEG, b.MONATBEG)
+            .put(L::DBNE::MONATEND, b.MONATEND)
+            .put(L::DBNE::Reserve)
+            .put(L::DBNE::SVBREGLF, b.SVBREGLF)
+            .put(L::DBNE::SVBREGE, b.SVBREGE);
+        w.put(L::DBNE::SVBREGEBEG, b.SVBREGEBEG)
+            .put(L::DBNE::SVBREGEEND, b.SVBREGEEND)
+            .put(L::DBNE::NETTOLFD, b.NETTOLFD)
+            .put(L::DBNE::NETTOEINMAL, b.NETTOEINMAL)
+            .put(L::DBNE::AZWOECH, b.AZWOECH);
+        w.put(L::DBNE::TTAUFENT, b.TTAUFENT).put(L::DBNE::BVUNFORT, b.BVUNFORT).put(L::DBNE::BVUNFORTU, b.BVUNFORTU);
     });
 }
 
 bool GenDBSA(std::string& out, const ArbeitsBesch& a) {
     const auto& b = a.DBSA;
-    return write_block(out, "clsGenArbeitsBesch.GenDBSA", 29, "DBSA", [&](Writer& w) {
-        w.n(b.BYGRA, 4).n(b.PERSGRA, 3).an(b.KNAPPRV, 1).n(b.KNAPPRVBEG, 8).an(b.TTSC, 9);
+    return write_block(out, "clsGenArbeitsBesch.GenDBSA", L::kDBSA, [&](Writer& w) {
+        w.put(L::DBSA::BYGRA, b.BYGRA)
+            .put(L::DBSA::PERSGRA, b.PERSGRA)
+            .put(L::DBSA::KNAPPRV, b.KNAPPRV)
+            .put(L::DBSA::KNAPPRVBEG, b.KNAPPRVBEG)
+            .put(L::DBSA::TTSC, b.TTSC);
     });
 }
 
 bool GenDBSB(std::string& out, const DBSB& i) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBSB", 19, "DBSB",
-                       [&](Writer& w) { w.n(i.PERSBYGRBEG, 8).n(i.BYGRB, 4).n(i.PERSGRB, 3); });
+    return write_block(out, "clsGenArbeitsBesch.GenDBSB", L::kDBSB, [&](Writer& w) {
+        w.put(L::DBSB::PERSBYGRBEG, i.PERSBYGRBEG).put(L::DBSB::BYGRB, i.BYGRB).put(L::DBSB::PERSGRB, i.PERSGRB);
+    });
 }
 
 bool GenDBAZ(std::string& out, const DBAZ& i) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBAZ", 22, "DBAZ",
-                       [&](Writer& w) { w.pb(i.AZWOECH, 2, 2).pb(i.AZVG, 2, 2).n(i.AZAEGR, 2).n(i.AZAEBEG, 8); });
+    return write_block(out, "clsGenArbeitsBesch.GenDBAZ", L::kDBAZ, [&](Writer& w) {
+        w.put(L::DBAZ::AZWOECH, i.AZWOECH)
+            .put(L::DBAZ::AZVG, i.AZVG)
+            .put(L::DBAZ::AZAEGR, i.AZAEGR)
+            .put(L::DBAZ::AZAEBEG, i.AZAEBEG);
+    });
 }
 
 bool GenDBEN(std::string& out, const DBEN& i) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBEN", 123, "DBEN", [&](Writer& w) {
-        w.n(i.MONATBEG, 8).n(i.MONATEND, 8).blank(9).an(i.KENNZRK, 1).blank(20).pb(i.SVBREGLF, 8, 2);
-        w.pb(i.SVBREGE, 8, 2).pb(i.FIBR, 8, 2).blank(12).n(i.TATSURLTAGE, 3).pb(i.URLEG, 8, 2).n(i.URLEGGEZ, 1);
-        w.an(i.MIA, 1).n(i.MIABEG, 8).n(i.MIAEND, 8);
+    return write_block(out, "clsGenArbeitsBesch.GenDBEN", L::kDBEN, [&](Writer& w) {
+        w.put(L::DBEN::MONATBEG, i.MONATBEG)
+            .put(L::DBEN::MONATEND, i.MONATEND)
+            .put(L::DBEN::Reserve1)
+            .put(L::DBEN::KENNZRK, i.KENNZRK)
+            .put(L::DBEN::Reserve2)
+            .put(L::DBEN::SVBREGLF, i.SVBREGLF);
+        w.put(L::DBEN::SVBREGE, i.SVBREGE)
+            .put(L::DBEN::FIBR, i.FIBR)
+            .put(L::DBEN::Reserve3)
+            .put(L::DBEN::TATSURLTAGE, i.TATSURLTAGE)
+            .put(L::DBEN::URLEG, i.URLEG)
+            .put(L::DBEN::URLEGGEZ, i.URLEGGEZ);
+        w.put(L::DBEN::MIA, i.MIA).put(L::DBEN::MIABEG, i.MIABEG).put(L::DBEN::MIAEND, i.MIAEND);
     });
 }
 
 bool GenDBEZ(std::string& out, const DBEZ& i) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBEZ", 25, "DBEZ", [&](Writer& w) {
-        w.pb(i.AZWOECH, 2, 2).n(i.AZAEGR, 2).n(i.AZAEBEG, 8).pb(i.AZDUWOECH, 2, 2).pb(i.ATDUWOE, 1, 2);
+    return write_block(out, "clsGenArbeitsBesch.GenDBEZ", L::kDBEZ, [&](Writer& w) {
+        w.put(L::DBEZ::AZWOECH, i.AZWOECH)
+            .put(L::DBEZ::AZAEGR, i.AZAEGR)
+            .put(L::DBEZ::AZAEBEG, i.AZAEBEG)
+            .put(L::DBEZ::AZDUWOECH, i.AZDUWOECH)
+            .put(L::DBEZ::ATDUWOE, i.ATDUWOE);
     });
 }
 
 bool GenDBEE(std::string& out, const DBEE& i) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBEE", 71, "DBEE", [&](Writer& w) {
-        w.n(i.MONATBEGEU, 8).n(i.MONATENDEU, 8).blank(9).pb(i.STBREGLFEU, 8, 2).pb(i.STBREGSOEU, 8, 2).blank(22);
+    return write_block(out, "clsGenArbeitsBesch.GenDBEE", L::kDBEE, [&](Writer& w) {
+        w.put(L::DBEE::MONATBEGEU, i.MONATBEGEU)
+            .put(L::DBEE::MONATENDEU, i.MONATENDEU)
+            .put(L::DBEE::Reserve1)
+            .put(L::DBEE::STBREGLFEU, i.STBREGLFEU)
+            .put(L::DBEE::STBREGSOEU, i.STBREGSOEU)
+            .put(L::DBEE::Reserve2);
     });
 }
 
 bool GenDBFZ(std::string& out, const DBFZ& i) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBFZ", 22, "DBFZ",
-                       [&](Writer& w) { w.n(i.FEHLBEG, 8).n(i.FEHLART, 2).n(i.FEHLEND, 8); });
+    return write_block(out, "clsGenArbeitsBesch.GenDBFZ", L::kDBFZ, [&](Writer& w) {
+        w.put(L::DBFZ::FEHLBEG, i.FEHLBEG).put(L::DBFZ::FEHLART, i.FEHLART).put(L::DBFZ::FEHLEND, i.FEHLEND);
+    });
 }
 
 bool GenDBHA(std::string& out, const ArbeitsBesch& a) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBHA", 7, "DBHA", [&](Writer& w) { w.n(a.DBHA.URLTAGE, 3); });
+    return write_block(out, "clsGenArbeitsBesch.GenDBHA", L::kDBHA,
+                       [&](Writer& w) { w.put(L::DBHA::URLTAGE, a.DBHA.URLTAGE); });
 }
 
 bool GenDBKE(std::string& out, const ArbeitsBesch& a) {
     const auto& b = a.DBKE;
-    return write_block(out, "clsGenArbeitsBesch.GenDBKE", 175, "DBKE", [&](Writer& w) {
-        w.n(b.AVEND, 8).n(b.BVEND, 8).an(b.AVBFR, 1).an(b.AVBFSCHR, 1).n(b.AVBFURSP, 8).n(b.AVBFABSCHL, 8);
-        w.an(b.VLBAV, 1).n(b.AVBFABVL, 8).an(b.AVBFRL, 1).n(b.AVKUEAM, 8).an(b.AVUWFWZ, 1).n(b.AVUWFWZBEG, 8);
-        w.n(b.AVLETZTRL, 6).n(b.AVKUEDU, 1).an(b.AVKUESCH, 1).an(b.AVKUEBETR, 1).an(b.AVKUESCHUKL, 1);
-        w.n(b.AVKUEZUST, 1).an(b.AVKUEAL, 1).an(b.AVKUEALAM, 1).n(b.AVAMDAT, 8).an(b.AVKUEZVB, 1).an(b.SAW, 1);
-        w.an(b.SAWPRSC, 3).n(b.AGKUEAM, 8).n(b.AGKUEZU, 8).n(b.KF, 3).n(b.KFZE, 1).n(b.KFBZ, 1).an(b.KA, 1);
-        w.an(b.KAU, 1).an(b.KAUAUG, 1).an(b.OKGL, 1).an(b.OKGLFG, 1).an(b.AVENLZ, 1).n(b.AVENLZG, 2).an(b.ABF, 1);
-        w.pb(b.ABFHOE, 8, 2).n(b.BETZU, 2).an(b.BVEGEN, 1).n(b.BVEGENB, 8).an(b.AVENUAG, 1).n(b.BVENUR, 8);
-        w.an(b.AVENVL, 1).n(b.AVENVGB, 8).pb(b.AVENVG, 3, 2).an(b.ABFMONAT, 1).an(b.ABFGEZ, 1).n(b.BFHG, 8);
+    return write_block(out, "clsGenArbeitsBesch.GenDBKE", L::kDBKE, [&](Writer& w) {
+        w.put(L::DBKE::AVEND, b.AVEND)
+            .put(L::DBKE::BVEND, b.BVEND)
+            .put(L::DBKE::AVBFR, b.AVBFR)
+            .put(L::DBKE::AVBFSCHR, b.AVBFSCHR)
+            .put(L::DBKE::AVBFURSP, b.AVBFURSP)
+            .put(L::DBKE::AVBFABSCHL, b.AVBFABSCHL);
+        w.put(L::DBKE::VLBAV, b.VLBAV)
+            .put(L::DBKE::AVBFABVL, b.AVBFABVL)
+            .put(L::DBKE::AVBFRL, b.AVBFRL)
+            .put(L::DBKE::AVKUEAM, b.AVKUEAM)
+            .put(L::DBKE::AVUWFWZ, b.AVUWFWZ)
+            .put(L::DBKE::AVUWFWZBEG, b.AVUWFWZBEG);
+        w.put(L::DBKE::AVLETZTRL, b.AVLETZTRL)
+            .put(L::DBKE::AVKUEDU, b.AVKUEDU)
+            .put(L::DBKE::AVKUESCH, b.AVKUESCH)
+            .put(L::DBKE::AVKUEBETR, b.AVKUEBETR)
+            .put(L::DBKE::AVKUESCHUKL, b.AVKUESCHUKL);
+        w.put(L::DBKE::AVKUEZUST, b.AVKUEZUST)
+            .put(L::DBKE::AVKUEAL, b.AVKUEAL)
+            .put(L::DBKE::AVKUEALAM, b.AVKUEALAM)
+            .put(L::DBKE::AVAMDAT, b.AVAMDAT)
+            .put(L::DBKE::AVKUEZVB, b.AVKUEZVB)
+            .put(L::DBKE::SAW, b.SAW);
+        w.put(L::DBKE::SAWPRSC, b.SAWPRSC)
+            .put(L::DBKE::AGKUEAM, b.AGKUEAM)
+            .put(L::DBKE::AGKUEZU, b.AGKUEZU)
+            .put(L::DBKE::KF, b.KF)
+            .put(L::DBKE::KFZE, b.KFZE)
+            .put(L::DBKE::KFBZ, b.KFBZ)
+            .put(L::DBKE::KA, b.KA);
+        w.put(L::DBKE::KAU, b.KAU)
+            .put(L::DBKE::KAUAUG, b.KAUAUG)
+            .put(L::DBKE::OKGL, b.OKGL)
+            .put(L::DBKE::OKGLFG, b.OKGLFG)
+            .put(L::DBKE::AVENLZ, b.AVENLZ)
+            .put(L::DBKE::AVENLZG, b.AVENLZG)
+            .put(L::DBKE::ABF, b.ABF);
+        w.put(L::DBKE::ABFHOE, b.ABFHOE)
+            .put(L::DBKE::BETZU, b.BETZU)
+            .put(L::DBKE::BVEGEN, b.BVEGEN)
+            .put(L::DBKE::BVEGENB, b.BVEGENB)
+            .put(L::DBKE::AVENUAG, b.AVENUAG)
+            .put(L::DBKE::BVENUR, b.BVENUR);
+        w.put(L::DBKE::AVENVL, b.AVENVL)
+            .put(L::DBKE::AVENVGB, b.AVENVGB)
+            .put(L::DBKE::AVENVG, b.AVENVG)
+            .put(L::DBKE::ABFMONAT, b.ABFMONAT)
+            .put(L::DBKE::ABFGEZ, b.ABFGEZ)
+            .put(L::DBKE::BFHG, b.BFHG);
     });
 }
 
 bool GenDBKU(std::string& out, const ArbeitsBesch& a) {
     const auto& b = a.DBKU;
-    return write_block(out, "clsGenArbeitsBesch.GenDBKU", 103, "DBKU", [&](Writer& w) {
-        w.n(b.AVEND, 8).n(b.BVEND, 8).an(b.AVBFR, 1).n(b.AVBFURSPR, 8).an(b.AVUWFWZ, 1).n(b.AVUWFWZBEG, 8);
-        w.n(b.AVKUEAM, 8).n(b.AVKUEDU, 1).an(b.AVKUEBETR, 1).an(b.AVKUESCHUKL, 1).an(b.AVKUEAL, 1);
-        w.an(b.AVENLZ, 1).n(b.AVENLZG, 2).an(b.ABF, 1).pb(b.ABFHOE, 8, 2).n(b.BETZU, 2).an(b.BVEGEN, 1);
-        w.n(b.BVEGENB, 8).an(b.AVENUAG, 1).n(b.URLTAGEAV, 3).n(b.AVENUR, 8).pb(b.UAGHOE, 8, 2).n(b.AVVERZ, 1);
-        w.n(b.KF, 3).n(b.KFZE, 1).n(b.KFBZ, 1);
+    return write_block(out, "clsGenArbeitsBesch.GenDBKU", L::kDBKU, [&](Writer& w) {
+        w.put(L::DBKU::AVEND, b.AVEND)
+            .put(L::DBKU::BVEND, b.BVEND)
+            .put(L::DBKU::AVBFR, b.AVBFR)
+            .put(L::DBKU::AVBFURSPR, b.AVBFURSPR)
+            .put(L::DBKU::AVUWFWZ, b.AVUWFWZ)
+            .put(L::DBKU::AVUWFWZBEG, b.AVUWFWZBEG);
+        w.put(L::DBKU::AVKUEAM, b.AVKUEAM)
+            .put(L::DBKU::AVKUEDU, b.AVKUEDU)
+            .put(L::DBKU::AVKUEBETR, b.AVKUEBETR)
+            .put(L::DBKU::AVKUESCHUKL, b.AVKUESCHUKL)
+            .put(L::DBKU::AVKUEAL, b.AVKUEAL);
+        w.put(L::DBKU::AVENLZ, b.AVENLZ)
+            .put(L::DBKU::AVENLZG, b.AVENLZG)
+            .put(L::DBKU::ABF, b.ABF)
+            .put(L::DBKU::ABFHOE, b.ABFHOE)
+            .put(L::DBKU::BETZU, b.BETZU)
+            .put(L::DBKU::BVEGEN, b.BVEGEN);
+        w.put(L::DBKU::BVEGENB, b.BVEGENB)
+            .put(L::DBKU::AVENUAG, b.AVENUAG)
+            .put(L::DBKU::URLTAGEAV, b.URLTAGEAV)
+            .put(L::DBKU::AVENUR, b.AVENUR)
+            .put(L::DBKU::UAGHOE, b.UAGHOE)
+            .put(L::DBKU::AVVERZ, b.AVVERZ);
+        w.put(L::DBKU::KF, b.KF).put(L::DBKU::KFZE, b.KFZE).put(L::DBKU::KFBZ, b.KFBZ);
     });
 }
 
 bool GenDBNB(std::string& out, const ArbeitsBesch& a) {
     const auto& b = a.DBNB;
-    return write_block(out, "clsGenArbeitsBesch.GenDBNB", 28, "DBNB", [&](Writer& w) {
-        w.pb(b.STU1KW, 2, 2).pb(b.STU2KW, 2, 2).pb(b.STU3KW, 2, 2).pb(b.STU4KW, 2, 2).pb(b.STU5KW, 2, 2);
-        w.pb(b.STU6KW, 2, 2);
+    return write_block(out, "clsGenArbeitsBesch.GenDBNB", L::kDBNB, [&](Writer& w) {
+        w.put(L::DBNB::STU1KW, b.STU1KW)
+            .put(L::DBNB::STU2KW, b.STU2KW)
+            .put(L::DBNB::STU3KW, b.STU3KW)
+            .put(L::DBNB::STU4KW, b.STU4KW)
+            .put(L::DBNB::STU5KW, b.STU5KW);
+        w.put(L::DBNB::STU6KW, b.STU6KW);
     });
 }
 
 bool GenDBHN(std::string& out, const ArbeitsBesch& a) {
-    return write_block(out, "clsGenArbeitsBesch.GenDBHN", 20, "DBHN",
-                       [&](Writer& w) { w.n(a.DBHN.HEIMARBAUSG, 8).n(a.DBHN.HEIMARBABL, 8); });
+    return write_block(out, "clsGenArbeitsBesch.GenDBHN", L::kDBHN, [&](Writer& w) {
+        w.put(L::DBHN::HEIMARBAUSG, a.DBHN.HEIMARBAUSG).put(L::DBHN::HEIMARBABL, a.DBHN.HEIMARBABL);
+    });
 }
 
 }  // namespace tamrel::bea
