@@ -27,7 +27,9 @@ inline constexpr FieldLayout LAGBEGINN1{"DBAL.LAGBEGINN1", 59, 8, FieldKind::Dat
 inline constexpr FieldLayout LAGENDE1{"DBAL.LAGENDE1", 67, 8, FieldKind::Date};
 inline constexpr FieldLayout LAGBEGINN2{"DBAL.LAGBEGINN2", 75, 8, FieldKind::Date};
 inline constexpr FieldLayout LAGENDE2{"DBAL.LAGENDE2", 83, 8, FieldKind::Date};
-inline constexpr FieldLayout kFields[] = {Kennung, DATUMAB, AEERSTTAG, DATUMEZGBIS, ENDEBVAM, ENDEBVZUM, GRUNDBEEND, PFLZUSCHLAG, ARBZEITMOD, MMKUG, KUGBEGINN, KUGENDE, LAGBEGINN1, LAGENDE1, LAGBEGINN2, LAGENDE2};
+inline constexpr FieldLayout kFields[] = {Kennung,    DATUMAB,     AEERSTTAG,  DATUMEZGBIS, ENDEBVAM,  ENDEBVZUM,
+                                          GRUNDBEEND, PFLZUSCHLAG, ARBZEITMOD, MMKUG,       KUGBEGINN, KUGENDE,
+                                          LAGBEGINN1, LAGENDE1,    LAGBEGINN2, LAGENDE2};
 }  // namespace DBAL
 inline constexpr RecordLayout kDBAL{"DBAL", 90, DBAL::kFields};
 
@@ -54,7 +56,10 @@ inline constexpr FieldLayout NETTO3 = amount("DBAE.NETTO3", 134, 8, 2);
 inline constexpr FieldLayout EZKV = amount("DBAE.EZKV", 142, 8, 2);
 inline constexpr FieldLayout EZRV = amount("DBAE.EZRV", 150, 8, 2);
 inline constexpr FieldLayout EZALV = amount("DBAE.EZALV", 158, 8, 2);
-inline constexpr FieldLayout kFields[] = {Kennung, WAEHREELBRUTTO, DATUMAEBIS, EAZBEGINN1, EAZENDE1, BRUTTO1, NETTO1, UMGEWAE, ENTGART, BRUTTOAE, NETTOAE, EAZBEGINN2, EAZENDE2, BRUTTO2, NETTO2, EAZBEGINN3, EAZENDE3, BRUTTO3, NETTO3, EZKV, EZRV, EZALV};
+inline constexpr FieldLayout kFields[] = {Kennung,  WAEHREELBRUTTO, DATUMAEBIS, EAZBEGINN1, EAZENDE1, BRUTTO1,
+                                          NETTO1,   UMGEWAE,        ENTGART,    BRUTTOAE,   NETTOAE,  EAZBEGINN2,
+                                          EAZENDE2, BRUTTO2,        NETTO2,     EAZBEGINN3, EAZENDE3, BRUTTO3,
+                                          NETTO3,   EZKV,           EZRV,       EZALV};
 }  // namespace DBAE
 inline constexpr RecordLayout kDBAE{"DBAE", 165, DBAE::kFields};
 
@@ -69,7 +74,8 @@ inline constexpr FieldLayout MAZR2 = amount("DBZA.MAZR2", 35, 5, 2);
 inline constexpr FieldLayout AZBEGINN3{"DBZA.AZBEGINN3", 40, 8, FieldKind::Date};
 inline constexpr FieldLayout AZENDE3{"DBZA.AZENDE3", 48, 8, FieldKind::Date};
 inline constexpr FieldLayout MAZR3 = amount("DBZA.MAZR3", 56, 5, 2);
-inline constexpr FieldLayout kFields[] = {Kennung, ANZAHLSTD, REGAZ, MAZR1, AZBEGINN2, AZENDE2, MAZR2, AZBEGINN3, AZENDE3, MAZR3};
+inline constexpr FieldLayout kFields[] = {Kennung, ANZAHLSTD, REGAZ,     MAZR1,   AZBEGINN2,
+                                          AZENDE2, MAZR2,     AZBEGINN3, AZENDE3, MAZR3};
 }  // namespace DBZA
 inline constexpr RecordLayout kDBZA{"DBZA", 60, DBZA::kFields};
 
@@ -107,7 +113,9 @@ inline constexpr FieldLayout BEZFREISTJAHR{"DBFR.BEZFREISTJAHR", 51, 2, FieldKin
 inline constexpr FieldLayout FREISTBRUTTO = amount("DBFR.FREISTBRUTTO", 53, 8, 2);
 inline constexpr FieldLayout FREISTNETTO = amount("DBFR.FREISTNETTO", 61, 8, 2);
 inline constexpr FieldLayout FREISTEZ{"DBFR.FREISTEZ", 69, 1, FieldKind::Code};
-inline constexpr FieldLayout kFields[] = {Kennung, ENDEBVZUM, FREISTVOM, FREISTBIS, VAEERSTTAG, TAGE, KEINEFREIST, BEGRZFREIST, BEZFREISTVOM, BEZFREISTBIS, BEZFREISTJAHR, FREISTBRUTTO, FREISTNETTO, FREISTEZ};
+inline constexpr FieldLayout kFields[] = {Kennung,       ENDEBVZUM,    FREISTVOM,   FREISTBIS,    VAEERSTTAG,
+                                          TAGE,          KEINEFREIST,  BEGRZFREIST, BEZFREISTVOM, BEZFREISTBIS,
+                                          BEZFREISTJAHR, FREISTBRUTTO, FREISTNETTO, FREISTEZ};
 }  // namespace DBFR
 inline constexpr RecordLayout kDBFR{"DBFR", 69, DBFR::kFields};
 
@@ -166,7 +174,12 @@ inline constexpr FieldLayout AZENTSCHSTD3 = amount("DBMU.AZENTSCHSTD3", 196, 5, 
 inline constexpr FieldLayout AZENTSCHTAGE3{"DBMU.AZENTSCHTAGE3", 201, 2, FieldKind::N};
 inline constexpr FieldLayout NETTO3 = amount("DBMU.NETTO3", 203, 8, 2);
 inline constexpr FieldLayout AZWOECH = amount("DBMU.AZWOECH", 211, 4, 2);
-inline constexpr FieldLayout kFields[] = {Kennung, SCHUTZFRBEGINN, BVBEGINN, LETZTTAG, ENDEBVAM, ENDEBVZUM, BVGEKUEND, WAEHREELNETTO, DATUMAEBIS, FEHLZEIT, AEUEBER, ENTGART, BEGINN1, ENDE1, BEZAZ1, MASTD1, AZUNENTSTD1, AZUNENTTAGE1, AZENTSCHSTD1, AZENTSCHTAGE1, NETTO1, BEGINN2, ENDE2, BEZAZ2, MASTD2, AZUNENTSTD2, AZUNENTTAGE2, AZENTSCHSTD2, AZENTSCHTAGE2, NETTO2, BEGINN3, ENDE3, BEZAZ3, MASTD3, AZUNENTSTD3, AZUNENTTAGE3, AZENTSCHSTD3, AZENTSCHTAGE3, NETTO3, AZWOECH};
+inline constexpr FieldLayout kFields[] = {
+    Kennung,     SCHUTZFRBEGINN, BVBEGINN,     LETZTTAG,      ENDEBVAM,      ENDEBVZUM,     BVGEKUEND, WAEHREELNETTO,
+    DATUMAEBIS,  FEHLZEIT,       AEUEBER,      ENTGART,       BEGINN1,       ENDE1,         BEZAZ1,    MASTD1,
+    AZUNENTSTD1, AZUNENTTAGE1,   AZENTSCHSTD1, AZENTSCHTAGE1, NETTO1,        BEGINN2,       ENDE2,     BEZAZ2,
+    MASTD2,      AZUNENTSTD2,    AZUNENTTAGE2, AZENTSCHSTD2,  AZENTSCHTAGE2, NETTO2,        BEGINN3,   ENDE3,
+    BEZAZ3,      MASTD3,         AZUNENTSTD3,  AZUNENTTAGE3,  AZENTSCHSTD3,  AZENTSCHTAGE3, NETTO3,    AZWOECH};
 }  // namespace DBMU
 inline constexpr RecordLayout kDBMU{"DBMU", 214, DBMU::kFields};
 
@@ -180,7 +193,8 @@ inline constexpr FieldLayout TEILNACHWEISAUENDE{"TEILNACHWEISAUENDE(i)", 26, 8, 
 inline constexpr FieldLayout KZAU{"KZAU(i)", 34, 1, FieldKind::N};
 inline constexpr FieldLayout TEILANRAUBEGINN{"TEILANRAUBEGINN(i)", 35, 8, FieldKind::Date};
 inline constexpr FieldLayout TEILANRAUENDE{"TEILANRAUENDE(i)", 43, 8, FieldKind::Date};
-inline constexpr FieldLayout kFields[] = {BEGINNAU, ENDEAU, KZNACHWEIS, TEILNACHWEISAUBEGINN, TEILNACHWEISAUENDE, KZAU, TEILANRAUBEGINN, TEILANRAUENDE};
+inline constexpr FieldLayout kFields[] = {BEGINNAU,           ENDEAU, KZNACHWEIS,      TEILNACHWEISAUBEGINN,
+                                          TEILNACHWEISAUENDE, KZAU,   TEILANRAUBEGINN, TEILANRAUENDE};
 }  // namespace DBVOEntry
 inline constexpr RecordLayout kDBVOEntry{"DBVO entry", 50, DBVOEntry::kFields};
 namespace DBVO {
@@ -225,7 +239,18 @@ inline constexpr FieldLayout NETTOSB = amount("DBLT.NETTOSB", 67, 8, 2);
 inline constexpr FieldLayout MMVERZICHTBEITRAGSFREI{"DBLT.MMVERZICHTBEITRAGSFREI", 75, 1, FieldKind::Code};
 inline constexpr FieldLayout AEUEBERGANGSBEREICH{"DBLT.AEUEBERGANGSBEREICH", 76, 1, FieldKind::Code};
 inline constexpr FieldLayout RECHTSKREIS{"DBLT.RECHTSKREIS", 77, 1, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, BVSEIT, BVBIS, BVALS, AUSBVERH, VORER, VWL, BRUTTOSB, NETTOSB, MMVERZICHTBEITRAGSFREI, AEUEBERGANGSBEREICH, RECHTSKREIS};
+inline constexpr FieldLayout kFields[] = {Kennung,
+                                          BVSEIT,
+                                          BVBIS,
+                                          BVALS,
+                                          AUSBVERH,
+                                          VORER,
+                                          VWL,
+                                          BRUTTOSB,
+                                          NETTOSB,
+                                          MMVERZICHTBEITRAGSFREI,
+                                          AEUEBERGANGSBEREICH,
+                                          RECHTSKREIS};
 }  // namespace DBLT
 inline constexpr RecordLayout kDBLT{"DBLT", 77, DBLT::kFields};
 
@@ -239,7 +264,8 @@ inline constexpr FieldLayout VERLAENGBIS{"DBSF.VERLAENGBIS", 31, 8, FieldKind::D
 inline constexpr FieldLayout KZDHEU{"DBSF.KZDHEU", 39, 4, FieldKind::N};
 inline constexpr FieldLayout DHEU = amount("DBSF.DHEU", 43, 8, 2);
 inline constexpr FieldLayout HEUNETTO = amount("DBSF.HEUNETTO", 51, 8, 2);
-inline constexpr FieldLayout kFields[] = {Kennung, AUBORD, AUINLAND, UANSPRUCH, VERLAENGVON, VERLAENGBIS, KZDHEU, DHEU, HEUNETTO};
+inline constexpr FieldLayout kFields[] = {Kennung,     AUBORD, AUINLAND, UANSPRUCH, VERLAENGVON,
+                                          VERLAENGBIS, KZDHEU, DHEU,     HEUNETTO};
 }  // namespace DBSF
 inline constexpr RecordLayout kDBSF{"DBSF", 58, DBSF::kFields};
 
@@ -251,7 +277,8 @@ inline constexpr FieldLayout TRANSFERKUG = amount("DBTK.TRANSFERKUG", 21, 8, 2);
 inline constexpr FieldLayout BRUTTOIST = amount("DBTK.BRUTTOIST", 29, 8, 2);
 inline constexpr FieldLayout NETTOIST = amount("DBTK.NETTOIST", 37, 8, 2);
 inline constexpr FieldLayout AUFSTOCKUNGSBETRAG = amount("DBTK.AUFSTOCKUNGSBETRAG", 45, 8, 2);
-inline constexpr FieldLayout kFields[] = {Kennung, BRUTTOSOLL, NETTOSOLL, TRANSFERKUG, BRUTTOIST, NETTOIST, AUFSTOCKUNGSBETRAG};
+inline constexpr FieldLayout kFields[] = {Kennung,   BRUTTOSOLL, NETTOSOLL,         TRANSFERKUG,
+                                          BRUTTOIST, NETTOIST,   AUFSTOCKUNGSBETRAG};
 }  // namespace DBTK
 inline constexpr RecordLayout kDBTK{"DBTK", 52, DBTK::kFields};
 
@@ -304,9 +331,42 @@ inline constexpr FieldLayout MitDBSF = flag(kDBSF, 216);
 inline constexpr FieldLayout MitDBTK = flag(kDBTK, 217);
 inline constexpr FieldLayout MitDBAP = flag(kDBAP, 218);
 inline constexpr FieldLayout MitDBID = flag(kDBID, 219);
-inline constexpr std::array kOwn{Versicherungsnummer, Geburtsdatum, Betriebsnummer, RecordID, strProdID, strModID, Reserve1, Reserve2, BBNRKK, strBNRSt, RUECKMELDUNGEEL, ABGABEGRUND, KENNZSTORNO, MitDBNA, MitDBAN, MitDBAL, MitDBAE, MitDBZA, MitDBEE, MitDBAW, MitDBFR, MitDBUN, MitDBMU, MitDBVO, MitDBHE, MitDBBE, MitDBLT, MitDBSF, MitDBTK, MitDBAP, MitDBID};
-inline constexpr auto kFields =
-    layout::joined(Head.fields(), kOwn);
+inline constexpr std::array kOwn{Versicherungsnummer,
+                                 Geburtsdatum,
+                                 Betriebsnummer,
+                                 RecordID,
+                                 strProdID,
+                                 strModID,
+                                 Reserve1,
+                                 Reserve2,
+                                 BBNRKK,
+                                 strBNRSt,
+                                 RUECKMELDUNGEEL,
+                                 ABGABEGRUND,
+                                 KENNZSTORNO,
+                                 MitDBNA,
+                                 MitDBAN,
+                                 MitDBAL,
+                                 MitDBAE,
+                                 MitDBZA,
+                                 MitDBEE,
+                                 MitDBAW,
+                                 MitDBFR,
+                                 MitDBUN,
+                                 MitDBMU,
+                                 MitDBVO,
+                                 MitDBHE,
+                                 MitDBBE,
+                                 MitDBLT,
+                                 MitDBSF,
+                                 MitDBTK,
+                                 MitDBAP,
+                                 MitDBID};
+inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
+// The block flags at positions 202-219, in the order the blocks follow.
+inline constexpr std::array kBlockFlags{MitDBNA, MitDBAN, MitDBAL, MitDBAE, MitDBZA, MitDBEE,
+                                        MitDBAW, MitDBFR, MitDBUN, MitDBMU, MitDBVO, MitDBHE,
+                                        MitDBBE, MitDBLT, MitDBSF, MitDBTK, MitDBAP, MitDBID};
 }  // namespace DSLW
 inline constexpr RecordLayout kDSLW{"DSLW", 219, DSLW::kFields};
 

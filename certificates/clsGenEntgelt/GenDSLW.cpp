@@ -1,6 +1,7 @@
 // The DSLW record, left to right as its layout table; each block is built
 // where its flag is written, and those that hold data (flag "J") go into the
 // plan that GenData appends.
+#include "certificates/clsGenEntgelt/DSLW_layout.h"
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
 #include "core/version_number.h"
 #include "core/writer.h"
@@ -45,19 +46,24 @@ EntgeltPlan clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const Dat
         const Vorgang& v = e.Vorgang;
         const VersionNumber dsid(dd.strVersion, e.DatensatzNr);
         Writer w(out, line);
-        w.an("DSLW", 4).an("LEIST", 5).an(dd.strBNRAb, 15).an(e.Empfaenger.Betriebsnummer, 15).n("10", 2);
-        w.stamp(e.ErstellDatum, 1, date, 14).n(dd.strMicroseconds, 6).n("0", 1).n("0", 1);
-        w.an(v.Versicherungsnummer, 12).n(v.Geburtsdatum, 8).an(v.Arbeitgeber.Betriebsnummer, 15).an(dsid, 32);
-        w.an(dd.strProdID, 7).an(dd.strModID, 8).zeros(20).blank(2);
-        w.an(e.BBNRKK.empty() ? e.Empfaenger.Betriebsnummer : e.BBNRKK, 15).an(dd.strBNRSt, 15);
-        w.an(e.RUECKMELDUNGEEL, 1).n(e.ABGABEGRUND, 2).flag(e.KENNZSTORNO);
-        for (const Builder build : kBuilders) {
+        using namespace layouts::eel::DSLW;
+        w.put(Head.Kennung).put(Head.Verfahren).put(Head.strBNRAb, dd.strBNRAb);
+        w.put(Head.EmpfaengerBetriebsnummer, e.Empfaenger.Betriebsnummer).put(Head.Version);
+        w.stamp(Head.Erstellt, e.ErstellDatum, 1, date).put(Head.strMicroseconds, dd.strMicroseconds);
+        w.put(Head.Fehlerkennzeichen).put(Head.Fehleranzahl);
+        w.put(Versicherungsnummer, v.Versicherungsnummer).put(Geburtsdatum, v.Geburtsdatum);
+        w.put(Betriebsnummer, v.Arbeitgeber.Betriebsnummer).put(RecordID, dsid);
+        w.put(strProdID, dd.strProdID).put(strModID, dd.strModID).put(Reserve1).put(Reserve2);
+        w.put(BBNRKK, e.BBNRKK.empty() ? e.Empfaenger.Betriebsnummer : e.BBNRKK).put(strBNRSt, dd.strBNRSt);
+        w.put(RUECKMELDUNGEEL, e.RUECKMELDUNGEEL).put(ABGABEGRUND, e.ABGABEGRUND).put(KENNZSTORNO, e.KENNZSTORNO);
+        static_assert(kBlockFlags.size() == std::size(kBuilders));
+        for (std::size_t k = 0; k < kBlockFlags.size(); ++k) {
             const std::size_t mark = plan.blocks.size();
-            const bool held = build(plan.blocks, e);
+            const bool held = kBuilders[k](plan.blocks, e);
             if (!held) plan.blocks.resize(mark);
-            w.flag(held);
+            w.put(kBlockFlags[k], held);
         }
-        w.check(219, "DSLW");
+        w.check(layouts::eel::kDSLW);
         return plan;
     });
 }
