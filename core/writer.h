@@ -58,7 +58,8 @@ public:
     [[gnu::always_inline]] Writer& put(const FieldLayout& f, const V& v) {
         at(f);
         if constexpr (std::is_same_v<V, bool>) {
-            assert(f.kind == FieldKind::Flag);
+            // A flag, or a fixed "J" that the builder writes as its decision.
+            assert(f.kind == FieldKind::Flag || (f.kind == FieldKind::Literal && f.literal == (v ? "J" : "N")));
             return lit(v ? "J" : "N");
         } else if constexpr (std::is_integral_v<V>) {
             return encode(f, mlGen::Decimal(v));
@@ -121,42 +122,6 @@ public:
 #endif
     }
 
-    // Fields by width, for the builders not yet written by their declarations.
-    [[gnu::always_inline]] Writer& lit(std::string_view s) {
-        ++line_;
-        buf_.put(s);
-        for (char c : s) chars_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-        return *this;
-    }
-    [[gnu::always_inline]] Writer& an(std::string_view v, int width) {
-        const std::size_t w = open_field(width);
-        return close_field(mlGen::PutAn(buf_.tail(), v, w, filled_), w);
-    }
-    [[gnu::always_inline]] Writer& n(std::string_view v, int width) {
-        const std::size_t w = open_field(width);
-        return close_field(mlGen::PutN(buf_.tail(), v, w, filled_), w);
-    }
-    [[gnu::always_inline]] Writer& n(std::int64_t v, int width) { return n(mlGen::Decimal(v), width); }
-    [[gnu::always_inline]] Writer& blank(int width) { return an({}, width); }
-    [[gnu::always_inline]] Writer& zeros(int width) { return n(std::string_view{}, width); }
-    [[gnu::always_inline]] Writer& pb(std::string_view v, int vor, int nach) { return amount(v, vor, nach, false); }
-    [[gnu::always_inline]] Writer& bg(std::string_view v, int vor, int nach) { return amount(v, vor, nach, true); }
-    [[gnu::always_inline]] Writer& jn(std::int32_t v) {
-        const char c = mlGen::JNChar(v, filled_);
-        return lit({&c, 1});
-    }
-    [[gnu::always_inline]] Writer& flag(bool yes) { return lit(yes ? "J" : "N"); }
-    template <class Block>
-    [[gnu::always_inline]] Writer& announce(BlockPlan<Block>& plan, Block block, bool follows) {
-        plan.set(block, follows);
-        return flag(follows);
-    }
-    [[gnu::always_inline]] Writer& stamp(std::string_view dateText, int format, const Date& date, int width) {
-        return stamp(FieldLayout{{}, 0, static_cast<std::uint16_t>(width), FieldKind::DateTime}, dateText, format, date,
-                     false);
-    }
-    [[gnu::always_inline]] void patch(std::size_t index, char c) { buf_.data()[index] = c; }
-
     std::string_view record() const { return buf_.view(); }
 
     // The length check that closes the record and appends it: the declared
@@ -210,6 +175,20 @@ private:
                 assert(f.kind != FieldKind::Literal && f.kind != FieldKind::Flag);
                 return an(v, f.len);
         }
+    }
+    [[gnu::always_inline]] Writer& lit(std::string_view s) {
+        ++line_;
+        buf_.put(s);
+        for (char c : s) chars_ += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+        return *this;
+    }
+    [[gnu::always_inline]] Writer& an(std::string_view v, int width) {
+        const std::size_t w = open_field(width);
+        return close_field(mlGen::PutAn(buf_.tail(), v, w, filled_), w);
+    }
+    [[gnu::always_inline]] Writer& n(std::string_view v, int width) {
+        const std::size_t w = open_field(width);
+        return close_field(mlGen::PutN(buf_.tail(), v, w, filled_), w);
     }
     [[gnu::always_inline]] void close(int length, std::string_view name) {
         publish();
@@ -268,19 +247,6 @@ bool write_block(std::string& out, std::string_view context, const RecordLayout&
         w.put(l.fields[0]);
         fill(w);
         w.check(l);
-        return filled;
-    });
-}
-
-// As above, by width, for the blocks not yet written by their declarations.
-template <class Fill>
-bool write_block(std::string& out, std::string_view context, int length, std::string_view id, Fill&& fill) {
-    return routine(context, [&](int& line) {
-        bool filled = false;
-        Writer w(out, line, filled);
-        w.lit(id);
-        fill(w);
-        w.check(length, id);
         return filled;
     });
 }

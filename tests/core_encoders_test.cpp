@@ -276,7 +276,8 @@ TEST(Dates, WriterStampIsGetCurrDateAsANumericField) {
                 bool filled = false;
                 {
                     Writer w(out, line, filled);
-                    w.stamp(text, 1, date, width).end();
+                    const FieldLayout field{"created", 1, static_cast<std::uint16_t>(width), FieldKind::DateTime};
+                    w.stamp(field, text, 1, date).end();
                 }
                 bool expected_filled = false;
                 const std::string expected =
