@@ -3,10 +3,14 @@
 // block's dates and amounts (unsigned, of their fields' places), each list
 // item named with its number.
 #include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
+#include "certificates/clsGenArbeitsBesch/DSAB_layout.h"
 #include "checks/checks.h"
 #include "checks/person.h"
+#include "core/shared_block_layouts.h"
 
 namespace tamrel::checks {
+
+namespace L = layouts::bea;
 
 void check_report(const ArbeitsBesch& a, Findings& f) {
     const FieldChecks c(f);
@@ -20,14 +24,15 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
         const auto& x = a.DBAZ[i];
         const FieldChecks k = c.within("DBAZ", i + 1);
         k.dates(x, {{"AZAEBEG", &bea::DBAZ::AZAEBEG}});
-        k.numbers(x, {{"AZAEGR", &bea::DBAZ::AZAEGR, 2}});
-        k.amounts(x, {{"AZWOECH", &bea::DBAZ::AZWOECH, 2, 2}, {"AZVG", &bea::DBAZ::AZVG, 2, 2}});
+        k.numbers(x, {{"AZAEGR", &bea::DBAZ::AZAEGR, L::DBAZ::AZAEGR}});
+        k.amounts(x, {{"AZWOECH", &bea::DBAZ::AZWOECH, L::DBAZ::AZWOECH}, {"AZVG", &bea::DBAZ::AZVG, L::DBAZ::AZVG}});
     }
     for (std::size_t i = 0; i < a.DBEE.size(); ++i) {
         const auto& x = a.DBEE[i];
         const FieldChecks k = c.within("DBEE", i + 1);
         k.dates(x, {{"MONATBEGEU", &bea::DBEE::MONATBEGEU}, {"MONATENDEU", &bea::DBEE::MONATENDEU}});
-        k.amounts(x, {{"STBREGLFEU", &bea::DBEE::STBREGLFEU, 8, 2}, {"STBREGSOEU", &bea::DBEE::STBREGSOEU, 8, 2}});
+        k.amounts(x, {{"STBREGLFEU", &bea::DBEE::STBREGLFEU, L::DBEE::STBREGLFEU},
+                      {"STBREGSOEU", &bea::DBEE::STBREGSOEU, L::DBEE::STBREGSOEU}});
     }
     for (std::size_t i = 0; i < a.DBEN.size(); ++i) {
         const auto& x = a.DBEN[i];
@@ -36,30 +41,31 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                     {"MONATEND", &bea::DBEN::MONATEND},
                     {"MIABEG", &bea::DBEN::MIABEG},
                     {"MIAEND", &bea::DBEN::MIAEND}});
-        k.numbers(x, {{"TATSURLTAGE", &bea::DBEN::TATSURLTAGE, 3}, {"URLEGGEZ", &bea::DBEN::URLEGGEZ, 1}});
-        k.amounts(x, {{"SVBREGLF", &bea::DBEN::SVBREGLF, 8, 2},
-                      {"SVBREGE", &bea::DBEN::SVBREGE, 8, 2},
-                      {"FIBR", &bea::DBEN::FIBR, 8, 2},
-                      {"URLEG", &bea::DBEN::URLEG, 8, 2}});
+        k.numbers(x, {{"TATSURLTAGE", &bea::DBEN::TATSURLTAGE, L::DBEN::TATSURLTAGE},
+                      {"URLEGGEZ", &bea::DBEN::URLEGGEZ, L::DBEN::URLEGGEZ}});
+        k.amounts(x, {{"SVBREGLF", &bea::DBEN::SVBREGLF, L::DBEN::SVBREGLF},
+                      {"SVBREGE", &bea::DBEN::SVBREGE, L::DBEN::SVBREGE},
+                      {"FIBR", &bea::DBEN::FIBR, L::DBEN::FIBR},
+                      {"URLEG", &bea::DBEN::URLEG, L::DBEN::URLEG}});
     }
     for (std::size_t i = 0; i < a.DBEZ.size(); ++i) {
         const auto& x = a.DBEZ[i];
         const FieldChecks k = c.within("DBEZ", i + 1);
         k.dates(x, {{"AZAEBEG", &bea::DBEZ::AZAEBEG}});
-        k.numbers(x, {{"AZAEGR", &bea::DBEZ::AZAEGR, 2}});
-        k.amounts(x, {{"AZWOECH", &bea::DBEZ::AZWOECH, 2, 2},
-                      {"AZDUWOECH", &bea::DBEZ::AZDUWOECH, 2, 2},
-                      {"ATDUWOE", &bea::DBEZ::ATDUWOE, 1, 2}});
+        k.numbers(x, {{"AZAEGR", &bea::DBEZ::AZAEGR, L::DBEZ::AZAEGR}});
+        k.amounts(x, {{"AZWOECH", &bea::DBEZ::AZWOECH, L::DBEZ::AZWOECH},
+                      {"AZDUWOECH", &bea::DBEZ::AZDUWOECH, L::DBEZ::AZDUWOECH},
+                      {"ATDUWOE", &bea::DBEZ::ATDUWOE, L::DBEZ::ATDUWOE}});
     }
     for (std::size_t i = 0; i < a.DBFZ.size(); ++i) {
         const auto& x = a.DBFZ[i];
         const FieldChecks k = c.within("DBFZ", i + 1);
         k.dates(x, {{"FEHLBEG", &bea::DBFZ::FEHLBEG}, {"FEHLEND", &bea::DBFZ::FEHLEND}});
-        k.numbers(x, {{"FEHLART", &bea::DBFZ::FEHLART, 2}});
+        k.numbers(x, {{"FEHLART", &bea::DBFZ::FEHLART, L::DBFZ::FEHLART}});
     }
     {
         const FieldChecks k = c.within("DBHA");
-        k.numbers(a.DBHA, {{"URLTAGE", &bea::DBHA::URLTAGE, 3}});
+        k.numbers(a.DBHA, {{"URLTAGE", &bea::DBHA::URLTAGE, L::DBHA::URLTAGE}});
     }
     {
         const FieldChecks k = c.within("DBHN");
@@ -81,15 +87,16 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                          {"BVENUR", &bea::DBKE::BVENUR},
                          {"AVENVGB", &bea::DBKE::AVENVGB},
                          {"BFHG", &bea::DBKE::BFHG}});
-        k.numbers(a.DBKE, {{"AVLETZTRL", &bea::DBKE::AVLETZTRL, 6},
-                           {"AVKUEDU", &bea::DBKE::AVKUEDU, 1},
-                           {"AVKUEZUST", &bea::DBKE::AVKUEZUST, 1},
-                           {"KF", &bea::DBKE::KF, 3},
-                           {"KFZE", &bea::DBKE::KFZE, 1},
-                           {"KFBZ", &bea::DBKE::KFBZ, 1},
-                           {"AVENLZG", &bea::DBKE::AVENLZG, 2},
-                           {"BETZU", &bea::DBKE::BETZU, 2}});
-        k.amounts(a.DBKE, {{"ABFHOE", &bea::DBKE::ABFHOE, 8, 2}, {"AVENVG", &bea::DBKE::AVENVG, 3, 2}});
+        k.numbers(a.DBKE, {{"AVLETZTRL", &bea::DBKE::AVLETZTRL, L::DBKE::AVLETZTRL},
+                           {"AVKUEDU", &bea::DBKE::AVKUEDU, L::DBKE::AVKUEDU},
+                           {"AVKUEZUST", &bea::DBKE::AVKUEZUST, L::DBKE::AVKUEZUST},
+                           {"KF", &bea::DBKE::KF, L::DBKE::KF},
+                           {"KFZE", &bea::DBKE::KFZE, L::DBKE::KFZE},
+                           {"KFBZ", &bea::DBKE::KFBZ, L::DBKE::KFBZ},
+                           {"AVENLZG", &bea::DBKE::AVENLZG, L::DBKE::AVENLZG},
+                           {"BETZU", &bea::DBKE::BETZU, L::DBKE::BETZU}});
+        k.amounts(a.DBKE,
+                  {{"ABFHOE", &bea::DBKE::ABFHOE, L::DBKE::ABFHOE}, {"AVENVG", &bea::DBKE::AVENVG, L::DBKE::AVENVG}});
     }
     {
         const FieldChecks k = c.within("DBKU");
@@ -100,24 +107,25 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                          {"AVKUEAM", &bea::DBKU::AVKUEAM},
                          {"BVEGENB", &bea::DBKU::BVEGENB},
                          {"AVENUR", &bea::DBKU::AVENUR}});
-        k.numbers(a.DBKU, {{"AVKUEDU", &bea::DBKU::AVKUEDU, 1},
-                           {"AVENLZG", &bea::DBKU::AVENLZG, 2},
-                           {"BETZU", &bea::DBKU::BETZU, 2},
-                           {"URLTAGEAV", &bea::DBKU::URLTAGEAV, 3},
-                           {"AVVERZ", &bea::DBKU::AVVERZ, 1},
-                           {"KF", &bea::DBKU::KF, 3},
-                           {"KFZE", &bea::DBKU::KFZE, 1},
-                           {"KFBZ", &bea::DBKU::KFBZ, 1}});
-        k.amounts(a.DBKU, {{"ABFHOE", &bea::DBKU::ABFHOE, 8, 2}, {"UAGHOE", &bea::DBKU::UAGHOE, 8, 2}});
+        k.numbers(a.DBKU, {{"AVKUEDU", &bea::DBKU::AVKUEDU, L::DBKU::AVKUEDU},
+                           {"AVENLZG", &bea::DBKU::AVENLZG, L::DBKU::AVENLZG},
+                           {"BETZU", &bea::DBKU::BETZU, L::DBKU::BETZU},
+                           {"URLTAGEAV", &bea::DBKU::URLTAGEAV, L::DBKU::URLTAGEAV},
+                           {"AVVERZ", &bea::DBKU::AVVERZ, L::DBKU::AVVERZ},
+                           {"KF", &bea::DBKU::KF, L::DBKU::KF},
+                           {"KFZE", &bea::DBKU::KFZE, L::DBKU::KFZE},
+                           {"KFBZ", &bea::DBKU::KFBZ, L::DBKU::KFBZ}});
+        k.amounts(a.DBKU,
+                  {{"ABFHOE", &bea::DBKU::ABFHOE, L::DBKU::ABFHOE}, {"UAGHOE", &bea::DBKU::UAGHOE, L::DBKU::UAGHOE}});
     }
     {
         const FieldChecks k = c.within("DBNB");
-        k.amounts(a.DBNB, {{"STU1KW", &bea::DBNB::STU1KW, 2, 2},
-                           {"STU2KW", &bea::DBNB::STU2KW, 2, 2},
-                           {"STU3KW", &bea::DBNB::STU3KW, 2, 2},
-                           {"STU4KW", &bea::DBNB::STU4KW, 2, 2},
-                           {"STU5KW", &bea::DBNB::STU5KW, 2, 2},
-                           {"STU6KW", &bea::DBNB::STU6KW, 2, 2}});
+        k.amounts(a.DBNB, {{"STU1KW", &bea::DBNB::STU1KW, L::DBNB::STU1KW},
+                           {"STU2KW", &bea::DBNB::STU2KW, L::DBNB::STU2KW},
+                           {"STU3KW", &bea::DBNB::STU3KW, L::DBNB::STU3KW},
+                           {"STU4KW", &bea::DBNB::STU4KW, L::DBNB::STU4KW},
+                           {"STU5KW", &bea::DBNB::STU5KW, L::DBNB::STU5KW},
+                           {"STU6KW", &bea::DBNB::STU6KW, L::DBNB::STU6KW}});
     }
     {
         const FieldChecks k = c.within("DBNE");
@@ -126,30 +134,32 @@ void check_report(const ArbeitsBesch& a, Findings& f) {
                          {"MONATEND", &bea::DBNE::MONATEND},
                          {"SVBREGEBEG", &bea::DBNE::SVBREGEBEG},
                          {"SVBREGEEND", &bea::DBNE::SVBREGEEND}});
-        k.numbers(a.DBNE, {{"TTAUFENT", &bea::DBNE::TTAUFENT, 1}});
-        k.amounts(a.DBNE, {{"SVBREGLF", &bea::DBNE::SVBREGLF, 8, 2},
-                           {"SVBREGE", &bea::DBNE::SVBREGE, 8, 2},
-                           {"NETTOLFD", &bea::DBNE::NETTOLFD, 8, 2},
-                           {"NETTOEINMAL", &bea::DBNE::NETTOEINMAL, 8, 2},
-                           {"AZWOECH", &bea::DBNE::AZWOECH, 2, 2}});
+        k.numbers(a.DBNE, {{"TTAUFENT", &bea::DBNE::TTAUFENT, L::DBNE::TTAUFENT}});
+        k.amounts(a.DBNE, {{"SVBREGLF", &bea::DBNE::SVBREGLF, L::DBNE::SVBREGLF},
+                           {"SVBREGE", &bea::DBNE::SVBREGE, L::DBNE::SVBREGE},
+                           {"NETTOLFD", &bea::DBNE::NETTOLFD, L::DBNE::NETTOLFD},
+                           {"NETTOEINMAL", &bea::DBNE::NETTOEINMAL, L::DBNE::NETTOEINMAL},
+                           {"AZWOECH", &bea::DBNE::AZWOECH, L::DBNE::AZWOECH}});
     }
     {
         const FieldChecks k = c.within("DBSA");
         k.dates(a.DBSA, {{"KNAPPRVBEG", &bea::DBSA::KNAPPRVBEG}});
-        k.numbers(a.DBSA, {{"BYGRA", &bea::DBSA::BYGRA, 4}, {"PERSGRA", &bea::DBSA::PERSGRA, 3}});
+        k.numbers(a.DBSA,
+                  {{"BYGRA", &bea::DBSA::BYGRA, L::DBSA::BYGRA}, {"PERSGRA", &bea::DBSA::PERSGRA, L::DBSA::PERSGRA}});
     }
     for (std::size_t i = 0; i < a.DBSB.size(); ++i) {
         const auto& x = a.DBSB[i];
         const FieldChecks k = c.within("DBSB", i + 1);
         k.dates(x, {{"PERSBYGRBEG", &bea::DBSB::PERSBYGRBEG}});
-        k.numbers(x, {{"BYGRB", &bea::DBSB::BYGRB, 4}, {"PERSGRB", &bea::DBSB::PERSGRB, 3}});
+        k.numbers(x,
+                  {{"BYGRB", &bea::DBSB::BYGRB, L::DBSB::BYGRB}, {"PERSGRB", &bea::DBSB::PERSGRB, L::DBSB::PERSGRB}});
     }
     for (std::size_t i = 0; i < a.DBSE.size(); ++i) {
         const auto& x = a.DBSE[i];
         const FieldChecks k = c.within("DBSE", i + 1);
         k.dates(x, {{"AESTEDATBEG", &bea::DBSE::AESTEDATBEG}});
-        k.numbers(x, {{"STKL", &bea::DBSE::STKL, 1}});
-        k.amounts(x, {{"FKT", &bea::DBSE::FKT, 1, 3}, {"KINDFRB", &bea::DBSE::KINDFRB, 2, 1}});
+        k.numbers(x, {{"STKL", &bea::DBSE::STKL, L::DBSE::STKL}});
+        k.amounts(x, {{"FKT", &bea::DBSE::FKT, L::DBSE::FKT}, {"KINDFRB", &bea::DBSE::KINDFRB, L::DBSE::KINDFRB}});
     }
 }
 

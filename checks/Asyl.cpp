@@ -4,6 +4,7 @@
 #include "checks/checks.h"
 #include "checks/person.h"
 #include "checks/rules.h"
+#include "xml/clsGenAsyl/clsGenAsyl.h"
 
 namespace tamrel::checks {
 
@@ -15,7 +16,7 @@ void check_report(const Asyl& a, Findings& f) {
     c.date("ZrBeginn", a.ZrBeginn);
     c.date("ZrEnde", a.ZrEnde);
     c.period("ZrBeginn", a.ZrBeginn, a.ZrEnde);
-    c.digits("Ikko", a.Ikko, 9);
+    c.digits("Ikko", a.Ikko, clsGenAsyl::kIkkoDigits);
     for (const auto& [name, p] : {std::pair{"Mgd", &a.Mgd}, {"Ang", &a.Ang}}) {
         const FieldChecks k = c.within(name);
         k.versicherungsnummer("Vsnr", p->Vsnr);

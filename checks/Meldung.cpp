@@ -8,6 +8,7 @@
 #include "checks/field_checks.h"
 #include "checks/person.h"
 #include "checks/rules.h"
+#include "reports/clsGenMeldung/DSME_layout.h"
 #include "reports/clsGenMeldung/Meldung.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 
@@ -19,8 +20,9 @@ namespace {
 std::string_view reason_entry(std::string_view reason) {
     constexpr std::string_view table = clsGenMeldung::kBlockTable;
     if (reason.size() != 2) return {};
-    for (std::size_t at = 0; at + 9 <= table.size(); at += 9)
-        if (table[at] == reason[0] && table[at + 1] == reason[1]) return table.substr(at, 9);
+    constexpr std::size_t entry = clsGenMeldung::kBlockTableEntry;
+    for (std::size_t at = 0; at + entry <= table.size(); at += entry)
+        if (table[at] == reason[0] && table[at + 1] == reason[1]) return table.substr(at, entry);
     return {};
 }
 // The table's flags follow the reason, in the order of the blocks' enumeration.
@@ -64,14 +66,14 @@ void check_report(const Meldung& m, Findings& f) {
         v.required("Familienname", p.Familienname);
         v.required("Vorname", p.Vorname);
     }
-    v.digits("Laenderschluessel", p.Laenderschluessel, 3);
+    v.digits("Laenderschluessel", p.Laenderschluessel, layouts::meldung::DSME::Laenderschluessel.len);
 
     // The employment (block DBME): person group, period, contribution
     // groups, pay in whole euros.
-    c.digits("Personengruppe", m.Personengruppe, 3);
-    c.key("Zusatzmerkmal", m.Zusatzmerkmal, 1);
-    c.key("Statuskennzeichen", m.Statuskennzeichen, 1);
-    c.key("Meldekennzeichen", m.Meldekennzeichen, 1);
+    c.digits("Personengruppe", m.Personengruppe, layouts::meldung::DSME::Personengruppe.len);
+    c.key("Zusatzmerkmal", m.Zusatzmerkmal, layouts::meldung::DSME::Zusatzmerkmal.len);
+    c.key("Statuskennzeichen", m.Statuskennzeichen, layouts::meldung::DBME::Statuskennzeichen.len);
+    c.key("Meldekennzeichen", m.Meldekennzeichen, layouts::meldung::DBME::Meldekennzeichen.len);
     if (wanted(entry, MeldungBlock::DBME)) {
         c.required("Personengruppe", m.Personengruppe);
         c.required("Beginn", m.Beginn);
@@ -89,7 +91,7 @@ void check_report(const Meldung& m, Findings& f) {
         c.one_of("Beitragsgruppe2", m.Beitragsgruppe2, {"0", "1", "3", "5"}, kContributionGroup);
         c.one_of("Beitragsgruppe3", m.Beitragsgruppe3, {"0", "1", "2"}, kContributionGroup);
         c.one_of("Beitragsgruppe4", m.Beitragsgruppe4, {"0", "1", "2"}, kContributionGroup);
-        c.whole_amount("Entgelt", m.Entgelt, 6);
+        c.whole_amount("Entgelt", m.Entgelt, layouts::meldung::DBME::Entgelt.len);
     }
     c.date("Beginn", m.Beginn);
     c.date("Ende", m.Ende);

@@ -4,6 +4,7 @@
 #include "reports/clsGenZahl/Zahl.h"
 #include "checks/checks.h"
 #include "checks/person.h"
+#include "reports/clsGenZahl/DSVZ_layout.h"
 
 namespace tamrel::checks {
 
@@ -25,11 +26,11 @@ void check_report(const Zahl& z, Findings& f) {
                                       {"ZKDatum4", &z.ZKDatum4}})
         c.date(name, *value);
     c.period("ZKBeginn", z.ZKBeginn, z.ZKEnde);
-    c.decimal_amount("ZKBetrag1", z.ZKBetrag1, 6, 2, false);
-    c.decimal_amount("ZKBetrag2", z.ZKBetrag2, 10, 2, false);
-    c.decimal_amount("ZKBetrag3", z.ZKBetrag3, 6, 2, false);
-    c.decimal_amount("ZKBetrag4", z.ZKBetrag4, 6, 2, false);
-    c.digits("ZKArt", z.ZKArt, 1);
+    c.amount("ZKBetrag1", z.ZKBetrag1, layouts::zahl::DBZK::ZKBetrag1);
+    c.amount("ZKBetrag2", z.ZKBetrag2, layouts::zahl::DBZK::ZKBetrag2);
+    c.amount("ZKBetrag3", z.ZKBetrag3, layouts::zahl::DBZK::ZKBetrag3);
+    c.amount("ZKBetrag4", z.ZKBetrag4, layouts::zahl::DBZK::ZKBetrag4);
+    c.digits("ZKArt", z.ZKArt, layouts::zahl::DBZK::ZKArt.len);
 }
 
 }  // namespace tamrel::checks

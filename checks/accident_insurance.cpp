@@ -4,14 +4,18 @@
 #include "checks/checks.h"
 #include "checks/person.h"
 #include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV.h"
+#include "queries/clsGenAbfrStammdatenUV/DSAS_layout.h"
+#include "queries/clsGenLohnnachweis/DSLN_layout.h"
 #include "queries/clsGenLohnnachweis/Lohnnachweis.h"
 
 namespace tamrel::checks {
 namespace {
 
 void check_contact(const FieldChecks& c, const ContactPerson& p) {
-    c.key("ApAnrede", p.ApAnrede, 1);
-    c.texts({{"ApName", p.ApName, 30}, {"ApTel", p.ApTel, 20}, {"ApFax", p.ApFax, 20}, {"ApEmail", p.ApEmail, 70}});
+    using namespace layouts::Contact;
+    c.key("ApAnrede", p.ApAnrede, Anrede.len);
+    c.texts(
+        {{"ApName", p.ApName, Name}, {"ApTel", p.ApTel, Tel}, {"ApFax", p.ApFax, Fax}, {"ApEmail", p.ApEmail, EMail}});
 }
 
 }  // namespace
@@ -20,9 +24,9 @@ void check_report(const AbfrStammdatenUV& a, Findings& f) {
     const FieldChecks c(f);
     c.creation_date("ErstellDatum", a.ErstellDatum);
     check_employer(c, a.Arbeitgeber);
-    c.number("Feld417", a.Feld417, 5);
-    c.number("Feld422", a.Feld422, 3);
-    c.number("Feld425", a.Feld425, 4);
+    c.number("Feld417", a.Feld417, layouts::uv::DSAS::Feld417.len);
+    c.number("Feld422", a.Feld422, layouts::uv::DSAS::Feld422.len);
+    c.number("Feld425", a.Feld425, layouts::uv::DSAS::Feld425.len);
     check_contact(c, a);
 }
 
@@ -30,16 +34,16 @@ void check_report(const Lohnnachweis& l, Findings& f) {
     const FieldChecks c(f);
     c.creation_date("ErstellDatum", l.ErstellDatum);
     check_employer(c, l.Arbeitgeber);
-    c.number("Feld437", l.Feld437, 5);
-    c.number("Feld442", l.Feld442, 3);
-    c.number("Feld445", l.Feld445, 4);
-    c.number("Feld487", l.Feld487, 6);
+    c.number("Feld437", l.Feld437, layouts::uv::DSLN::Feld437.len);
+    c.number("Feld442", l.Feld442, layouts::uv::DSLN::Feld442.len);
+    c.number("Feld445", l.Feld445, layouts::uv::DSLN::Feld445.len);
+    c.number("Feld487", l.Feld487, layouts::uv::DSLN::Feld487.len);
     for (std::size_t i = 0; i < l.Positionen.size(); ++i) {
         const LnPosition& p = l.Positionen[i];
         const FieldChecks k = c.within("Position", i + 1);
-        k.number("PosFeld3", p.PosFeld3, 15);
-        k.number("PosFeld4", p.PosFeld4, 15);
-        k.number("PosFeld5", p.PosFeld5, 6);
+        k.number("PosFeld3", p.PosFeld3, layouts::uv::DSLNPosition::PosFeld3.len);
+        k.number("PosFeld4", p.PosFeld4, layouts::uv::DSLNPosition::PosFeld4.len);
+        k.number("PosFeld5", p.PosFeld5, layouts::uv::DSLNPosition::PosFeld5.len);
     }
     check_contact(c, l);
 }

@@ -43,7 +43,7 @@ void check_report(const Asyl& a, Findings& f);
 struct FrameFields {
     std::string_view strBNRAb, strBNREm, strFileNr, strDatum;
     const std::int32_t* enmVerfahren = nullptr;  // where it is a VerfMerkmal
-    const DSKOData* dsko = nullptr;  // absent for the XML report
+    const DSKOData* dsko = nullptr;              // absent for the XML report
     const DatensatzData* datensatz = nullptr;
 };
 void check_frame(const FrameFields& v, Findings& f);

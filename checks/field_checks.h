@@ -6,14 +6,21 @@
 #include <string_view>
 
 #include "checks/finding.h"
+#include "core/layout.h"
 
 namespace tamrel::checks {
 
-// A text property and the width of its field.
+// The integer and decimal places of an amount field, without its sign.
+constexpr std::size_t integer_places(const FieldLayout& f) {
+    return f.len - f.decimals - (f.kind == FieldKind::SignedAmount ? 1u : 0u);
+}
+
+// A text property and the width of its field, as declared.
 struct TextField {
     std::string_view name;
     const std::string& value;
     std::size_t width;
+    TextField(std::string_view n, const std::string& v, const FieldLayout& f) : name(n), value(v), width(f.len) {}
 };
 
 // A member of a block that holds a date, or an amount of `integers` and
@@ -28,12 +35,15 @@ struct NumberMember {
     std::string_view name;
     std::string Block::*member;
     std::size_t width;
+    NumberMember(std::string_view n, std::string Block::*m, const FieldLayout& f) : name(n), member(m), width(f.len) {}
 };
 template <class Block>
 struct AmountMember {
     std::string_view name;
     std::string Block::*member;
     std::size_t integers, decimals;
+    AmountMember(std::string_view n, std::string Block::*m, const FieldLayout& f)
+        : name(n), member(m), integers(integer_places(f)), decimals(f.decimals) {}
 };
 
 // The path of a property is put together only when it has a finding: the
@@ -58,6 +68,10 @@ public:
     void whole_amount(std::string_view name, std::string_view value, std::size_t width) const;
     void decimal_amount(std::string_view name, std::string_view value, std::size_t integers, std::size_t decimals,
                         bool sign) const;
+    // An amount of the field `f`: its places, and a sign where it has one.
+    void amount(std::string_view name, std::string_view value, const FieldLayout& f) const {
+        decimal_amount(name, value, integer_places(f), f.decimals, f.kind == FieldKind::SignedAmount);
+    }
     void digits(std::string_view name, std::string_view value, std::size_t width) const;
     // A numeric field's value: digits, no more than `width` of them.
     void number(std::string_view name, std::string_view value, std::size_t width) const;

@@ -9,15 +9,9 @@ namespace tamrel::checks {
 
 namespace {
 
-// The width of a frame record's field, as its layout declares it.
-constexpr std::size_t width(const RecordLayout& r, std::string_view name) {
-    for (const FieldLayout& f : r.fields)
-        if (f.name == name) return f.len;
-    throw "no such field";  // a compile-time error where it is used as a constant
-}
-constexpr std::size_t kFileNrWidth = width(layouts::kVOSZ, "strFileNr");
-constexpr std::size_t kMicroSecWidth = width(layouts::kDSKO, "strMicroSec");
-constexpr std::size_t kMicrosecondsWidth = width(layouts::beitrerh::kDSBE, "DatensatzData.strMicroseconds");
+constexpr std::size_t kFileNrWidth = layouts::VOSZ::strFileNr.len;
+constexpr std::size_t kMicroSecWidth = layouts::DSKO::strMicroSec.len;
+constexpr std::size_t kMicrosecondsWidth = layouts::beitrerh::DSBE::strMicroseconds.len;
 
 // A party of the communication record: the header's.
 void same_party(const FieldChecks& c, std::string_view name, std::string_view value, std::string_view header) {

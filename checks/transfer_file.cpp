@@ -127,9 +127,10 @@ public:
             finding(i, &kFileLast);
         } else if (last_.size() == layouts::kNCSZ.length) {
             // The count covers every record but VOSZ and NCSZ.
-            const FieldLayout& count = layouts::kNCSZ.fields[6];
+            const FieldLayout& count = layouts::NCSZ::strCount;
             const std::string text = field_text(last_, count);
-            if (is_digits(text, 8) && std::stoul(text) + 2 != out_.records) finding(i, &kFileCount, &count, text);
+            if (is_digits(text, count.len) && std::stoul(text) + 2 != out_.records)
+                finding(i, &kFileCount, &count, text);
         }
     }
 

@@ -32,6 +32,7 @@ public:
                         std::string_view strCount, std::int32_t enmVerfahren, const Date& datDate = {}) const;
 
     // The block-selection table: reason, then seven J/N flags, 35 entries.
+    static constexpr std::size_t kBlockTableEntry = 2 + 7;
     static constexpr std::string_view kBlockTable =
         "10JJJJNNJ11JJJJNNJ12JJJJNNJ13JJJJNNJ20NJNNNNN30JNNNNNJ31JNNNNNJ32JNNNNNJ33JNNNNNJ34JNNNNNJ35JNNNNNJ36JNNNNNJ"
         "40JJNJNNJ49JNNNNNJ50JNNNNNJ51JNNNNNJ52JNNNNNJ53JNNNNNJ54JNNNNNJ55JNNNNNJ56JNNNNNJ57JNNNNNJ58NJNNNNN59JNNNNNJ"

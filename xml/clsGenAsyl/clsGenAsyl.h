@@ -21,6 +21,9 @@ public:
     std::string GenData(const Asyl& objAsyl, DatensatzData& udtDatensatzData, const Date& datDate = {}) const;
     std::string GenNCSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
                         std::string_view strCount, const Date& datDate = {}) const;
+
+    // The digits of the institution code `ikko`.
+    static constexpr std::size_t kIkkoDigits = 9;
 };
 
 }  // namespace tamrel
