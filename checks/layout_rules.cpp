@@ -4,7 +4,6 @@
 #include <mutex>
 
 #include "checks/field_checks.h"
-#include "checks/record_layouts.h"
 #include "checks/rules.h"
 
 namespace tamrel::checks {
@@ -41,13 +40,13 @@ bool found(const Findings& f, std::string_view name) {
 
 }  // namespace
 
-const FieldLayout* ruled_field(std::string_view cls, std::string_view path) {
+const FieldLayout* ruled_field(std::span<const RecordLayout* const> records, std::string_view path) {
     static std::mutex m;
-    static std::map<std::string_view, std::map<std::string_view, const FieldLayout*>> by_class;
+    static std::map<const RecordLayout* const*, std::map<std::string_view, const FieldLayout*>> by_records;
     const std::lock_guard lock(m);
-    auto [it, fresh] = by_class.try_emplace(cls);
+    auto [it, fresh] = by_records.try_emplace(records.data());
     if (fresh)
-        for (const RecordLayout* r : data_records_of(cls)) collect(*r, it->second);
+        for (const RecordLayout* r : records) collect(*r, it->second);
     const auto f = it->second.find(path);
     return f == it->second.end() ? nullptr : f->second;
 }

@@ -23,10 +23,10 @@ struct LayoutRule {
     const std::int16_t* int16 = nullptr;
 };
 
-// The field of class `cls`'s data records (their blocks and entries
-// included) that the property `path` feeds and that a layout rule applies
-// to (a date or a numeric field), or nullptr.
-const FieldLayout* ruled_field(std::string_view cls, std::string_view path);
+// The field of the data records `records` (a generator class's `kRecords`,
+// their blocks and entries included) that the property `path` feeds and
+// that a layout rule applies to (a date or a numeric field), or nullptr.
+const FieldLayout* ruled_field(std::span<const RecordLayout* const> records, std::string_view path);
 
 void check_by_layout(std::span<const LayoutRule> rules, Findings& f);
 

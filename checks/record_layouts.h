@@ -11,9 +11,6 @@ namespace tamrel::checks {
 // The frame records VOSZ, DSKO, NCSZ, then the data records.
 std::span<const RecordLayout* const> record_layouts();
 
-// The data records a generator class writes (empty for the XML report).
-std::span<const RecordLayout* const> data_records_of(std::string_view cls);
-
 // The layout of the record that `record` begins with, or nullptr.
 const RecordLayout* find_layout(std::u32string_view record);
 

@@ -76,14 +76,24 @@ std::string check(const ProcedureDescriptor& p, Invocation& inv) {
     const Obj& obj = inv.object<Obj>(p.objParam);
     checks::Findings f;
     checks::check_report(obj, f);
-    checks::check_by_layout(bind_layout_rules(p.cls, obj), f);
+    checks::check_by_layout(bind_layout_rules(p.records, obj), f);
     inv.out()["findings"] = findings_json(f);
     return {};
 }
 
+// The reasons of a class's block table.
+template <class Gen>
+std::vector<std::string> reasons() {
+    std::vector<std::string> out;
+    constexpr std::string_view table = Gen::kBlockTable;
+    for (std::size_t at = 0; at + Gen::kBlockTableEntry <= table.size(); at += Gen::kBlockTableEntry)
+        out.emplace_back(table.substr(at, 2));
+    return out;
+}
+
 template <class Gen, class Obj, DataForm D, auto Proto>
 std::unique_ptr<ReportRunner> runner(const ProcedureDescriptor& p, const RunnerSettings& s) {
-    return std::make_unique<Runner<Gen, Obj, D, Proto>>(s, p.objParam, p.cls);
+    return std::make_unique<Runner<Gen, Obj, D, Proto>>(s, p.objParam);
 }
 
 }  // namespace describing
@@ -93,7 +103,7 @@ std::unique_ptr<ReportRunner> runner(const ProcedureDescriptor& p, const RunnerS
 template <class Gen, class Obj, FrameForm F, DataForm D, auto Proto>
 constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view objParam, std::string_view protoMethod) {
     using Frames = describing::FrameCalls<Gen, F>;
-    ProcedureDescriptor d{cls, objParam, protoMethod, F, D};
+    ProcedureDescriptor d{cls, objParam, protoMethod, F, D, Gen::kRecords};
     d.GenVOSZ = &Frames::vosz;
     if constexpr (F != FrameForm::Xml) d.GenDSKO = &Frames::dsko;
     d.GenNCSZ = &Frames::ncsz;
@@ -103,6 +113,10 @@ constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view ob
     d.Check = &describing::check<Obj>;
     d.Properties = &properties<Obj>;
     d.runner = &describing::runner<Gen, Obj, D, Proto>;
+    if constexpr (requires { Gen::kReasonProperty; }) {
+        d.reasonProperty = Gen::kReasonProperty;
+        d.reasons = &describing::reasons<Gen>;
+    }
     return d;
 }
 

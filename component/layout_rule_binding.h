@@ -1,4 +1,4 @@
-// The layout rules of a class (checks/layout_rules.h) bound to the members
+// The layout rules of a class's data records (checks/layout_rules.h) bound to the members
 // of one data object: once per report runner, whose object every report is
 // read into, or per call for the call protocol's Check.
 #pragma once
@@ -14,10 +14,10 @@
 namespace tamrel {
 
 template <class Obj>
-std::vector<checks::LayoutRule> bind_layout_rules(std::string_view cls, const Obj& obj) {
+std::vector<checks::LayoutRule> bind_layout_rules(std::span<const RecordLayout* const> records, const Obj& obj) {
     std::vector<checks::LayoutRule> rules;
     auto bind = [&](auto& member, const json_binding::TextPlace& at) {
-        const FieldLayout* field = checks::ruled_field(cls, at.text());
+        const FieldLayout* field = checks::ruled_field(records, at.text());
         if (!field) return;
         checks::LayoutRule rule{field};
         using M = std::remove_reference_t<decltype(member)>;

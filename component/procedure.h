@@ -12,6 +12,7 @@
 
 #include "core/date.h"
 #include "core/host.h"
+#include "core/layout.h"
 #include "core/objects.h"
 
 namespace tamrel {
@@ -52,6 +53,11 @@ struct ProcedureDescriptor {
     std::string_view protoMethod;  // the clsProtoEntry method; empty when there is none
     FrameForm frames;
     DataForm data;
+    std::span<const RecordLayout* const> records;  // the class's data records (`kRecords`)
+    // The property whose value decides which blocks a report has, and its
+    // values (a class with a block table); empty for the others.
+    std::string_view reasonProperty = {};
+    std::vector<std::string> (*reasons)() = nullptr;
 
     // The frame records, by typed call.
     std::string (*GenVOSZ)(const Host&, FrameValues&) = nullptr;

@@ -4,12 +4,10 @@
 #include <set>
 #include <sstream>
 
-#include "checks/record_layouts.h"
 #include "component/call_protocol.h"
 #include "component/call_registry.h"
 #include "component/procedure.h"
 #include "component/property_list.h"
-#include "reports/clsGenMeldung/clsGenMeldung.h"
 
 namespace tamrel {
 namespace {
@@ -93,16 +91,11 @@ std::set<std::string> missing(const ProcedureDescriptor& p, const json& given) {
 std::map<std::string, std::string> requirements(const ProcedureDescriptor& p) {
     std::map<std::string, std::string> when;
     const std::set<std::string> always = missing(p, json::object());
-    if (p.cls != "clsGenMeldung") {
-        for (const std::string& f : always) when[f] = "yes";
-        return when;
-    }
     std::map<std::string, std::set<std::string>> reasons;
-    constexpr std::string_view table = clsGenMeldung::kBlockTable;
-    for (std::size_t at = 0; at + 9 <= table.size(); at += 9) {
-        const std::string reason(table.substr(at, 2));
-        for (const std::string& f : missing(p, {{"Meldegrund", reason}})) reasons[f].insert(reason);
-    }
+    if (p.reasons)
+        for (const std::string& reason : p.reasons())
+            for (const std::string& f : missing(p, {{std::string(p.reasonProperty), reason}}))
+                reasons[f].insert(reason);
     for (const auto& [f, rs] : reasons) when[f] = "reasons " + joined(rs, ", ");
     for (const std::string& f : always) when[f] = "yes";
     return when;
@@ -113,7 +106,7 @@ std::string object_name(const ProcedureDescriptor& p) { return std::string(p.obj
 std::string property_page(const ProcedureDescriptor& p) {
     Places fields;
     std::set<const RecordLayout*> seen;
-    for (const RecordLayout* l : checks::data_records_of(p.cls)) places_of(*l, fields, seen);
+    for (const RecordLayout* l : p.records) places_of(*l, fields, seen);
     const auto required = requirements(p);
     std::ostringstream s;
     s << "# `" << object_name(p) << "`\n\n"

@@ -38,12 +38,12 @@ std::string call_gen_data(Gen& g, const Obj& o, const RunnerSettings& s, Datensa
 template <class Gen, class Obj, DataForm D, auto Proto>
 class Runner : public ReportRunner {
 public:
-    Runner(const RunnerSettings& s, std::string_view objParam, std::string_view cls)
+    Runner(const RunnerSettings& s, std::string_view objParam)
         : settings_(s),
           path_{&kRunnerArgs, objParam},
           gen_(*s.host),
           proto_entry_(*s.host),
-          layout_rules_(bind_layout_rules(cls, obj_)) {}
+          layout_rules_(bind_layout_rules(Gen::kRecords, obj_)) {}
 
     // The scanner first; a report it cannot vouch for (an error as a rule)
     // is read again through simdjson's DOM, which gives the result or the

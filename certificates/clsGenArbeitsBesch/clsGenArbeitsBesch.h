@@ -3,7 +3,9 @@
 #pragma once
 #include <string>
 
+#include <array>
 #include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
+#include "certificates/clsGenArbeitsBesch/DSAB_layout.h"
 #include "core/block_plan.h"
 #include "core/generator.h"
 
@@ -20,6 +22,10 @@ struct ArbeitsBeschPlan : BlockPlan<ArbeitsBeschBlock> {
 
 class clsGenArbeitsBesch : public FrameGenerator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 3> kRecords{&layouts::bea::kDSAB, &layouts::bea::kDSEU,
+                                                                 &layouts::bea::kDSNE};
+
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGTBA", "ALG", "clsGenEntgelt.GenVOSZ(", "clsGenErst.GenDSKO",
                                        "clsGenEntgelt.GenNCSZ("};

@@ -3,6 +3,8 @@
 #pragma once
 #include <string>
 
+#include <array>
+#include "certificates/clsGenEntgelt/DSLW_layout.h"
 #include "certificates/clsGenEntgelt/Entgelt.h"
 #include "core/generator.h"
 
@@ -17,6 +19,9 @@ struct EntgeltPlan {
 
 class clsGenEntgelt : public FrameGenerator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 1> kRecords{&layouts::eel::kDSLW};
+
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGEEL", "LEIST", "clsGenEntgelt.GenVOSZ(", "clsGenErst.GenDSKO",
                                        "clsGenEntgelt.GenNCSZ("};

@@ -3,9 +3,11 @@
 #pragma once
 #include <string>
 
+#include <array>
 #include "core/block_plan.h"
 #include "core/generator.h"
 #include "queries/clsGenBetrieb/Betrieb.h"
+#include "queries/clsGenBetrieb/DSBD_layout.h"
 
 namespace tamrel {
 
@@ -18,6 +20,9 @@ struct BetriebPlan : BlockPlan<BetriebBlock> {
 
 class clsGenBetrieb : public FrameGenerator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 1> kRecords{&layouts::betrieb::kDSBD};
+
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGDEU", "DEUEV", "clsGenBetrieb.GenVOSZ(", "clsGenBetrieb.GenDSKO(",
                                        "clsGenBetrieb.GenNCSZ("};

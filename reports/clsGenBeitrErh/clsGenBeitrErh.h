@@ -3,7 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include <array>
 #include "core/generator.h"
+#include "reports/clsGenBeitrErh/DSBE_layout.h"
 
 namespace tamrel {
 
@@ -11,6 +13,9 @@ struct BeitrErh;
 
 class clsGenBeitrErh : public Generator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 1> kRecords{&layouts::beitrerh::kDSBE};
+
     explicit clsGenBeitrErh(Host host = default_host()) : Generator(std::move(host)) {}
 
     std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,

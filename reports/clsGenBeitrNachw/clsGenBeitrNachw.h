@@ -4,7 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include <array>
 #include "core/generator.h"
+#include "reports/clsGenBeitrNachw/BW02_layout.h"
 
 namespace tamrel {
 
@@ -17,6 +19,10 @@ enum BeitrNachwVerfahren : std::int32_t { bnNormal = 0, bnEmpfBkn = 1, bnBNV = 4
 
 class clsGenBeitrNachw : public Generator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 2> kRecords{&layouts::beitrnachw::kBW02,
+                                                                 &layouts::beitrnachw::kBW03};
+
     explicit clsGenBeitrNachw(Host host = default_host()) : Generator(std::move(host)) {}
 
     std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,

@@ -3,8 +3,10 @@
 #pragma once
 #include <string>
 
+#include <array>
 #include "core/block_plan.h"
 #include "core/generator.h"
+#include "reports/clsGenErst/DSER_layout.h"
 #include "reports/clsGenErst/Erst.h"
 
 namespace tamrel {
@@ -15,6 +17,9 @@ using ErstPlan = BlockPlan<ErstBlock>;
 
 class clsGenErst : public FrameGenerator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 1> kRecords{&layouts::erst::kDSER};
+
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGAAG", "AAGER", "clsGenErst.GenVOSZ(", "clsGenErst.GenDSKO(",
                                        "clsGenErst.GenNCSZ("};

@@ -5,8 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include <array>
 #include "core/block_plan.h"
 #include "core/generator.h"
+#include "reports/clsGenMeldung/DSME_layout.h"
 #include "reports/clsGenMeldung/Meldung.h"
 
 namespace tamrel {
@@ -20,6 +22,9 @@ struct MeldungPlan : BlockPlan<MeldungBlock> {
 
 class clsGenMeldung : public Generator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 1> kRecords{&layouts::meldung::kDSME};
+
     explicit clsGenMeldung(Host host = default_host()) : Generator(std::move(host)) {}
 
     std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
@@ -32,6 +37,9 @@ public:
                         std::string_view strCount, std::int32_t enmVerfahren, const Date& datDate = {}) const;
 
     // The block-selection table: reason, then seven J/N flags, 35 entries.
+    // The reason is the property `kReasonProperty`: which blocks, and so
+    // which properties, a report needs depends on it.
+    static constexpr std::string_view kReasonProperty = "Meldegrund";
     static constexpr std::size_t kBlockTableEntry = 2 + 7;
     static constexpr std::string_view kBlockTable =
         "10JJJJNNJ11JJJJNNJ12JJJJNNJ13JJJJNNJ20NJNNNNN30JNNNNNJ31JNNNNNJ32JNNNNNJ33JNNNNNJ34JNNNNNJ35JNNNNNJ36JNNNNNJ"

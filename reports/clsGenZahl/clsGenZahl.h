@@ -3,8 +3,10 @@
 #pragma once
 #include <string>
 
+#include <array>
 #include "core/block_plan.h"
 #include "core/generator.h"
+#include "reports/clsGenZahl/DSVZ_layout.h"
 #include "reports/clsGenZahl/Zahl.h"
 
 namespace tamrel {
@@ -18,6 +20,9 @@ struct ZahlPlan : BlockPlan<ZahlBlock> {
 
 class clsGenZahl : public FrameGenerator {
 public:
+    // The data records it writes (each with its blocks), as they are declared.
+    static constexpr std::array<const RecordLayout*, 1> kRecords{&layouts::zahl::kDSVZ};
+
     // Procedure codes and the context texts of the frame methods.
     static constexpr FrameSpec kFrames{"AGDAZ", "ZAHLS", "clsGenZahl.GenVOSZ(", "clsGenZahl.GenDSKO(",
                                        "clsGenZahl.GenNCSZ("};

@@ -5,7 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include <array>
 #include "core/generator.h"
+#include "core/layout.h"
 
 namespace tamrel {
 
@@ -13,6 +15,9 @@ struct Asyl;
 
 class clsGenAsyl : public Generator {
 public:
+    // The data records it writes: none of fixed width (the report is XML).
+    static constexpr std::array<const RecordLayout*, 0> kRecords{};
+
     explicit clsGenAsyl(Host host = default_host()) : Generator(std::move(host)) {}
 
     std::string GenVOSZ(std::string_view strBNRAb, std::string_view strBNREm, std::string_view strFileNr,
