@@ -13,8 +13,9 @@ using enum ArbeitsBeschBlock;
 namespace L = layouts::bea;
 
 // Positions 1-161, the same in the three records; DBNA, DBAN and DBAG always follow.
-void head(Writer& w, ArbeitsBeschPlan& plan, const L::CertificateHead& h, const ArbeitsBesch& a,
-          const DatensatzData& dd, const Date& date) {
+template <const L::CertificateHead& h>
+[[gnu::always_inline]] inline void head(Writer& w, ArbeitsBeschPlan& plan, const ArbeitsBesch& a,
+                                        const DatensatzData& dd, const Date& date) {
     const Vorgang& v = a.Vorgang;
     w.put(h.Kennung).put(h.Version).put(h.Verfahren).put(h.strBNRAb, dd.strBNRAb);
     w.stamp(h.Erstellt, a.ErstellDatum, 1, date).put(h.strMicroseconds, dd.strMicroseconds);
@@ -40,7 +41,7 @@ ArbeitsBeschPlan clsGenArbeitsBesch::GenDSAB(std::string& out, const ArbeitsBesc
         ArbeitsBeschPlan plan;
         Writer w(out, line);
         using namespace L::DSAB;
-        head(w, plan, Head, a, dd, date);
+        head<Head>(w, plan, a, dd, date);
         w.put(AnzahlDBSE, a.AnzahlDBSE).put(Reserve).announce(MitDBSA, plan, DBSA, true);
         w.put(AnzahlDBSB, a.AnzahlDBSB).put(AnzahlDBAZ, a.AnzahlDBAZ);
         w.put(AnzahlDBEN, a.AnzahlDBEN).put(AnzahlDBFZ, a.AnzahlDBFZ);
@@ -56,7 +57,7 @@ ArbeitsBeschPlan clsGenArbeitsBesch::GenDSEU(std::string& out, const ArbeitsBesc
         ArbeitsBeschPlan plan;
         Writer w(out, line);
         using namespace L::DSEU;
-        head(w, plan, Head, a, dd, date);
+        head<Head>(w, plan, a, dd, date);
         w.put(AnzahlDBSE, a.AnzahlDBSE).put(Reserve).announce(MitDBSA, plan, DBSA, true);
         w.put(AnzahlDBSB, a.AnzahlDBSB).put(AnzahlDBEZ, a.AnzahlDBEZ);
         w.put(AnzahlDBEE, a.AnzahlDBEE).put(AnzahlDBFZ, a.AnzahlDBFZ).announce(MitDBKU, plan, DBKU, true);
@@ -71,7 +72,7 @@ ArbeitsBeschPlan clsGenArbeitsBesch::GenDSNE(std::string& out, const ArbeitsBesc
         ArbeitsBeschPlan plan;
         Writer w(out, line);
         using namespace L::DSNE;
-        head(w, plan, Head, a, dd, date);
+        head<Head>(w, plan, a, dd, date);
         w.announce(MitDBNE, plan, DBNE, true).put(Reserve).announce(MitDBSA, plan, DBSA, true);
         w.announce(MitDBNB, plan, DBNB, true).announce(MitDBHN, plan, DBHN, bea::GenDBHN(plan.dbhn, a));
         w.check(L::kDSNE);

@@ -30,7 +30,8 @@ Cascade first_non_empty(std::initializer_list<const std::string*> amounts) {
 }
 
 // The common start of DBAU, DBBT and DBZU.
-void head(Writer& w, const ClaimHead& h, const Erst& e) {
+template <const ClaimHead& h>
+[[gnu::always_inline]] inline void head(Writer& w, const Erst& e) {
     w.put(h.Kennung).put(h.DBAAEntfaellt, digit(e.DBAAEntfaellt)).put(h.ZeitraumBeginn, e.ZeitraumBeginn);
     w.put(h.ZeitraumEnde, e.ZeitraumEnde).put(h.Ausgleichsart2, digit(e.Ausgleichsart == 2));
 }
@@ -45,7 +46,7 @@ void clsGenErst::GenDBAU(std::string& out, const Erst& e) {
         const Cascade value = first_non_empty({&e.Wert1, &e.Wert2, &e.Wert3});
         Writer w(out, line);
         using namespace DBAU;
-        head(w, Head, e);
+        head<Head>(w, e);
         w.put(FirstOfEntgelt14, pay.amount).put(WhichEntgelt, pay.code).jn(AngabeJN2, e.AngabeJN2);
         w.put(FirstOfWert13, value.amount).put(WhichWert, value.code);
         w.put(Satz1, e.Satz1).put(Satz2, e.Satz2).put(Betrag1, e.Betrag1).put(Betrag2, e.Betrag2);
@@ -64,7 +65,7 @@ void clsGenErst::GenDBBT(std::string& out, const Erst& e) {
     routine("clsGenErst.GenDBBT", [&](int& line) {
         Writer w(out, line);
         using namespace DBBT;
-        head(w, Head, e);
+        head<Head>(w, e);
         if (!e.Zusatzdatum.empty())
             w.put(ZusatzdatumDatum, e.Zusatzdatum);
         else
@@ -80,7 +81,7 @@ void clsGenErst::GenDBZU(std::string& out, const Erst& e) {
     routine("clsGenErst.GenDBZU", [&](int& line) {
         Writer w(out, line);
         using namespace DBZU;
-        head(w, Head, e);
+        head<Head>(w, e);
         w.put(ZuschussBeginn, e.ZuschussBeginn).put(ZuschussEnde, e.ZuschussEnde).put(Entgelt4, e.Entgelt4);
         w.put(ZuschussBetrag1, e.ZuschussBetrag1).put(ZuschussBetrag2, e.ZuschussBetrag2);
         w.put(ZuschussBetrag3, e.ZuschussBetrag3).put(ZuschussBetrag4, e.ZuschussBetrag4);
