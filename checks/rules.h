@@ -97,6 +97,10 @@ inline constexpr Rule kAmountDigits{"AMOUNT-FIELD", E,
 inline constexpr Rule kDateTime{"DATETIME", E, "kein gültiger Zeitpunkt (JJJJMMTTHHMMSS)",
                                 "not a date and time (YYYYMMDDHHMMSS)"};
 
+inline constexpr Rule kMarkup{"MARKUP", E,
+                              "Text enthält ein Markup-Zeichen (&, < oder >), das eine XML-Meldung nicht tragen kann",
+                              "holds a markup character (&, < or >), which an XML report cannot carry"};
+
 inline constexpr const Rule* kRules[] = {&kVsnrForm,       &kVsnrArea,          &kVsnrDate,
                                          &kVsnrCheckDigit, &kBnrForm,           &kBnrCheckDigit,
                                          &kDate,           &kCreationDate,      &kMonth,
@@ -110,6 +114,6 @@ inline constexpr const Rule* kRules[] = {&kVsnrForm,       &kVsnrArea,          
                                          &kFileFrame,      &kFileCount,         &kFileParties,
                                          &kRecordLength,   &kFieldLiteral,      &kDateTime,
                                          &kBlockMissing,   &kBlockUnannounced,  &kRecordUnknown,
-                                         &kFlag,           &kAmountDigits};
+                                         &kFlag,           &kAmountDigits,      &kMarkup};
 
 }  // namespace tamrel::checks

@@ -13,6 +13,7 @@
 #include "component/text_properties.h"
 #include "core/error.h"
 #include "core/printable.h"
+#include "xml/clsGenAsyl/document.h"
 #include "xml/clsGenAsyl/markup_check.h"
 
 namespace tamrel::cli {
@@ -262,9 +263,8 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     };
     if (xml) {
         check_frame_markup(gen.frame());
-        out.write(gen.encoded_line(
-            std::string("<?xml version=\"1.0\" encoding=\"") + encoding_name(settings.encoding) + "\"?>", {"header"}));
-        out.write(gen.encoded_line("<kotkv xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\">", {"header"}));
+        out.write(gen.encoded_line(xml::declaration(encoding_name(settings.encoding)), {"header"}));
+        out.write(gen.encoded_line(xml::kRootOpen, {"header"}));
     }
     const Where vosz{"header VOSZ"}, dsko{"DSKO"}, ncsz{"trailer NCSZ"};
     out.write(gen.encoded_line(checked(gen.vosz(), vosz), vosz));
@@ -319,7 +319,7 @@ TransferCounts write_transfer(const Job& job, ReportSource& source, const Transf
     }
     const std::size_t count = counts.written + (xml ? 0 : 1);
     out.write(gen.encoded_line(checked(gen.ncsz(count), ncsz), ncsz));
-    if (xml) out.write(gen.encoded_line("</kotkv>", {"trailer"}));
+    if (xml) out.write(gen.encoded_line(xml::kRootClose, {"trailer"}));
     return counts;
 }
 

@@ -8,13 +8,16 @@
 #include <string_view>
 #include <type_traits>
 
+#include "checks/rules.h"
 #include "component/call_registry.h"
 #include "component/layout_rule_binding.h"
 #include "component/procedure.h"
 #include "component/property_list.h"
 #include "component/shared_bindings.h"
+#include "component/text_properties.h"
 #include "component/typed_runner.h"
 #include "protocol/clsProtoEntry.h"
+#include "xml/clsGenAsyl/markup_check.h"
 
 namespace tamrel {
 
@@ -70,6 +73,16 @@ std::string create_proto(const ProcedureDescriptor& p, Invocation& inv) {
     return (clsProtoEntry(inv.host()).*Proto)(obj, error, text);
 }
 
+// An XML report's texts go into its document as they are: each one that
+// holds a markup character is a finding (the file writer refuses it).
+template <class Obj>
+void check_markup(const Obj& obj, checks::Findings& f) {
+    json_binding::each_text(obj, std::string(), [&](const std::string& name, std::string_view value) {
+        if (xml::holds_markup(value)) f.add(checks::kMarkup, name, value);
+        return false;
+    });
+}
+
 // The findings go to out.findings; the result is empty.
 template <class Obj>
 std::string check(const ProcedureDescriptor& p, Invocation& inv) {
@@ -77,6 +90,7 @@ std::string check(const ProcedureDescriptor& p, Invocation& inv) {
     checks::Findings f;
     checks::check_report(obj, f);
     checks::check_by_layout(bind_layout_rules(p.records, obj), f);
+    if (p.xml()) check_markup(obj, f);
     inv.out()["findings"] = findings_json(f);
     return {};
 }

@@ -1,6 +1,7 @@
 // The XML report's builders insert every text as it is, so a text holding a
-// markup character would break the document: this check runs before them,
-// wherever texts go into an XML report.
+// markup character would break the document: the rule MARKUP of the checks
+// and the file writer's refusal run before them, wherever texts go into an
+// XML report.
 #pragma once
 #include <string_view>
 
