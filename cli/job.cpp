@@ -12,7 +12,8 @@
 #include "component/json_binding.h"
 #include "component/json_limits.h"
 #include "component/procedure_methods.h"
-#include "component/shared_bindings.h"
+#include "component/bindings/field_table.h"
+#include "core/objects_properties.h"
 
 namespace tamrel::cli {
 

@@ -13,7 +13,8 @@
 #include "component/layout_rule_binding.h"
 #include "component/procedure.h"
 #include "component/property_list.h"
-#include "component/shared_bindings.h"
+#include "component/bindings/field_table.h"
+#include "core/objects_properties.h"
 #include "component/text_properties.h"
 #include "component/typed_runner.h"
 #include "protocol/clsProtoEntry.h"
@@ -125,7 +126,7 @@ constexpr ProcedureDescriptor describe(std::string_view cls, std::string_view ob
     if constexpr (!std::is_same_v<decltype(Proto), std::nullptr_t>)
         d.CreateProto = &describing::create_proto<Obj, Proto>;
     d.Check = &describing::check<Obj>;
-    d.Properties = &properties<Obj>;
+    d.Properties = &property_rows<Obj>;
     d.runner = &describing::runner<Gen, Obj, D, Proto>;
     if constexpr (requires { Gen::kReasonProperty; }) {
         d.reasonProperty = Gen::kReasonProperty;

@@ -84,7 +84,7 @@ void walk(const std::string& prefix, std::vector<PropertyRow>& rows) {
 
 // The rows of data object `T`.
 template <class T>
-std::vector<PropertyRow> properties() {
+std::vector<PropertyRow> property_rows() {
     std::vector<PropertyRow> rows;
     property_list::walk<T>("", rows);
     return rows;

@@ -1,7 +1,5 @@
-// The property tables of the data objects and structures: each type declares
-// one table of (property name, member) pairs, and every reader of data
-// objects (the JSON readers, the COM server's late-bound reader) walks it.
-// Standard library only.
+// What the readers of data objects share: the property tables' names, the
+// request error and the path of a value. Standard library only.
 #pragma once
 #include <cstddef>
 #include <stdexcept>
@@ -9,43 +7,19 @@
 #include <string_view>
 #include <tuple>
 
+#include "core/property_table.h"
+
 namespace tamrel::json_binding {
 
-// A request that cannot be carried out as written.
-struct RequestError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-template <class T, class M>
-struct Field {
-    std::string_view name;
-    M T::*member;
-};
-template <class T, class M>
-constexpr Field<T, M> field(std::string_view name, M T::*member) {
-    return {name, member};
-}
-
-// A group of properties spelt with a common prefix ("MgdVsnr", "MgdKvnr", …)
-// that fill one member of a nested type with its own table.
-template <class T, class M>
-struct Prefixed {
-    std::string_view prefix;
-    M T::*member;
-};
-template <class T, class M>
-constexpr Prefixed<T, M> prefixed(std::string_view prefix, M T::*member) {
-    return {prefix, member};
-}
-
-// Specialise with `static constexpr auto fields = std::make_tuple(field(...), ...);`
-template <class T>
-struct Binding;
-
-template <class T>
-concept Bound = requires {
-    Binding<T>::fields;
-};
+// The property tables live beside their data objects (core/property_table.h).
+using properties::Binding;
+using properties::Bound;
+using properties::fail;
+using properties::Field;
+using properties::field;
+using properties::Prefixed;
+using properties::prefixed;
+using properties::RequestError;
 
 // Where a value sits ("args.objMeldung.Vorgang.PLZ"), kept as a chain of
 // pieces and turned into text only when a request error is reported.
@@ -69,9 +43,6 @@ struct Path {
 // 16-bit index.
 inline constexpr std::size_t kMaxItems = 32767;
 
-[[noreturn]] inline void fail(const std::string& path, std::string_view what) {
-    throw RequestError(path + ": " + std::string(what));
-}
 [[noreturn]] inline void fail(const Path& path, std::string_view what) { fail(path.text(), what); }
 
 }  // namespace tamrel::json_binding

@@ -3,7 +3,8 @@
 #include <new>
 
 #include "component/com/com_error.h"
-#include "component/shared_bindings.h"
+#include "component/bindings/field_table.h"
+#include "core/objects_properties.h"
 
 namespace tamrel::com {
 

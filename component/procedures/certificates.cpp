@@ -1,5 +1,6 @@
 // The employment and earnings certificates.
-#include "component/bindings/certificates.h"
+#include "certificates/clsGenArbeitsBesch/ArbeitsBesch_properties.h"
+#include "certificates/clsGenEntgelt/Entgelt_properties.h"
 #include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
 #include "component/describe.h"

@@ -1,6 +1,9 @@
 // Establishment master data, the insurance-number query and the
 // accident-insurance procedures.
-#include "component/bindings/queries.h"
+#include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV_properties.h"
+#include "queries/clsGenAbfrVers/AbfrVers_properties.h"
+#include "queries/clsGenBetrieb/Betrieb_properties.h"
+#include "queries/clsGenLohnnachweis/Lohnnachweis_properties.h"
 #include "component/describe.h"
 #include "component/procedures/families.h"
 #include "queries/clsGenAbfrStammdatenUV/clsGenAbfrStammdatenUV.h"

@@ -1,9 +1,10 @@
 // The DEUEV report, the contribution statement and collection, the
 // reimbursement and the pay-agency report.
-#include "component/bindings/BeitrErh.h"
-#include "component/bindings/BeitrNachw.h"
-#include "component/bindings/Meldung.h"
-#include "component/bindings/payments.h"
+#include "reports/clsGenBeitrErh/BeitrErh_properties.h"
+#include "reports/clsGenBeitrNachw/BeitrNachw_properties.h"
+#include "reports/clsGenMeldung/Meldung_properties.h"
+#include "reports/clsGenErst/Erst_properties.h"
+#include "reports/clsGenZahl/Zahl_properties.h"
 #include "component/describe.h"
 #include "component/procedures/families.h"
 #include "reports/clsGenBeitrErh/clsGenBeitrErh.h"

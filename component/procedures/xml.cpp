@@ -1,5 +1,5 @@
 // The XML report: no communication record, no protocol line.
-#include "component/bindings/Asyl.h"
+#include "xml/clsGenAsyl/Asyl_properties.h"
 #include "component/describe.h"
 #include "component/procedures/families.h"
 #include "xml/clsGenAsyl/clsGenAsyl.h"

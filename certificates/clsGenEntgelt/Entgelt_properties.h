@@ -1,187 +1,14 @@
+// The property table of the data object `Entgelt` and its parts: each property's name and
+// member, in the interface order. Every reader of data objects walks it (the
+// JSON readers, the COM server's late-bound reader); the compile-time check
+// below holds it to the members.
 #pragma once
-#include "certificates/clsGenArbeitsBesch/ArbeitsBesch.h"
 #include "certificates/clsGenEntgelt/Entgelt.h"
-#include "component/shared_bindings.h"
+#include "core/contact_block.h"
+#include "core/objects_properties.h"
+#include "core/property_table.h"
 
-namespace tamrel::json_binding {
-
-template <>
-struct Binding<bea::DBSE> {
-    using S = bea::DBSE;
-    static constexpr auto fields =
-        std::make_tuple(field("STKL", &S::STKL), field("FKT", &S::FKT), field("KINDFRB", &S::KINDFRB),
-                        field("AESTEDATBEG", &S::AESTEDATBEG));
-};
-
-template <>
-struct Binding<bea::DBSB> {
-    using S = bea::DBSB;
-    static constexpr auto fields = std::make_tuple(field("PERSBYGRBEG", &S::PERSBYGRBEG), field("BYGRB", &S::BYGRB),
-                                                   field("PERSGRB", &S::PERSGRB));
-};
-
-template <>
-struct Binding<bea::DBAZ> {
-    using S = bea::DBAZ;
-    static constexpr auto fields = std::make_tuple(field("AZWOECH", &S::AZWOECH), field("AZVG", &S::AZVG),
-                                                   field("AZAEGR", &S::AZAEGR), field("AZAEBEG", &S::AZAEBEG));
-};
-
-template <>
-struct Binding<bea::DBEN> {
-    using S = bea::DBEN;
-    static constexpr auto fields = std::make_tuple(
-        field("MONATBEG", &S::MONATBEG), field("MONATEND", &S::MONATEND), field("KENNZRK", &S::KENNZRK),
-        field("SVBREGLF", &S::SVBREGLF), field("SVBREGE", &S::SVBREGE), field("FIBR", &S::FIBR),
-        field("TATSURLTAGE", &S::TATSURLTAGE), field("URLEG", &S::URLEG), field("URLEGGEZ", &S::URLEGGEZ),
-        field("MIA", &S::MIA), field("MIABEG", &S::MIABEG), field("MIAEND", &S::MIAEND));
-};
-
-template <>
-struct Binding<bea::DBEZ> {
-    using S = bea::DBEZ;
-    static constexpr auto fields =
-        std::make_tuple(field("AZWOECH", &S::AZWOECH), field("AZAEGR", &S::AZAEGR), field("AZAEBEG", &S::AZAEBEG),
-                        field("AZDUWOECH", &S::AZDUWOECH), field("ATDUWOE", &S::ATDUWOE));
-};
-
-template <>
-struct Binding<bea::DBEE> {
-    using S = bea::DBEE;
-    static constexpr auto fields =
-        std::make_tuple(field("MONATBEGEU", &S::MONATBEGEU), field("MONATENDEU", &S::MONATENDEU),
-                        field("STBREGLFEU", &S::STBREGLFEU), field("STBREGSOEU", &S::STBREGSOEU));
-};
-
-template <>
-struct Binding<bea::DBFZ> {
-    using S = bea::DBFZ;
-    static constexpr auto fields =
-        std::make_tuple(field("FEHLBEG", &S::FEHLBEG), field("FEHLART", &S::FEHLART), field("FEHLEND", &S::FEHLEND));
-};
-
-template <>
-struct Binding<bea::DBAG> {
-    using S = bea::DBAG;
-    static constexpr auto fields =
-        std::make_tuple(field("AGAPE", &S::AGAPE), field("AGAPP", &S::AGAPP), field("AGTELE", &S::AGTELE),
-                        field("AGTELP", &S::AGTELP), field("AGEMAILE", &S::AGEMAILE), field("AGEMAILP", &S::AGEMAILP));
-};
-
-template <>
-struct Binding<bea::DBAB> {
-    using S = bea::DBAB;
-    static constexpr auto fields =
-        std::make_tuple(field("BORTLDKZ", &S::BORTLDKZ), field("BPLZ", &S::BPLZ), field("BORT", &S::BORT));
-};
-
-template <>
-struct Binding<bea::DBNE> {
-    using S = bea::DBNE;
-    static constexpr auto fields = std::make_tuple(
-        field("AVEND", &S::AVEND), field("MONATBEG", &S::MONATBEG), field("MONATEND", &S::MONATEND),
-        field("SVBREGLF", &S::SVBREGLF), field("SVBREGE", &S::SVBREGE), field("SVBREGEBEG", &S::SVBREGEBEG),
-        field("SVBREGEEND", &S::SVBREGEEND), field("NETTOLFD", &S::NETTOLFD), field("NETTOEINMAL", &S::NETTOEINMAL),
-        field("AZWOECH", &S::AZWOECH), field("TTAUFENT", &S::TTAUFENT), field("BVUNFORT", &S::BVUNFORT),
-        field("BVUNFORTU", &S::BVUNFORTU));
-};
-
-template <>
-struct Binding<bea::DBSA> {
-    using S = bea::DBSA;
-    static constexpr auto fields =
-        std::make_tuple(field("BYGRA", &S::BYGRA), field("PERSGRA", &S::PERSGRA), field("KNAPPRV", &S::KNAPPRV),
-                        field("KNAPPRVBEG", &S::KNAPPRVBEG), field("TTSC", &S::TTSC));
-};
-
-template <>
-struct Binding<bea::DBHA> {
-    using S = bea::DBHA;
-    static constexpr auto fields = std::make_tuple(field("URLTAGE", &S::URLTAGE));
-};
-
-template <>
-struct Binding<bea::DBKE> {
-    using S = bea::DBKE;
-    static constexpr auto fields = std::make_tuple(
-        field("AVEND", &S::AVEND), field("BVEND", &S::BVEND), field("AVBFR", &S::AVBFR),
-        field("AVBFSCHR", &S::AVBFSCHR), field("AVBFURSP", &S::AVBFURSP), field("AVBFABSCHL", &S::AVBFABSCHL),
-        field("VLBAV", &S::VLBAV), field("AVBFABVL", &S::AVBFABVL), field("AVBFRL", &S::AVBFRL),
-        field("AVKUEAM", &S::AVKUEAM), field("AVUWFWZ", &S::AVUWFWZ), field("AVUWFWZBEG", &S::AVUWFWZBEG),
-        field("AVLETZTRL", &S::AVLETZTRL), field("AVKUEDU", &S::AVKUEDU), field("AVKUESCH", &S::AVKUESCH),
-        field("AVKUEBETR", &S::AVKUEBETR), field("AVKUESCHUKL", &S::AVKUESCHUKL), field("AVKUEZUST", &S::AVKUEZUST),
-        field("AVKUEAL", &S::AVKUEAL), field("AVKUEALAM", &S::AVKUEALAM), field("AVAMDAT", &S::AVAMDAT),
-        field("AVKUEZVB", &S::AVKUEZVB), field("SAW", &S::SAW), field("SAWPRSC", &S::SAWPRSC),
-        field("AGKUEAM", &S::AGKUEAM), field("AGKUEZU", &S::AGKUEZU), field("KF", &S::KF), field("KFZE", &S::KFZE),
-        field("KFBZ", &S::KFBZ), field("KA", &S::KA), field("KAU", &S::KAU), field("KAUAUG", &S::KAUAUG),
-        field("OKGL", &S::OKGL), field("OKGLFG", &S::OKGLFG), field("AVENLZ", &S::AVENLZ),
-        field("AVENLZG", &S::AVENLZG), field("ABF", &S::ABF), field("ABFHOE", &S::ABFHOE), field("BETZU", &S::BETZU),
-        field("BVEGEN", &S::BVEGEN), field("BVEGENB", &S::BVEGENB), field("AVENUAG", &S::AVENUAG),
-        field("BVENUR", &S::BVENUR), field("AVENVL", &S::AVENVL), field("AVENVGB", &S::AVENVGB),
-        field("AVENVG", &S::AVENVG), field("ABFMONAT", &S::ABFMONAT), field("ABFGEZ", &S::ABFGEZ),
-        field("BFHG", &S::BFHG));
-};
-
-template <>
-struct Binding<bea::DBKU> {
-    using S = bea::DBKU;
-    static constexpr auto fields = std::make_tuple(
-        field("AVEND", &S::AVEND), field("BVEND", &S::BVEND), field("AVBFR", &S::AVBFR),
-        field("AVBFURSPR", &S::AVBFURSPR), field("AVUWFWZ", &S::AVUWFWZ), field("AVUWFWZBEG", &S::AVUWFWZBEG),
-        field("AVKUEAM", &S::AVKUEAM), field("AVKUEDU", &S::AVKUEDU), field("AVKUEBETR", &S::AVKUEBETR),
-        field("AVKUESCHUKL", &S::AVKUESCHUKL), field("AVKUEAL", &S::AVKUEAL), field("AVENLZ", &S::AVENLZ),
-        field("AVENLZG", &S::AVENLZG), field("ABF", &S::ABF), field("ABFHOE", &S::ABFHOE), field("BETZU", &S::BETZU),
-        field("BVEGEN", &S::BVEGEN), field("BVEGENB", &S::BVEGENB), field("AVENUAG", &S::AVENUAG),
-        field("URLTAGEAV", &S::URLTAGEAV), field("AVENUR", &S::AVENUR), field("UAGHOE", &S::UAGHOE),
-        field("AVVERZ", &S::AVVERZ), field("KF", &S::KF), field("KFZE", &S::KFZE), field("KFBZ", &S::KFBZ));
-};
-
-template <>
-struct Binding<bea::DBNB> {
-    using S = bea::DBNB;
-    static constexpr auto fields =
-        std::make_tuple(field("STU1KW", &S::STU1KW), field("STU2KW", &S::STU2KW), field("STU3KW", &S::STU3KW),
-                        field("STU4KW", &S::STU4KW), field("STU5KW", &S::STU5KW), field("STU6KW", &S::STU6KW));
-};
-
-template <>
-struct Binding<bea::DBHN> {
-    using S = bea::DBHN;
-    static constexpr auto fields =
-        std::make_tuple(field("HEIMARBAUSG", &S::HEIMARBAUSG), field("HEIMARBABL", &S::HEIMARBABL));
-};
-
-template <>
-struct Binding<ArbeitsBesch> {
-    using A = ArbeitsBesch;
-    static constexpr auto fields = std::make_tuple(
-        field("DatensatzNr", &A::DatensatzNr), field("Feld151", &A::Feld151), field("ErstellDatum", &A::ErstellDatum),
-        field("Verfahren", &A::Verfahren), field("KENNZAB", &A::KENNZAB), field("DBAG", &A::DBAG),
-        field("DBAB", &A::DBAB), field("DBNE", &A::DBNE), field("DBSA", &A::DBSA), field("DBHA", &A::DBHA),
-        field("DBKE", &A::DBKE), field("DBKU", &A::DBKU), field("DBNB", &A::DBNB), field("DBHN", &A::DBHN),
-        field("DBSB", &A::DBSB), field("AnzahlDBSB", &A::AnzahlDBSB), field("DBSE", &A::DBSE),
-        field("AnzahlDBSE", &A::AnzahlDBSE), field("DBAZ", &A::DBAZ), field("AnzahlDBAZ", &A::AnzahlDBAZ),
-        field("DBEN", &A::DBEN), field("AnzahlDBEN", &A::AnzahlDBEN), field("DBEZ", &A::DBEZ),
-        field("AnzahlDBEZ", &A::AnzahlDBEZ), field("DBEE", &A::DBEE), field("AnzahlDBEE", &A::AnzahlDBEE),
-        field("DBFZ", &A::DBFZ), field("AnzahlDBFZ", &A::AnzahlDBFZ), field("Vorgang", &A::Vorgang));
-
-    // An absent count is the number of items given.
-    template <class V>
-    static void finish(ArbeitsBesch& a, const V& j) {
-        auto count = [&](const char* name, std::size_t size, std::int16_t& out) {
-            if (j.has(name)) return;
-            if (size > 32767) fail(name, "more than 32767 items");
-            out = static_cast<std::int16_t>(size);
-        };
-        count("AnzahlDBSB", a.DBSB.size(), a.AnzahlDBSB);
-        count("AnzahlDBSE", a.DBSE.size(), a.AnzahlDBSE);
-        count("AnzahlDBAZ", a.DBAZ.size(), a.AnzahlDBAZ);
-        count("AnzahlDBEN", a.DBEN.size(), a.AnzahlDBEN);
-        count("AnzahlDBEZ", a.DBEZ.size(), a.AnzahlDBEZ);
-        count("AnzahlDBEE", a.DBEE.size(), a.AnzahlDBEE);
-        count("AnzahlDBFZ", a.DBFZ.size(), a.AnzahlDBFZ);
-    }
-};
+namespace tamrel::properties {
 
 template <>
 struct Binding<eel::DBAL> {
@@ -193,7 +20,6 @@ struct Binding<eel::DBAL> {
         field("KUGBEGINN", &S::KUGBEGINN), field("KUGENDE", &S::KUGENDE), field("LAGBEGINN1", &S::LAGBEGINN1),
         field("LAGENDE1", &S::LAGENDE1), field("LAGBEGINN2", &S::LAGBEGINN2), field("LAGENDE2", &S::LAGENDE2));
 };
-
 template <>
 struct Binding<eel::DBAE> {
     using S = eel::DBAE;
@@ -206,7 +32,6 @@ struct Binding<eel::DBAE> {
         field("EAZBEGINN3", &S::EAZBEGINN3), field("EAZENDE3", &S::EAZENDE3), field("BRUTTO3", &S::BRUTTO3),
         field("NETTO3", &S::NETTO3), field("EZKV", &S::EZKV), field("EZRV", &S::EZRV), field("EZALV", &S::EZALV));
 };
-
 template <>
 struct Binding<eel::DBZA> {
     using S = eel::DBZA;
@@ -215,7 +40,6 @@ struct Binding<eel::DBZA> {
                         field("AZBEGINN2", &S::AZBEGINN2), field("AZENDE2", &S::AZENDE2), field("MAZR2", &S::MAZR2),
                         field("AZBEGINN3", &S::AZBEGINN3), field("AZENDE3", &S::AZENDE3), field("MAZR3", &S::MAZR3));
 };
-
 template <>
 struct Binding<eel::DBEE> {
     using S = eel::DBEE;
@@ -223,14 +47,12 @@ struct Binding<eel::DBEE> {
         std::make_tuple(field("EELABAG", &S::EELABAG), field("EELABSV", &S::EELABSV), field("EELENDE", &S::EELENDE),
                         field("EELENDEGRUND", &S::EELENDEGRUND));
 };
-
 template <>
 struct Binding<eel::DBAW> {
     using S = eel::DBAW;
     static constexpr auto fields =
         std::make_tuple(field("TAGE1", &S::TAGE1), field("TAGE2", &S::TAGE2), field("TAGE3", &S::TAGE3));
 };
-
 template <>
 struct Binding<eel::DBFR> {
     using S = eel::DBFR;
@@ -242,7 +64,6 @@ struct Binding<eel::DBFR> {
                         field("BEZFREISTJAHR", &S::BEZFREISTJAHR), field("FREISTBRUTTO", &S::FREISTBRUTTO),
                         field("FREISTNETTO", &S::FREISTNETTO), field("FREISTEZ", &S::FREISTEZ));
 };
-
 template <>
 struct Binding<eel::DBUN> {
     using S = eel::DBUN;
@@ -251,7 +72,6 @@ struct Binding<eel::DBUN> {
                         field("ZUSCHL1", &S::ZUSCHL1), field("ZUSCHL2", &S::ZUSCHL2), field("ZUSCHL3", &S::ZUSCHL3),
                         field("FREISTZUSCHL", &S::FREISTZUSCHL), field("EZUV", &S::EZUV));
 };
-
 template <>
 struct Binding<eel::DBMU> {
     using S = eel::DBMU;
@@ -271,7 +91,6 @@ struct Binding<eel::DBMU> {
         field("AZENTSCHSTD3", &S::AZENTSCHSTD3), field("AZENTSCHTAGE3", &S::AZENTSCHTAGE3), field("NETTO3", &S::NETTO3),
         field("AZWOECH", &S::AZWOECH));
 };
-
 template <>
 struct Binding<eel::Vorerkrankung> {
     using S = eel::Vorerkrankung;
@@ -281,14 +100,12 @@ struct Binding<eel::Vorerkrankung> {
                         field("TEILNACHWEISAUENDE", &S::TEILNACHWEISAUENDE), field("KZAU", &S::KZAU),
                         field("TEILANRAUBEGINN", &S::TEILANRAUBEGINN), field("TEILANRAUENDE", &S::TEILANRAUENDE));
 };
-
 template <>
 struct Binding<eel::DBHE> {
     using S = eel::DBHE;
     static constexpr auto fields = std::make_tuple(field("ZAHLBEGINN", &S::ZAHLBEGINN),
                                                    field("EELBRUTTO", &S::EELBRUTTO), field("EELNETTO", &S::EELNETTO));
 };
-
 template <>
 struct Binding<eel::DBBE> {
     using S = eel::DBBE;
@@ -296,7 +113,6 @@ struct Binding<eel::DBBE> {
         std::make_tuple(field("ZAHLBEGINN", &S::ZAHLBEGINN), field("BEITRPFLBRUTTO", &S::BEITRPFLBRUTTO),
                         field("BEITRPFLNETTO", &S::BEITRPFLNETTO));
 };
-
 template <>
 struct Binding<eel::DBLT> {
     using S = eel::DBLT;
@@ -307,7 +123,6 @@ struct Binding<eel::DBLT> {
                         field("MMVERZICHTBEITRAGSFREI", &S::MMVERZICHTBEITRAGSFREI),
                         field("AEUEBERGANGSBEREICH", &S::AEUEBERGANGSBEREICH), field("RECHTSKREIS", &S::RECHTSKREIS));
 };
-
 template <>
 struct Binding<eel::DBSF> {
     using S = eel::DBSF;
@@ -316,7 +131,6 @@ struct Binding<eel::DBSF> {
                         field("VERLAENGVON", &S::VERLAENGVON), field("VERLAENGBIS", &S::VERLAENGBIS),
                         field("KZDHEU", &S::KZDHEU), field("DHEU", &S::DHEU), field("HEUNETTO", &S::HEUNETTO));
 };
-
 template <>
 struct Binding<eel::DBTK> {
     using S = eel::DBTK;
@@ -325,7 +139,6 @@ struct Binding<eel::DBTK> {
                         field("TRANSFERKUG", &S::TRANSFERKUG), field("BRUTTOIST", &S::BRUTTOIST),
                         field("NETTOIST", &S::NETTOIST), field("AUFSTOCKUNGSBETRAG", &S::AUFSTOCKUNGSBETRAG));
 };
-
 template <>
 struct Binding<eel::DBVO> {
     using S = eel::DBVO;
@@ -333,9 +146,9 @@ struct Binding<eel::DBVO> {
         std::make_tuple(field("GRUNDAV", &S::GRUNDAV), field("AUABAG", &S::AUABAG), field("AUABSV", &S::AUABSV),
                         field("KZAKAU", &S::KZAKAU), field("Vorerkrankungen", &S::Vorerkrankungen));
 };
-
 template <>
 struct Binding<Entgelt> {
+    using base = ContactPerson;  // its contact person's properties are among its own
     using E = Entgelt;
     static constexpr auto fields = std::make_tuple(
         field("DatensatzNr", &E::DatensatzNr), field("ErstellDatum", &E::ErstellDatum),
@@ -349,4 +162,21 @@ struct Binding<Entgelt> {
         field("DBTK", &E::DBTK), field("Vorgang", &E::Vorgang), field("Empfaenger", &E::Empfaenger));
 };
 
-}  // namespace tamrel::json_binding
+static_assert(complete<eel::DBAL>(), "every member of eel::DBAL has its entry");
+static_assert(complete<eel::DBAE>(), "every member of eel::DBAE has its entry");
+static_assert(complete<eel::DBZA>(), "every member of eel::DBZA has its entry");
+static_assert(complete<eel::DBEE>(), "every member of eel::DBEE has its entry");
+static_assert(complete<eel::DBAW>(), "every member of eel::DBAW has its entry");
+static_assert(complete<eel::DBFR>(), "every member of eel::DBFR has its entry");
+static_assert(complete<eel::DBUN>(), "every member of eel::DBUN has its entry");
+static_assert(complete<eel::DBMU>(), "every member of eel::DBMU has its entry");
+static_assert(complete<eel::Vorerkrankung>(), "every member of eel::Vorerkrankung has its entry");
+static_assert(complete<eel::DBHE>(), "every member of eel::DBHE has its entry");
+static_assert(complete<eel::DBBE>(), "every member of eel::DBBE has its entry");
+static_assert(complete<eel::DBLT>(), "every member of eel::DBLT has its entry");
+static_assert(complete<eel::DBSF>(), "every member of eel::DBSF has its entry");
+static_assert(complete<eel::DBTK>(), "every member of eel::DBTK has its entry");
+static_assert(complete<eel::DBVO>(), "every member of eel::DBVO has its entry");
+static_assert(complete<Entgelt>(), "every member of Entgelt has its entry");
+
+}  // namespace tamrel::properties

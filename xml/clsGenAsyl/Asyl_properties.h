@@ -1,8 +1,13 @@
+// The property table of the data object `Asyl` and its parts: each property's name and
+// member, in the interface order. Every reader of data objects walks it (the
+// JSON readers, the COM server's late-bound reader); the compile-time check
+// below holds it to the members.
 #pragma once
-#include "component/shared_bindings.h"
+#include "core/objects_properties.h"
+#include "core/property_table.h"
 #include "xml/clsGenAsyl/Asyl.h"
 
-namespace tamrel::json_binding {
+namespace tamrel::properties {
 
 template <>
 struct Binding<AsylPerson> {
@@ -16,7 +21,6 @@ struct Binding<AsylPerson> {
                         field("Str", &P::Str), field("Nr", &P::Nr), field("Adrzu", &P::Adrzu), field("Plz", &P::Plz),
                         field("Ort", &P::Ort), field("Tel", &P::Tel), field("Email", &P::Email));
 };
-
 template <>
 struct Binding<AsylAddress> {
     using A = AsylAddress;
@@ -25,7 +29,6 @@ struct Binding<AsylAddress> {
                         field("Titel", &A::Titel), field("Vona", &A::Vona), field("Ge", &A::Ge), field("Str", &A::Str),
                         field("Nr", &A::Nr), field("Adrzu", &A::Adrzu), field("Plz", &A::Plz), field("Ort", &A::Ort));
 };
-
 template <>
 struct Binding<Asyl> {
     using A = Asyl;
@@ -39,4 +42,8 @@ struct Binding<Asyl> {
                         field("ErstellDatum", &A::ErstellDatum), field("Empfaenger", &A::Empfaenger));
 };
 
-}  // namespace tamrel::json_binding
+static_assert(complete<AsylPerson>(), "every member of AsylPerson has its entry");
+static_assert(complete<AsylAddress>(), "every member of AsylAddress has its entry");
+static_assert(complete<Asyl>(), "every member of Asyl has its entry");
+
+}  // namespace tamrel::properties

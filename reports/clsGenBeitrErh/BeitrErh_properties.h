@@ -1,8 +1,13 @@
+// The property table of the data object `BeitrErh` and its parts: each property's name and
+// member, in the interface order. Every reader of data objects walks it (the
+// JSON readers, the COM server's late-bound reader); the compile-time check
+// below holds it to the members.
 #pragma once
-#include "component/shared_bindings.h"
+#include "core/objects_properties.h"
+#include "core/property_table.h"
 #include "reports/clsGenBeitrErh/BeitrErh.h"
 
-namespace tamrel::json_binding {
+namespace tamrel::properties {
 
 template <>
 struct Binding<BeitrErh> {
@@ -16,4 +21,6 @@ struct Binding<BeitrErh> {
         field("Zeitpunkt", &B::Zeitpunkt), field("Vorgang", &B::Vorgang), field("Empfaenger", &B::Empfaenger));
 };
 
-}  // namespace tamrel::json_binding
+static_assert(complete<BeitrErh>(), "every member of BeitrErh has its entry");
+
+}  // namespace tamrel::properties

@@ -1,8 +1,13 @@
+// The property table of the data object `BeitrNachw` and its parts: each property's name and
+// member, in the interface order. Every reader of data objects walks it (the
+// JSON readers, the COM server's late-bound reader); the compile-time check
+// below holds it to the members.
 #pragma once
-#include "component/shared_bindings.h"
+#include "core/objects_properties.h"
+#include "core/property_table.h"
 #include "reports/clsGenBeitrNachw/BeitrNachw.h"
 
-namespace tamrel::json_binding {
+namespace tamrel::properties {
 
 template <>
 struct Binding<BeitrNachw> {
@@ -23,4 +28,6 @@ struct Binding<BeitrNachw> {
         field("Betrag27", &B::Betrag27), field("Arbeitgeber", &B::Arbeitgeber), field("Empfaenger", &B::Empfaenger));
 };
 
-}  // namespace tamrel::json_binding
+static_assert(complete<BeitrNachw>(), "every member of BeitrNachw has its entry");
+
+}  // namespace tamrel::properties

@@ -1,15 +1,17 @@
-// Property tables of the shared data objects and the two structures.
+// The property table of the shared data objects and the two structures: each property's name and
+// member, in the interface order. Every reader of data objects walks it (the
+// JSON readers, the COM server's late-bound reader); the compile-time check
+// below holds it to the members.
 #pragma once
-#include "component/bindings/field_table.h"
 #include "core/objects.h"
+#include "core/property_table.h"
 
-namespace tamrel::json_binding {
+namespace tamrel::properties {
 
 template <>
 struct Binding<Empfaenger> {
     static constexpr auto fields = std::make_tuple(field("Betriebsnummer", &Empfaenger::Betriebsnummer));
 };
-
 template <>
 struct Binding<Arbeitgeber> {
     using A = Arbeitgeber;
@@ -21,7 +23,6 @@ struct Binding<Arbeitgeber> {
         field("AdressTeil2", &A::AdressTeil2), field("Kennzeichen", &A::Kennzeichen),
         field("Kontonummer", &A::Kontonummer), field("Bankleitzahl", &A::Bankleitzahl));
 };
-
 template <>
 struct Binding<Vorgang> {
     using V = Vorgang;
@@ -38,7 +39,6 @@ struct Binding<Vorgang> {
         field("Geschlecht", &V::Geschlecht), field("EuAngabe1", &V::EuAngabe1), field("EuAngabe2", &V::EuAngabe2),
         field("Arbeitgeber", &V::Arbeitgeber));
 };
-
 template <>
 struct Binding<DSKOData> {
     using D = DSKOData;
@@ -50,7 +50,6 @@ struct Binding<DSKOData> {
         field("strAnGeschl", &D::strAnGeschl), field("strAnName", &D::strAnName), field("strAnTel", &D::strAnTel),
         field("strAnFax", &D::strAnFax), field("strAnEMail", &D::strAnEMail));
 };
-
 template <>
 struct Binding<DatensatzData> {
     using D = DatensatzData;
@@ -60,4 +59,10 @@ struct Binding<DatensatzData> {
         field("strModID", &D::strModID), field("strDateiname", &D::strDateiname));
 };
 
-}  // namespace tamrel::json_binding
+static_assert(complete<Empfaenger>(), "every member of Empfaenger has its entry");
+static_assert(complete<Arbeitgeber>(), "every member of Arbeitgeber has its entry");
+static_assert(complete<Vorgang>(), "every member of Vorgang has its entry");
+static_assert(complete<DSKOData>(), "every member of DSKOData has its entry");
+static_assert(complete<DatensatzData>(), "every member of DatensatzData has its entry");
+
+}  // namespace tamrel::properties

@@ -1,8 +1,13 @@
+// The property table of the data object `Meldung` and its parts: each property's name and
+// member, in the interface order. Every reader of data objects walks it (the
+// JSON readers, the COM server's late-bound reader); the compile-time check
+// below holds it to the members.
 #pragma once
-#include "component/shared_bindings.h"
+#include "core/objects_properties.h"
+#include "core/property_table.h"
 #include "reports/clsGenMeldung/Meldung.h"
 
-namespace tamrel::json_binding {
+namespace tamrel::properties {
 
 template <>
 struct Binding<Meldung> {
@@ -62,4 +67,6 @@ struct Binding<Meldung> {
     }
 };
 
-}  // namespace tamrel::json_binding
+static_assert(complete<Meldung>(), "every member of Meldung has its entry");
+
+}  // namespace tamrel::properties
