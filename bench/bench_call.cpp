@@ -8,7 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "component/c_api.h"
+#include "capi/c_api.h"
 
 namespace {
 

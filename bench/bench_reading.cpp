@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "component/report_runner.h"
+#include "call/report_runner.h"
 #include "core/host.h"
 
 using namespace tamrel;

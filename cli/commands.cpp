@@ -11,14 +11,14 @@
 
 #include <CLI/CLI.hpp>
 
+#include "call/call_protocol.h"
 #include "cli/file_commands.h"
-#include "cli/generate.h"
-#include "cli/output_encoding.h"
-#include "component/call_protocol.h"
-#include "component/json_limits.h"
-#include "component/reference_docs.h"
 #include "core/line_reader.h"
 #include "core/version.h"
+#include "json/json_limits.h"
+#include "reference/reference_docs.h"
+#include "run/generate.h"
+#include "run/output_encoding.h"
 
 namespace tamrel::cli {
 namespace {

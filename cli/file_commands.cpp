@@ -9,12 +9,12 @@
 
 #include <nlohmann/json.hpp>
 
-#include "checks/field_kinds.h"
-#include "checks/line_walk.h"
 #include "checks/rules.h"
-#include "checks/transfer_file.h"
-#include "cli/output_encoding.h"
 #include "core/printable.h"
+#include "reader/field_kinds.h"
+#include "reader/line_walk.h"
+#include "reader/transfer_file.h"
+#include "run/output_encoding.h"
 
 namespace tamrel::cli {
 namespace {

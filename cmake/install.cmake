@@ -6,7 +6,8 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-set(TAMREL_LAYERS tamrel_records tamrel_checks tamrel_lib tamrel_cli)
+set(TAMREL_LAYERS tamrel_core tamrel_procedures tamrel_protocol tamrel_checks tamrel_reader tamrel_json tamrel_call
+  tamrel_reference tamrel_run tamrel_capi tamrel_cli)
 add_library(tamrel_shared SHARED cmake/library.cpp)
 set_target_properties(tamrel_shared PROPERTIES OUTPUT_NAME tamrel VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${CMAKE_SOURCE_DIR}/cmake/exports.map)
@@ -38,9 +39,14 @@ install(TARGETS tamrel_shared LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPON
 install(TARGETS tamrel_shared LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev NAMELINK_ONLY)
 install(TARGETS tamrel RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
 install(FILES ${TAMREL_STATIC} DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev)
-install(FILES component/c_api.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tamrel COMPONENT dev)
-install(DIRECTORY core reports certificates queries xml protocol checks
-  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tamrel COMPONENT dev FILES_MATCHING PATTERN "*.h")
+# The public headers under include/tamrel, each in its folder; the C
+# interface also as <tamrel/c_api.h>.
+include(cmake/public_headers.cmake)
+foreach(header ${TAMREL_PUBLIC_HEADERS})
+  get_filename_component(folder ${header} DIRECTORY)
+  install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tamrel/${folder} COMPONENT dev)
+endforeach()
+install(FILES capi/c_api.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tamrel COMPONENT dev)
 install(FILES ${CMAKE_BINARY_DIR}/generated/core/version.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tamrel/core COMPONENT dev)
 

@@ -21,8 +21,8 @@ struct RecordHead {
     FieldLayout Fehlerkennzeichen = layout::lit("error marker", 62, "0");
     FieldLayout Fehleranzahl = layout::lit("number of errors", 63, "0");
     constexpr std::array<FieldLayout, 9> fields() const {
-        return {Kennung, Verfahren, strBNRAb, EmpfaengerBetriebsnummer, Version, Erstellt, strMicroseconds,
-                Fehlerkennzeichen, Fehleranzahl};
+        return {Kennung,         Verfahren,         strBNRAb,    EmpfaengerBetriebsnummer, Version, Erstellt,
+                strMicroseconds, Fehlerkennzeichen, Fehleranzahl};
     }
 };
 
@@ -48,7 +48,8 @@ inline constexpr FieldLayout PLZ{"plz", 236, 10, FieldKind::An};
 inline constexpr FieldLayout Ort{"ort", 246, 34, FieldKind::An};
 inline constexpr FieldLayout Strasse{"strasse", 280, 33, FieldKind::An};
 inline constexpr FieldLayout Hausnummer{"hausnummer", 313, 9, FieldKind::An};
-inline constexpr std::array kFields{Kennung, Anrede, Name, Tel, Fax, EMail, Name1, Name2, Name3, PLZ, Ort, Strasse, Hausnummer};
+inline constexpr std::array kFields{Kennung, Anrede, Name, Tel, Fax,     EMail,     Name1,
+                                    Name2,   Name3,  PLZ,  Ort, Strasse, Hausnummer};
 inline constexpr std::uint16_t kLength = 321;
 }  // namespace Contact
 
@@ -56,8 +57,8 @@ inline constexpr std::uint16_t kLength = 321;
 constexpr std::array<FieldLayout, 13> contact_block(std::string_view id, const ContactNames& n) {
     std::array<FieldLayout, 13> f = Contact::kFields;
     f[0].literal = id;
-    const std::string_view names[] = {n.anrede, n.name,  n.tel, n.fax,     n.email,      n.name1,
-                                      n.name2,  n.name3, n.plz, n.ort,     n.strasse,    n.hausnummer};
+    const std::string_view names[] = {n.anrede, n.name,  n.tel, n.fax, n.email,   n.name1,
+                                      n.name2,  n.name3, n.plz, n.ort, n.strasse, n.hausnummer};
     for (std::size_t i = 0; i < std::size(names); ++i) f[i + 1].name = names[i];
     return f;
 }

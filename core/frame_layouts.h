@@ -14,7 +14,8 @@ inline constexpr FieldLayout strDatum{"strDatum", 40, 8, FieldKind::Date};
 inline constexpr FieldLayout strFileNr{"strFileNr", 48, 6, FieldKind::N};
 inline constexpr FieldLayout strFirma{"strFirma", 54, 50, FieldKind::An};
 inline constexpr FieldLayout Version{"version", 104, 2, FieldKind::Literal, "01"};
-inline constexpr FieldLayout kFields[] = {Kennung, Verfahren, strBNRAb, strBNREm, strDatum, strFileNr, strFirma, Version};
+inline constexpr FieldLayout kFields[] = {Kennung,  Verfahren, strBNRAb, strBNREm,
+                                          strDatum, strFileNr, strFirma, Version};
 }  // namespace VOSZ
 inline constexpr RecordLayout kVOSZ{"VOSZ", 105, VOSZ::kFields};
 
@@ -57,7 +58,11 @@ inline constexpr FieldLayout strAnTel{"strAnTel", 301, 20, FieldKind::An};
 inline constexpr FieldLayout strAnFax{"strAnFax", 321, 20, FieldKind::An};
 inline constexpr FieldLayout strAnEMail{"strAnEMail", 341, 70, FieldKind::An};
 inline constexpr FieldLayout Reserve{"reserve", 411, 5, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, Verfahren, strBNRAb, strBNREm, Version, Erstellt, strMicroSec, Fehlerkennzeichen, Fehleranzahl, Verursacher, strProdID, strModID, strName1, strName2, strName3, strPLZ, strOrt, strStrasse, strHausNr, strAnGeschl, strAnName, strAnTel, strAnFax, strAnEMail, Reserve};
+inline constexpr FieldLayout kFields[] = {Kennung,   Verfahren,   strBNRAb,          strBNREm,     Version,
+                                          Erstellt,  strMicroSec, Fehlerkennzeichen, Fehleranzahl, Verursacher,
+                                          strProdID, strModID,    strName1,          strName2,     strName3,
+                                          strPLZ,    strOrt,      strStrasse,        strHausNr,    strAnGeschl,
+                                          strAnName, strAnTel,    strAnFax,          strAnEMail,   Reserve};
 }  // namespace DSKO
 inline constexpr RecordLayout kDSKO{"DSKO", 415, DSKO::kFields};
 

@@ -45,7 +45,7 @@ struct FieldLayout {
     std::uint16_t len;
     FieldKind kind;
     std::string_view literal = {};  // a literal's text, or the content a builder always writes
-    std::uint8_t decimals = 0;  // of an amount
+    std::uint8_t decimals = 0;      // of an amount
     Announce announce = Announce::None;
     const RecordLayout* block = nullptr;  // what `announce` announces
 };

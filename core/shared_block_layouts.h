@@ -38,7 +38,8 @@ inline constexpr FieldLayout GeburtsNamenszusatz{"Vorgang.GeburtsNamenszusatz", 
 inline constexpr FieldLayout Geburtsdatum{"Vorgang.Geburtsdatum", 75, 8, FieldKind::Date};
 inline constexpr FieldLayout Geschlecht{"Vorgang.Geschlecht", 83, 1, FieldKind::An};
 inline constexpr FieldLayout Geburtsort{"Vorgang.Geburtsort", 84, 34, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, Geburtsname, GeburtsVorsatzwort, GeburtsNamenszusatz, Geburtsdatum, Geschlecht, Geburtsort};
+inline constexpr FieldLayout kFields[] = {Kennung,      Geburtsname, GeburtsVorsatzwort, GeburtsNamenszusatz,
+                                          Geburtsdatum, Geschlecht,  Geburtsort};
 }  // namespace DBGB
 inline constexpr RecordLayout kDBGB{"DBGB", 117, DBGB::kFields};
 

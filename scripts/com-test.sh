@@ -31,7 +31,7 @@ done
 
 # What each DLL needs and offers: system DLLs only, the four server functions.
 for arch in x86_64 i686; do
-  dll=build-com/$arch/component/com/TamrelFile26.dll
+  dll=build-com/$arch/com/TamrelFile26.dll
   imports=$(${arch}-w64-mingw32-objdump -p "$dll" | sed -n 's/^\s*DLL Name: //p' | tr 'A-Z' 'a-z' | sort -u | tr '\n' ' ')
   [[ $imports == "advapi32.dll kernel32.dll msvcrt.dll ole32.dll oleaut32.dll " ]] ||
     { echo "com-test: $arch: unexpected imports: $imports" >&2; exit 1; }
@@ -84,7 +84,7 @@ test_arch() {
     export WINESERVER=/usr/lib/wine/wineserver
     trap '/usr/lib/wine/wineserver -k 2>/dev/null || true' EXIT
     "$wine" wineboot -i >/dev/null 2>&1
-    cp build-com/$arch/component/com/TamrelFile26.dll build-com/$arch/tests/com/client/com_client.exe "$work/"
+    cp build-com/$arch/com/TamrelFile26.dll build-com/$arch/tests/com/client/com_client.exe "$work/"
 
     # The expected values, from the command line's call protocol.
     build/tamrel call tests/com/frames.ndjson | python3 -c '
@@ -101,7 +101,7 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       "$wine" regedit /E "$(win "$work/classes.reg")" HKEY_CLASSES_ROOT 2>/dev/null
       iconv -f UTF-16 -t UTF-8 "$work/classes.reg" | grep '^\[' |
         grep -i -F -e TamrelFile26 $(grep -o -i -E '[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}' \
-          component/com/TamrelFile26.idl | sed 's/^/-e /') || true
+          com/TamrelFile26.idl | sed 's/^/-e /') || true
     }
     registered=$(ours | wc -l)
     ((registered >= 14 * 3 + 3)) || fail "$arch: only $registered keys registered"

@@ -7,10 +7,10 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/job.h"
-#include "cli/transfer.h"
-#include "component/call_protocol.h"
+#include "call/call_protocol.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
+#include "run/job.h"
+#include "run/transfer.h"
 #include "test_support.h"
 #include "xml/clsGenAsyl/markup_check.h"
 

@@ -14,8 +14,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "component/c_api.h"
-#include "component/reference_docs.h"
+#include "capi/c_api.h"
+#include "reference/reference_docs.h"
 #include "reports/clsGenMeldung/clsGenMeldung.h"
 #include "tests/example_jobs.h"
 #include "tests/test_support.h"

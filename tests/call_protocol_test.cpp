@@ -6,10 +6,10 @@
 
 #include <nlohmann/json.hpp>
 
-#include "component/c_api.h"
-#include "component/call_protocol.h"
-#include "component/call_registry.h"
-#include "component/call_response.h"
+#include "call/call_protocol.h"
+#include "call/call_registry.h"
+#include "call/call_response.h"
+#include "capi/c_api.h"
 #include "tests/example_jobs.h"
 #include "tests/mutator.h"
 
@@ -156,7 +156,7 @@ TEST(CallProtocol, FrameCodesOfEveryClass) {
 
 #include <type_traits>
 
-#include "component/clsGenDef.h"
+#include "call/clsGenDef.h"
 
 static_assert(!std::is_default_constructible_v<tamrel::clsGenDef>, "clsGenDef cannot be created");
 

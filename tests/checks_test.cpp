@@ -12,10 +12,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include "call/call_protocol.h"
 #include "checks/checks.h"
 #include "checks/numbers.h"
 #include "checks/rules.h"
-#include "component/call_protocol.h"
 #include "reports/clsGenBeitrNachw/BeitrNachw.h"
 #include "reports/clsGenMeldung/Meldung.h"
 #include "tests/example_jobs.h"

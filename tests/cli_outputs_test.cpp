@@ -12,8 +12,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/atomic_file.h"
-#include "cli/output_encoding.h"
+#include "run/atomic_file.h"
+#include "run/output_encoding.h"
 
 #include "test_support.h"
 #include "tests/cli_jobs.h"

@@ -56,7 +56,7 @@ void after_identifier(const FieldLayout& next) {
 }
 
 TEST(DeclaredFieldsDeathTest, AFieldOutOfItsDeclaredPlaceStopsTheBuilder) {
-    after_identifier(layouts::DBNA::Familienname);  // in its place: no stop
+    after_identifier(layouts::DBNA::Familienname);                             // in its place: no stop
     EXPECT_DEATH(after_identifier(layouts::DBNA::Vorname), "f.pos == next_");  // Familienname skipped
     EXPECT_DEATH(after_identifier(layouts::DBAN::PLZ), "f.pos == next_");      // another block's field
 }

@@ -8,7 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "component/procedure.h"
+#include "call/procedure.h"
 
 namespace tamrel::testing {
 

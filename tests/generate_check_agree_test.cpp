@@ -13,9 +13,9 @@
 #include <nlohmann/json.hpp>
 
 #include "checks/rules.h"
-#include "checks/transfer_file.h"
-#include "cli/job.h"
-#include "cli/transfer.h"
+#include "reader/transfer_file.h"
+#include "run/job.h"
+#include "run/transfer.h"
 #include "tests/example_jobs.h"
 #include "tests/hostile.h"
 

@@ -10,10 +10,10 @@
 
 #include <nlohmann/json.hpp>
 
-#include "checks/line_walk.h"
-#include "checks/record_layouts.h"
-#include "component/call_protocol.h"
+#include "call/call_protocol.h"
 #include "core/error.h"
+#include "reader/line_walk.h"
+#include "reader/record_layouts.h"
 #include "tests/example_jobs.h"
 #include "tests/mutator.h"
 #include "tests/test_support.h"

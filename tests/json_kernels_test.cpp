@@ -12,9 +12,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "component/cpu_features.h"
-#include "component/json_escape.h"
-#include "component/json_scan.h"
+#include "json/cpu_features.h"
+#include "json/json_escape.h"
+#include "json/json_scan.h"
 
 namespace {
 

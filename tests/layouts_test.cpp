@@ -12,15 +12,15 @@
 #include <set>
 #include <sstream>
 
-#include "checks/field_kinds.h"
-#include "checks/line_walk.h"
-#include "checks/record_layouts.h"
-#include "checks/transfer_file.h"
-#include "cli/transfer.h"
-#include "component/call_protocol.h"
+#include "call/call_protocol.h"
 #include "core/frame_layouts.h"
 #include "core/frames.h"
 #include "core/text_fields.h"
+#include "reader/field_kinds.h"
+#include "reader/line_walk.h"
+#include "reader/record_layouts.h"
+#include "reader/transfer_file.h"
+#include "run/transfer.h"
 #include "tests/encoder_forms.h"
 #include "tests/example_jobs.h"
 #include "tests/mutator.h"

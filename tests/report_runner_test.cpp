@@ -6,15 +6,15 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/job.h"
-#include "component/call_protocol.h"
-#include "component/call_registry.h"
-#include "component/json_binding.h"
-#include "component/report_runner.h"
-#include "component/bindings/field_table.h"
-#include "core/objects_properties.h"
+#include "call/call_protocol.h"
+#include "call/call_registry.h"
+#include "call/report_runner.h"
 #include "core/error.h"
 #include "core/indexed.h"
+#include "core/objects_properties.h"
+#include "json/field_table.h"
+#include "json/json_binding.h"
+#include "run/job.h"
 #include "tests/example_jobs.h"
 #include "tests/runner_outcome.h"
 

@@ -8,8 +8,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/job.h"
-#include "cli/transfer.h"
+#include "run/job.h"
+#include "run/transfer.h"
 #include "tests/example_jobs.h"
 
 namespace {

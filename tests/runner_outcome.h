@@ -4,9 +4,9 @@
 #include <functional>
 #include <string>
 
-#include "component/json_binding.h"
-#include "component/report_runner.h"
+#include "call/report_runner.h"
 #include "core/error.h"
+#include "json/json_binding.h"
 
 namespace tamrel::testing {
 

@@ -32,7 +32,10 @@ inline constexpr FieldLayout Betriebsnummer{"Arbeitgeber.Betriebsnummer", 429, 1
 inline constexpr FieldLayout Feld444{"Feld444", 444, 15, FieldKind::An};
 inline constexpr FieldLayout MitDBAP = layout::flag(kDBAP, 459);
 inline constexpr FieldLayout Fest3 = lit("fixed", 460, "UV10");
-inline constexpr std::array kOwn{Fest1, Fehlerkennzeichen, Fehleranzahl, Reserve1, strProdID, strModID, strVersion, DatensatzNr, Reserve2, Feld216, Kennz248, Reserve3, Fest2, Reserve4, Feld382, Feld397, Feld417, Feld422, Feld425, Betriebsnummer, Feld444, MitDBAP, Fest3};
+inline constexpr std::array kOwn{Fest1,      Fehlerkennzeichen, Fehleranzahl, Reserve1, strProdID, strModID,
+                                 strVersion, DatensatzNr,       Reserve2,     Feld216,  Kennz248,  Reserve3,
+                                 Fest2,      Reserve4,          Feld382,      Feld397,  Feld417,   Feld422,
+                                 Feld425,    Betriebsnummer,    Feld444,      MitDBAP,  Fest3};
 inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DSAS
 inline constexpr RecordLayout kDSAS{"DSAS", 463, DSAS::kFields};

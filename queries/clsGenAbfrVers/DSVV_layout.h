@@ -33,7 +33,12 @@ inline constexpr FieldLayout MitDBNA = always(kDBNA, 172);
 inline constexpr FieldLayout MitDBGB = always(kDBGB, 173);
 inline constexpr FieldLayout MitDBAN = always(kDBAN, 174);
 inline constexpr FieldLayout Reserve6{"reserve", 175, 26, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, Verfahren, strBNRAb, BBNREmpfaenger, Version, Erstellt, strMicroseconds, Fehlerkennzeichen, Fehleranzahl, AngefragteVersicherungsnummer, Reserve1, Reserve2, Betriebsnummer, Aktenzeichen, strVersion, Kennzahl, Reserve3, Reserve4, Fest, Reserve5, MitDBNA, MitDBGB, MitDBAN, Reserve6};
+inline constexpr FieldLayout kFields[] = {
+    Kennung,  Verfahren,       strBNRAb,          BBNREmpfaenger, Version,
+    Erstellt, strMicroseconds, Fehlerkennzeichen, Fehleranzahl,   AngefragteVersicherungsnummer,
+    Reserve1, Reserve2,        Betriebsnummer,    Aktenzeichen,   strVersion,
+    Kennzahl, Reserve3,        Reserve4,          Fest,           Reserve5,
+    MitDBNA,  MitDBGB,         MitDBAN,           Reserve6};
 }  // namespace DSVV
 inline constexpr RecordLayout kDSVV{"DSVV", 200, DSVV::kFields};
 

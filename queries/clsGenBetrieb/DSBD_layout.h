@@ -19,7 +19,8 @@ inline constexpr FieldLayout Reserve1{"reserve", 172, 9, FieldKind::An};
 inline constexpr FieldLayout DbkaAdressTeil1{"DbkaAdressTeil1", 181, 10, FieldKind::An};
 inline constexpr FieldLayout DbkaAdressTeil2{"DbkaAdressTeil2", 191, 10, FieldKind::An};
 inline constexpr FieldLayout Reserve2{"reserve", 201, 8, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, DbkaName1, DbkaName2, DbkaName3, DbkaPLZ, DbkaOrt, DbkaStrasse, Reserve1, DbkaAdressTeil1, DbkaAdressTeil2, Reserve2};
+inline constexpr FieldLayout kFields[] = {Kennung,     DbkaName1, DbkaName2,       DbkaName3,       DbkaPLZ, DbkaOrt,
+                                          DbkaStrasse, Reserve1,  DbkaAdressTeil1, DbkaAdressTeil2, Reserve2};
 }  // namespace DBKA
 inline constexpr RecordLayout kDBKA{"DBKA", 208, DBKA::kFields};
 
@@ -54,9 +55,36 @@ inline constexpr FieldLayout Reserve4{"reserve", 520, 15, FieldKind::An};
 inline constexpr FieldLayout MitDBKA = layout::flag(kDBKA, 535);
 inline constexpr FieldLayout Fest = lit("fixed", 536, "N");
 inline constexpr FieldLayout Reserve5{"reserve", 537, 5, FieldKind::An};
-inline constexpr std::array kOwn{ArbeitgeberBetriebsnummer, Reserve1, ConvertBNRSt, Kennziffer, Reserve2, Name1, Name2, Name3, PLZ, Ort, Strasse, Hausnummer, AdressTeil1, AdressTeil2, KennzeichenR, Kennung15, AnsprechpartnerGeschlecht, AnsprechpartnerName, AnsprechpartnerTelefon, AnsprechpartnerFax, AnsprechpartnerEMail, Reserve3, strVersion, DatensatzNr, EmpfaengerBetriebsnummer, Reserve4, MitDBKA, Fest, Reserve5};
-inline constexpr auto kFields =
-    layout::joined(Head.fields(), kOwn);
+inline constexpr std::array kOwn{ArbeitgeberBetriebsnummer,
+                                 Reserve1,
+                                 ConvertBNRSt,
+                                 Kennziffer,
+                                 Reserve2,
+                                 Name1,
+                                 Name2,
+                                 Name3,
+                                 PLZ,
+                                 Ort,
+                                 Strasse,
+                                 Hausnummer,
+                                 AdressTeil1,
+                                 AdressTeil2,
+                                 KennzeichenR,
+                                 Kennung15,
+                                 AnsprechpartnerGeschlecht,
+                                 AnsprechpartnerName,
+                                 AnsprechpartnerTelefon,
+                                 AnsprechpartnerFax,
+                                 AnsprechpartnerEMail,
+                                 Reserve3,
+                                 strVersion,
+                                 DatensatzNr,
+                                 EmpfaengerBetriebsnummer,
+                                 Reserve4,
+                                 MitDBKA,
+                                 Fest,
+                                 Reserve5};
+inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DSBD
 inline constexpr RecordLayout kDSBD{"DSBD", 541, DSBD::kFields};
 

@@ -47,7 +47,10 @@ inline constexpr FieldLayout Feld480{"Feld480", 480, 4, FieldKind::An};
 inline constexpr FieldLayout Feld484{"Feld484", 484, 3, FieldKind::An};
 inline constexpr FieldLayout Feld487{"Feld487", 487, 6, FieldKind::N};
 inline constexpr FieldLayout AnzahlPositionen{"AnzahlPositionen (or the number of Positionen)", 493, 2, FieldKind::N};
-inline constexpr std::array kOwn{Reserve1, Fest1, Fehlerkennzeichen, Fehleranzahl, Reserve2, strProdID, strModID, strVersion, DatensatzNr, Reserve3, Feld236, Kennz268, Reserve4, Fest2, Reserve5, Feld402, Feld417, Feld437, Feld442, Feld445, Betriebsnummer, Feld464, MitDBAP, Feld480, Feld484, Feld487, AnzahlPositionen};
+inline constexpr std::array kOwn{
+    Reserve1, Fest1,   Fehlerkennzeichen, Fehleranzahl, Reserve2, strProdID, strModID, strVersion, DatensatzNr,
+    Reserve3, Feld236, Kennz268,          Reserve4,     Fest2,    Reserve5,  Feld402,  Feld417,    Feld437,
+    Feld442,  Feld445, Betriebsnummer,    Feld464,      MitDBAP,  Feld480,   Feld484,  Feld487,    AnzahlPositionen};
 inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DSLN
 inline constexpr RecordLayout kDSLN{"DSLN", 494, DSLN::kFields, &kDSLNPosition, 493, 2};

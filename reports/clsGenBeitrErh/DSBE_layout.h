@@ -17,7 +17,8 @@ inline constexpr FieldLayout Namenszusatz{"Vorgang.Namenszusatz", 105, 20, Field
 inline constexpr FieldLayout Titel{"Vorgang.Titel", 125, 20, FieldKind::An};
 inline constexpr FieldLayout Geschlecht{"Vorgang.Geschlecht", 145, 1, FieldKind::An};
 inline constexpr FieldLayout Geburtsdatum{"Vorgang.Geburtsdatum", 146, 8, FieldKind::Date};
-inline constexpr FieldLayout kFields[] = {Kennung, Aktenzeichen, Familienname, Vorname, Vorsatzwort, Namenszusatz, Titel, Geschlecht, Geburtsdatum};
+inline constexpr FieldLayout kFields[] = {Kennung,      Aktenzeichen, Familienname, Vorname,     Vorsatzwort,
+                                          Namenszusatz, Titel,        Geschlecht,   Geburtsdatum};
 }  // namespace DBMI
 inline constexpr RecordLayout kDBMI{"DBMI", 153, DBMI::kFields};
 
@@ -73,7 +74,50 @@ inline constexpr FieldLayout Betrag5 = signed_amount("Betrag5", 435, 9, 2);
 inline constexpr FieldLayout MitDBMI = layout::always(kDBMI, 444);
 inline constexpr FieldLayout MitDBHB = layout::flag(kDBHB, 445);
 inline constexpr FieldLayout Reserve3{"reserve", 446, 2, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, Fest1, Fest2, Fest3, Verfahren, strBNRAb, EmpfaengerBetriebsnummer1, Erstellt, strMicroseconds, Fehlerkennzeichen, Fehleranzahl, Fest4, strProdID, strModID, strVersion1, Laufnummer1, Reserve1, Reserve2, Name1, Name2, Name3, Strasse, Hausnummer, PLZ, Ort, strVersion2, Laufnummer2, ArbeitgeberBetriebsnummer, ConvertBNRSt, EmpfaengerBetriebsnummer2, Bezugskennung, Zeitraum2, Zeitraum1, ArtKennzeichen, Betrag1, Betrag2, Merkmal1, Betrag3, Betrag4, Merkmal2, Betrag5, MitDBMI, MitDBHB, Reserve3};
+inline constexpr FieldLayout kFields[] = {Kennung,
+                                          Fest1,
+                                          Fest2,
+                                          Fest3,
+                                          Verfahren,
+                                          strBNRAb,
+                                          EmpfaengerBetriebsnummer1,
+                                          Erstellt,
+                                          strMicroseconds,
+                                          Fehlerkennzeichen,
+                                          Fehleranzahl,
+                                          Fest4,
+                                          strProdID,
+                                          strModID,
+                                          strVersion1,
+                                          Laufnummer1,
+                                          Reserve1,
+                                          Reserve2,
+                                          Name1,
+                                          Name2,
+                                          Name3,
+                                          Strasse,
+                                          Hausnummer,
+                                          PLZ,
+                                          Ort,
+                                          strVersion2,
+                                          Laufnummer2,
+                                          ArbeitgeberBetriebsnummer,
+                                          ConvertBNRSt,
+                                          EmpfaengerBetriebsnummer2,
+                                          Bezugskennung,
+                                          Zeitraum2,
+                                          Zeitraum1,
+                                          ArtKennzeichen,
+                                          Betrag1,
+                                          Betrag2,
+                                          Merkmal1,
+                                          Betrag3,
+                                          Betrag4,
+                                          Merkmal2,
+                                          Betrag5,
+                                          MitDBMI,
+                                          MitDBHB,
+                                          Reserve3};
 }  // namespace DSBE
 inline constexpr RecordLayout kDSBE{"DSBE", 447, DSBE::kFields};
 

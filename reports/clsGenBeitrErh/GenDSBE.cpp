@@ -38,7 +38,8 @@ BeitrErhPlan GENDSBE(std::string& out, const BeitrErh& b, const DatensatzData& d
         w.put(Hausnummer, ag.Hausnummer).put(PLZ, ag.PLZ);
         w.put(Ort, ag.Ort).put(strVersion2, dd.strVersion).put(Laufnummer2, b.Laufnummer);
         w.put(ArbeitgeberBetriebsnummer, ag.Betriebsnummer);
-        w.put(ConvertBNRSt, mlGen::ConvertBNRSt(dd.strBNRSt)).put(EmpfaengerBetriebsnummer2, b.Empfaenger.Betriebsnummer);
+        w.put(ConvertBNRSt, mlGen::ConvertBNRSt(dd.strBNRSt))
+            .put(EmpfaengerBetriebsnummer2, b.Empfaenger.Betriebsnummer);
         w.put(Bezugskennung, !v.Bezugskennung.empty() ? v.Bezugskennung : b.Ersatzaktenzeichen);
         w.put(Zeitraum2, b.Zeitraum2).put(Zeitraum1, b.Zeitraum1).text(ArtKennzeichen, b.ArtKennzeichen ? "K" : "G");
         w.put(Betrag1, b.Betrag1).put(Betrag2, b.Betrag2).put(Merkmal1, b.Merkmal1 == 1 ? "1" : "0");

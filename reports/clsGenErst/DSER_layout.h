@@ -44,7 +44,10 @@ inline constexpr FieldLayout Zusatzdatum{"Zusatzdatum", 86, 8, FieldKind::Date};
 inline constexpr FieldLayout Betrag4 = amount("Betrag4", 94, 9, 2);
 inline constexpr FieldLayout Betrag5 = amount("Betrag5", 103, 9, 2);
 inline constexpr FieldLayout Reserve{"reserve", 112, 91, FieldKind::An};
-inline constexpr std::array kOwn{FirstOfEntgelt14, WhichEntgelt, AngabeJN2, FirstOfWert13, WhichWert, Satz1, Satz2, Betrag1, Betrag2, Betrag3, Betrag6, MerkmalAOrMerkmalB, AngabeJN1, Satz3, Zusatzdatum, Betrag4, Betrag5, Reserve};
+inline constexpr std::array kOwn{
+    FirstOfEntgelt14, WhichEntgelt, AngabeJN2, FirstOfWert13, WhichWert,          Satz1,     Satz2,
+    Betrag1,          Betrag2,      Betrag3,   Betrag6,       MerkmalAOrMerkmalB, AngabeJN1, Satz3,
+    Zusatzdatum,      Betrag4,      Betrag5,   Reserve};
 inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DBAU
 inline constexpr RecordLayout kDBAU{"DBAU", 202, DBAU::kFields};
@@ -62,7 +65,8 @@ inline constexpr FieldLayout Abschlussdatum{"Abschlussdatum", 64, 8, FieldKind::
 inline constexpr FieldLayout Betrag4 = amount("Betrag4", 72, 9, 2);
 inline constexpr FieldLayout Betrag5 = amount("Betrag5", 81, 9, 2);
 inline constexpr FieldLayout Reserve{"reserve", 90, 91, FieldKind::An};
-inline constexpr std::array kOwn{Zusatzdatum, Betrag1, Betrag2, Fest, Betrag6, BTKennzeichen, Abschlussdatum, Betrag4, Betrag5, Reserve};
+inline constexpr std::array kOwn{Zusatzdatum,   Betrag1,        Betrag2, Fest,    Betrag6,
+                                 BTKennzeichen, Abschlussdatum, Betrag4, Betrag5, Reserve};
 inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DBBT
 inline constexpr RecordLayout kDBBT{"DBBT", 180, DBBT::kFields};
@@ -78,7 +82,8 @@ inline constexpr FieldLayout ZuschussBetrag3 = amount("ZuschussBetrag3", 66, 9, 
 inline constexpr FieldLayout ZuschussBetrag4 = amount("ZuschussBetrag4", 75, 9, 2);
 inline constexpr FieldLayout Abschlussdatum{"Abschlussdatum", 84, 8, FieldKind::Date};
 inline constexpr FieldLayout Reserve{"reserve", 92, 100, FieldKind::An};
-inline constexpr std::array kOwn{ZuschussBeginn, ZuschussEnde, Entgelt4, ZuschussBetrag1, ZuschussBetrag2, ZuschussBetrag3, ZuschussBetrag4, Abschlussdatum, Reserve};
+inline constexpr std::array kOwn{ZuschussBeginn,  ZuschussEnde,    Entgelt4,       ZuschussBetrag1, ZuschussBetrag2,
+                                 ZuschussBetrag3, ZuschussBetrag4, Abschlussdatum, Reserve};
 inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DBZU
 inline constexpr RecordLayout kDBZU{"DBZU", 191, DBZU::kFields};
@@ -97,7 +102,8 @@ inline constexpr FieldLayout IBAN{"IBAN", 30, 34, FieldKind::An};
 inline constexpr FieldLayout BIC{"BIC", 64, 11, FieldKind::An};
 inline constexpr FieldLayout Kontoinhaber1{"Kontoinhaber1", 75, 50, FieldKind::An};
 inline constexpr FieldLayout Kontoinhaber2{"Kontoinhaber2", 125, 50, FieldKind::An};
-inline constexpr FieldLayout kFields[] = {Kennung, Bankkennzeichen, BVZahl4, BVZahl2, Kontonummer, Bankleitzahl, IBAN, BIC, Kontoinhaber1, Kontoinhaber2};
+inline constexpr FieldLayout kFields[] = {
+    Kennung, Bankkennzeichen, BVZahl4, BVZahl2, Kontonummer, Bankleitzahl, IBAN, BIC, Kontoinhaber1, Kontoinhaber2};
 }  // namespace DBBV
 inline constexpr RecordLayout kDBBV{"DBBV", 174, DBBV::kFields};
 
@@ -136,9 +142,32 @@ inline constexpr FieldLayout MitDBNA = layout::always(kDBNA, 353);
 inline constexpr FieldLayout MitDBAA = layout::flag(kDBAA, 354);
 inline constexpr FieldLayout Reserve4{"reserve", 355, 1, FieldKind::An};
 inline constexpr FieldLayout Reserve5{"reserve", 356, 100, FieldKind::An};
-inline constexpr std::array kOwn{Versicherungsnummer, Geburtsdatum, ArbeitgeberBetriebsnummer, Aktenzeichen, Reserve1, EmpfaengerBetriebsnummer, Reserve2, ConvertBNRSt, ReasonCode, ErstDatum, Abrechnungskennzeichen, Geschlecht, Fest, strProdID, strModID, RecordReference, Reserve3, MitDBAU, MitDBBT, MitDBZU, MitDBBV, MitDBNA, MitDBAA, Reserve4, Reserve5};
-inline constexpr auto kFields =
-    layout::joined(Head.fields(), kOwn);
+inline constexpr std::array kOwn{Versicherungsnummer,
+                                 Geburtsdatum,
+                                 ArbeitgeberBetriebsnummer,
+                                 Aktenzeichen,
+                                 Reserve1,
+                                 EmpfaengerBetriebsnummer,
+                                 Reserve2,
+                                 ConvertBNRSt,
+                                 ReasonCode,
+                                 ErstDatum,
+                                 Abrechnungskennzeichen,
+                                 Geschlecht,
+                                 Fest,
+                                 strProdID,
+                                 strModID,
+                                 RecordReference,
+                                 Reserve3,
+                                 MitDBAU,
+                                 MitDBBT,
+                                 MitDBZU,
+                                 MitDBBV,
+                                 MitDBNA,
+                                 MitDBAA,
+                                 Reserve4,
+                                 Reserve5};
+inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DSER
 inline constexpr RecordLayout kDSER{"DSER", 455, DSER::kFields};
 

@@ -30,8 +30,8 @@ std::string clsGenErst::GenData(const Erst& e, DatensatzData& dd, const Date& da
                 [&](int& line) {
                     return record_then_blocks(
                         line, datDate,
-                        kDSER.length + kDBAU.length + kDBBT.length + kDBZU.length + kDBBV.length + layouts::kDBNA.length +
-                            kDBAA.length,
+                        kDSER.length + kDBAU.length + kDBBT.length + kDBZU.length + kDBBV.length +
+                            layouts::kDBNA.length + kDBAA.length,
                         [&](std::string& out, const Date& date) { return GenDSER(out, e, dd, date); },
                         [&](std::string& out, const ErstPlan& plan) {
                             using enum ErstBlock;
@@ -61,7 +61,9 @@ ErstPlan clsGenErst::GenDSER(std::string& out, const Erst& e, const DatensatzDat
         w.put(ArbeitgeberBetriebsnummer, v.Arbeitgeber.Betriebsnummer);
         w.put(Aktenzeichen, v.Aktenzeichen).put(Reserve1).put(EmpfaengerBetriebsnummer, e.Empfaenger.Betriebsnummer);
         w.put(Reserve2);
-        w.put(ConvertBNRSt, mlGen::ConvertBNRSt(dd.strBNRSt)).put(ReasonCode, reason_code(e)).put(ErstDatum, e.ErstDatum);
+        w.put(ConvertBNRSt, mlGen::ConvertBNRSt(dd.strBNRSt))
+            .put(ReasonCode, reason_code(e))
+            .put(ErstDatum, e.ErstDatum);
         w.put(Abrechnungskennzeichen, settlement_code(e.Abrechnungskennzeichen)).put(Geschlecht, v.Geschlecht);
         w.put(Fest).put(strProdID, dd.strProdID);
         w.put(strModID, dd.strModID).put(RecordReference, reference).put(Reserve3);

@@ -24,7 +24,9 @@ inline constexpr FieldLayout ZKDatum4{"ZKDatum4", 56, 8, FieldKind::Date};
 inline constexpr FieldLayout ZKBetrag2 = amount("ZKBetrag2", 64, 12, 2);
 inline constexpr FieldLayout ZKBetrag3 = amount("ZKBetrag3", 76, 8, 2);
 inline constexpr FieldLayout ZKBetrag4 = amount("ZKBetrag4", 84, 8, 2);
-inline constexpr FieldLayout kFields[] = {Kennung, ZKKennzeichen, ZKArt, ZKAngabeJN, ZKBeginn, ZKEnde, ZKDatum, ZKBetrag1, ZKDatum2, ZKDatum3, ZKDatum4, ZKBetrag2, ZKBetrag3, ZKBetrag4};
+inline constexpr FieldLayout kFields[] = {Kennung,  ZKKennzeichen, ZKArt,     ZKAngabeJN, ZKBeginn,
+                                          ZKEnde,   ZKDatum,       ZKBetrag1, ZKDatum2,   ZKDatum3,
+                                          ZKDatum4, ZKBetrag2,     ZKBetrag3, ZKBetrag4};
 }  // namespace DBZK
 inline constexpr RecordLayout kDBZK{"DBZK", 91, DBZK::kFields};
 
@@ -73,12 +75,23 @@ inline constexpr FieldLayout MitDBGA = layout::flag(kDBGA, 220);
 inline constexpr FieldLayout Fest2 = lit("fixed", 221, "N");
 inline constexpr FieldLayout MitDBAN = layout::flag(kDBAN, 222);
 inline constexpr FieldLayout Fest3 = lit("fixed", 223, "N");
-inline constexpr FieldLayout Versicherungsnummer{"Vorgang.Versicherungsnummer (zeros when pseudonymised)", 224, 12, FieldKind::Vsnr};
+inline constexpr FieldLayout Versicherungsnummer{"Vorgang.Versicherungsnummer (zeros when pseudonymised)", 224, 12,
+                                                 FieldKind::Vsnr};
 inline constexpr FieldLayout VersicherungsnummerNullen = layout::as(Versicherungsnummer, FieldKind::N);
 inline constexpr FieldLayout Reserve4{"reserve", 236, 2, FieldKind::An};
-inline constexpr std::array kOwn{Kennung14, ArbeitgeberBetriebsnummer, Aktenzeichen, EmpfaengerBetriebsnummer, strVersion1, ZahlId1, strBNRSt, Reserve1, Fest1, strProdID, strModID, strVersion2, ZahlId2, Reserve2, Reserve3, MitDBZK, MitDBNAZahl, MitDBGA, Fest2, MitDBAN, Fest3, Versicherungsnummer, Reserve4};
-inline constexpr auto kFields =
-    layout::joined(Head.fields(), kOwn);
+inline constexpr std::array kOwn{Kennung14,    ArbeitgeberBetriebsnummer,
+                                 Aktenzeichen, EmpfaengerBetriebsnummer,
+                                 strVersion1,  ZahlId1,
+                                 strBNRSt,     Reserve1,
+                                 Fest1,        strProdID,
+                                 strModID,     strVersion2,
+                                 ZahlId2,      Reserve2,
+                                 Reserve3,     MitDBZK,
+                                 MitDBNAZahl,  MitDBGA,
+                                 Fest2,        MitDBAN,
+                                 Fest3,        Versicherungsnummer,
+                                 Reserve4};
+inline constexpr auto kFields = layout::joined(Head.fields(), kOwn);
 }  // namespace DSVZ
 inline constexpr RecordLayout kDSVZ{"DSVZ", 237, DSVZ::kFields};
 

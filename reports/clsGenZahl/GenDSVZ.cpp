@@ -11,19 +11,19 @@ namespace tamrel {
 using namespace layouts::zahl;
 
 std::string clsGenZahl::GenData(const Zahl& z, DatensatzData& dd, const Date& datDate) const {
-    return call(with_args("clsGenZahl.GenData(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, datDate),
-                [&](int& line) {
-                    return record_then_blocks(
-                        line, datDate, kDSVZ.length + kDBZK.length + kDBNAZahl.length + kDBGA.length + layouts::kDBAN.length,
-                        [&](std::string& out, const Date& date) { return GenDSVZ(out, z, dd, date); },
-                        [&](std::string& out, const ZahlPlan& plan) {
-                            using enum ZahlBlock;
-                            if (plan.has(DBZK)) GenDBZK(out, z);
-                            if (plan.has(DBNA)) GenDBNA(out, z);
-                            if (plan.has(DBGA)) out += plan.dbga;
-                            if (plan.has(DBAN)) out += plan.dban;
-                        });
+    return call(
+        with_args("clsGenZahl.GenData(", ObjArg{"objZahl"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
+            return record_then_blocks(
+                line, datDate, kDSVZ.length + kDBZK.length + kDBNAZahl.length + kDBGA.length + layouts::kDBAN.length,
+                [&](std::string& out, const Date& date) { return GenDSVZ(out, z, dd, date); },
+                [&](std::string& out, const ZahlPlan& plan) {
+                    using enum ZahlBlock;
+                    if (plan.has(DBZK)) GenDBZK(out, z);
+                    if (plan.has(DBNA)) GenDBNA(out, z);
+                    if (plan.has(DBGA)) out += plan.dbga;
+                    if (plan.has(DBAN)) out += plan.dban;
                 });
+        });
 }
 
 ZahlPlan clsGenZahl::GenDSVZ(std::string& out, const Zahl& z, const DatensatzData& dd, const Date& date) {

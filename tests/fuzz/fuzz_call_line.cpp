@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "component/call_protocol.h"
+#include "call/call_protocol.h"
 #include "tests/fuzz/fuzz_invariants.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

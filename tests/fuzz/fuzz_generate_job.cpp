@@ -6,10 +6,10 @@
 #include <string_view>
 
 #include "checks/rules.h"
-#include "checks/transfer_file.h"
-#include "cli/job.h"
-#include "cli/transfer.h"
-#include "component/json_limits.h"
+#include "json/json_limits.h"
+#include "reader/transfer_file.h"
+#include "run/job.h"
+#include "run/transfer.h"
 #include "tests/fuzz/fuzz_invariants.h"
 
 namespace {

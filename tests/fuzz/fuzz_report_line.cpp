@@ -9,8 +9,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "component/call_protocol.h"
-#include "component/report_runner.h"
+#include "call/call_protocol.h"
+#include "call/report_runner.h"
 #include "tests/fuzz/fuzz_invariants.h"
 #include "tests/runner_outcome.h"
 

@@ -1,6 +1,6 @@
 #include "automation_object.h"
 
-#include "component/com/com_text.h"
+#include "com/com_text.h"
 
 using tamrel::com::utf8;
 

@@ -16,7 +16,7 @@
 #include <stdexcept>
 
 #include "TamrelFile26.h"
-#include "component/com/com_text.h"
+#include "com/com_text.h"
 #include "json_object.h"
 
 using namespace client;

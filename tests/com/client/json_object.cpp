@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <charconv>
 
-#include "component/com/class_factory.h"
-#include "component/com/com_text.h"
-#include "component/com/server_host.h"
+#include "com/class_factory.h"
+#include "com/com_text.h"
+#include "com/server_host.h"
 
 using tamrel::com::bstr;
 using tamrel::com::utf16;

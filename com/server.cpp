@@ -1,0 +1,141 @@
+// The in-process server's four exports: class objects, unloading, and
+// self-registration of the classes, their ProgIDs and the type library.
+#include <windows.h>  // first: the other system headers build on it
+
+#include <oleauto.h>
+#include <olectl.h>
+
+#include <atomic>
+#include <string>
+
+#include "com/class_factory.h"
+#include "com/classes.h"
+#include "com/com_error.h"
+#include "com/com_object.h"
+#include "com/com_text.h"
+
+namespace tamrel::com {
+
+std::atomic<long> g_live{0};
+
+namespace {
+
+HMODULE g_module = nullptr;
+
+std::wstring module_path() {
+    wchar_t buffer[MAX_PATH + 1];
+    const DWORD n = GetModuleFileNameW(g_module, buffer, MAX_PATH);
+    return std::wstring(buffer, n);
+}
+
+ITypeLib* type_library() {
+    static ITypeLib* lib = [] {
+        ITypeLib* l = nullptr;
+        LoadTypeLibEx(module_path().c_str(), REGKIND_NONE, &l);
+        return l;
+    }();
+    return lib;
+}
+
+std::wstring guid_text(const GUID& g) {
+    wchar_t buffer[40];
+    StringFromGUID2(g, buffer, 40);
+    return buffer;
+}
+
+bool set_value(HKEY root, const std::wstring& key, const wchar_t* name, const std::wstring& value) {
+    HKEY k = nullptr;
+    if (RegCreateKeyExW(root, key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &k, nullptr) != ERROR_SUCCESS)
+        return false;
+    const LONG r = RegSetValueExW(k, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
+                                  static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
+    RegCloseKey(k);
+    return r == ERROR_SUCCESS;
+}
+
+std::wstring progid(const ClassEntry& c) { return L"TamrelFile26." + utf16(c.name); }
+
+}  // namespace
+
+ITypeInfo* type_info(REFIID iid) {
+    // One ITypeInfo per interface, kept for the life of the process.
+    static ITypeInfo* cache[32] = {};
+    for (std::size_t i = 0; i < kClassCount; ++i) {
+        if (kClasses[i].iid != iid) continue;
+        if (!cache[i] && type_library()) type_library()->GetTypeInfoOfGuid(iid, &cache[i]);
+        return cache[i];
+    }
+    return nullptr;
+}
+
+}  // namespace tamrel::com
+
+using namespace tamrel::com;
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        g_module = instance;
+        DisableThreadLibraryCalls(instance);
+    }
+    return TRUE;
+}
+
+STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    for (std::size_t i = 0; i < kClassCount; ++i) {
+        if (kClasses[i].clsid != clsid || !kClasses[i].create) continue;
+        auto* f = new (std::nothrow) ClassFactory(kClasses[i].create, &g_live);
+        if (!f) return E_OUTOFMEMORY;
+        const HRESULT hr = f->QueryInterface(iid, out);
+        f->Release();
+        return hr;
+    }
+    return CLASS_E_CLASSNOTAVAILABLE;
+}
+
+STDAPI DllCanUnloadNow() { return g_live == 0 ? S_OK : S_FALSE; }
+
+STDAPI DllRegisterServer() {
+    const std::wstring path = module_path();
+    ITypeLib* lib = type_library();
+    if (!lib) return TYPE_E_CANTLOADLIBRARY;
+    HRESULT hr = RegisterTypeLib(lib, const_cast<wchar_t*>(path.c_str()), nullptr);
+    if (FAILED(hr)) return hr;
+    TLIBATTR* attr = nullptr;
+    lib->GetLibAttr(&attr);
+    const std::wstring libid = guid_text(attr->guid);
+    lib->ReleaseTLibAttr(attr);
+    for (std::size_t i = 0; i < kClassCount; ++i) {
+        const ClassEntry& c = kClasses[i];
+        if (!c.create) continue;  // clsGenDef: described by the type library, not creatable
+        const std::wstring key = L"CLSID\\" + guid_text(c.clsid);
+        const bool ok = set_value(HKEY_CLASSES_ROOT, key, nullptr, progid(c)) &&
+                        set_value(HKEY_CLASSES_ROOT, key + L"\\InprocServer32", nullptr, path) &&
+                        set_value(HKEY_CLASSES_ROOT, key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") &&
+                        set_value(HKEY_CLASSES_ROOT, key + L"\\ProgID", nullptr, progid(c)) &&
+                        set_value(HKEY_CLASSES_ROOT, key + L"\\TypeLib", nullptr, libid) &&
+                        set_value(HKEY_CLASSES_ROOT, key + L"\\VERSION", nullptr, L"1.0") &&
+                        set_value(HKEY_CLASSES_ROOT, progid(c), nullptr, progid(c)) &&
+                        set_value(HKEY_CLASSES_ROOT, progid(c) + L"\\CLSID", nullptr, guid_text(c.clsid));
+        if (!ok) return SELFREG_E_CLASS;
+    }
+    return S_OK;
+}
+
+STDAPI DllUnregisterServer() {
+    for (std::size_t i = 0; i < kClassCount; ++i) {
+        const ClassEntry& c = kClasses[i];
+        if (!c.create) continue;
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, (L"CLSID\\" + guid_text(c.clsid)).c_str());
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, progid(c).c_str());
+    }
+    ITypeLib* lib = type_library();
+    if (!lib) return TYPE_E_CANTLOADLIBRARY;
+    TLIBATTR* attr = nullptr;
+    lib->GetLibAttr(&attr);
+    // Removes the type library's key and its interfaces' keys.
+    const HRESULT hr = UnRegisterTypeLib(attr->guid, attr->wMajorVerNum, attr->wMinorVerNum, attr->lcid, attr->syskind);
+    lib->ReleaseTLibAttr(attr);
+    return hr == TYPE_E_REGISTRYACCESS ? S_OK : hr;
+}
