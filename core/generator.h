@@ -68,6 +68,10 @@ private:
 // into a fresh buffer (statement 2), the blocks appended to it (statement 3).
 // `build` returns the record's block plan, which `blocks` is handed; a record
 // whose blocks always follow has no plan.
+// The room a record with many optional blocks is given first (the
+// certificates): a capacity guess, not a length of the layouts.
+inline constexpr std::size_t kManyBlocksRoom = 2048;
+
 template <class Build, class Blocks>
 std::string record_then_blocks(int& line, const Date& datDate, std::size_t reserve, Build&& build, Blocks&& blocks) {
     line = 1;

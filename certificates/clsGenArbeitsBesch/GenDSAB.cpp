@@ -84,7 +84,7 @@ std::string clsGenArbeitsBesch::GenData(const ArbeitsBesch& a, DatensatzData& dd
     return call("clsGenArbeitsBesch.GetData", [&](int& line) {
         const std::int16_t verfahren = a.Verfahren;
         return record_then_blocks(
-            line, datDate, 2048,
+            line, datDate, kManyBlocksRoom,
             [&](std::string& out, const Date& date) {
                 switch (verfahren) {
                     case 15:

@@ -42,7 +42,7 @@ constexpr Builder kBuilders[clsGenEntgelt::kBlocks] = {
 EntgeltPlan clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const DatensatzData& dd, const Date& date) {
     return routine("clsGenEntgelt.GenDSLW", [&](int& line) {
         EntgeltPlan plan;
-        plan.blocks.reserve(2048);
+        plan.blocks.reserve(kManyBlocksRoom);
         const Vorgang& v = e.Vorgang;
         const VersionNumber dsid(dd.strVersion, e.DatensatzNr);
         Writer w(out, line);
@@ -69,12 +69,13 @@ EntgeltPlan clsGenEntgelt::GenDSLW(std::string& out, const Entgelt& e, const Dat
 }
 
 std::string clsGenEntgelt::GenData(const Entgelt& e, DatensatzData& dd, const Date& datDate) const {
-    return call(
-        with_args("clsGenEntgelt.GenData(", ObjArg{"objEntgelt"}, ObjArg{"udtDatensatzData"}, datDate), [&](int& line) {
-            return record_then_blocks(
-                line, datDate, 2048, [&](std::string& out, const Date& date) { return GenDSLW(out, e, dd, date); },
-                [&](std::string& out, const EntgeltPlan& plan) { out += plan.blocks; });
-        });
+    return call(with_args("clsGenEntgelt.GenData(", ObjArg{"objEntgelt"}, ObjArg{"udtDatensatzData"}, datDate),
+                [&](int& line) {
+                    return record_then_blocks(
+                        line, datDate, kManyBlocksRoom,
+                        [&](std::string& out, const Date& date) { return GenDSLW(out, e, dd, date); },
+                        [&](std::string& out, const EntgeltPlan& plan) { out += plan.blocks; });
+                });
 }
 
 }  // namespace tamrel
