@@ -58,7 +58,8 @@ def main():
             for r in range(rounds):
                 mutated = dict(job)
                 mutated["reports"] = [mutate(rep, rnd) for rep in job["reports"]]
-                mutated["now"] = job.get("now", "2024-03-01T10:11:12")
+                # Now and then a clock before 2014, where some fields change their form.
+                mutated["now"] = "2013-06-01T08:00:00" if r % 5 == 4 else job.get("now", "2024-03-01T10:11:12")
                 path = os.path.join(tmp, "job.json")
                 json.dump(mutated, open(path, "w", encoding="utf-8"), ensure_ascii=False)
                 extra = [["--keep-going", "--no-check"], ["--keep-going"], []][r % 3]
