@@ -88,9 +88,9 @@ public:
     }
     // A date stamp: GetCurrDate's text as a numeric field. The usual one, the
     // full creation time taken from the date itself, is written straight.
-    [[gnu::always_inline]] Writer& stamp(const FieldLayout& f, std::string_view dateText, int format, const Date& date,
-                                         bool declared = true) {
-        if (declared) at(f);
+    [[gnu::always_inline]] Writer& stamp(const FieldLayout& f, std::string_view dateText, int format,
+                                         const Date& date) {
+        at(f);
         if (dateText.empty() && format == 1 && f.len == 14) {
             const std::size_t w = open_field(f.len);
             char* d = buf_.tail();
