@@ -75,7 +75,7 @@ bool empty_path_given(const CLI::App& cmd, std::initializer_list<std::pair<const
     return false;
 }
 
-constexpr const char* kSubcommands[] = {"call", "generate", "check", "inspect", "docs"};
+constexpr const char* kSubcommands[] = {"call", "generate", "check", "inspect", "read", "docs"};
 
 // A first word that is no option and no subcommand is a typo: said so,
 // with the subcommands there are.
@@ -154,6 +154,21 @@ int run(int argc, char** argv) {
             "1 or more"));
     inspectCmd->footer("Exit codes: 0 shown; 2 the file cannot be read, or it has no such record.");
 
+    auto* readCmd = app.add_subcommand(
+        "read", "Read a transfer file back into the job that makes it (or list a returned file's errors)");
+    ReadOptions ro;
+    readCmd->add_option("FILE", ro.file.path, fileHelp)->required();
+    readCmd->add_option("--encoding", ro.file.encoding, encodingHelp);
+    readCmd->add_option("-o,--output", ro.output, "Job file to write (default, or -: standard output)");
+    readCmd->add_option("--reports-out", ro.reportsOut,
+                        "Write the reports to this NDJSON file, one a line, and name it in the job (large files)");
+    readCmd->add_flag("--errors", ro.errors,
+                      "List the error blocks of a returned file: record, the report's keys, error, field, property");
+    readCmd->add_flag("--json", ro.file.json, "With --errors: one JSON object per error (NDJSON)");
+    readCmd->footer(
+        "Exit codes: 0 every record read; 2 the file cannot be read; 3 records skipped (each told on standard "
+        "error);\n4 an output could not be written. With --errors: 0 no errors, 1 errors listed.");
+
     auto* docsCmd = app.add_subcommand("docs", "Write the reference documentation (call protocol, data objects)");
     std::string docsDir;
     docsCmd->add_option("DIR", docsDir, "Folder to write into (the project's docs/: tamrel docs docs)")->required();
@@ -190,6 +205,10 @@ int run(int argc, char** argv) {
                                               {"--log", &go.log}}))
         return 2;
     if (*checkCmd) return check_file(checkFile);
+    if (*readCmd) {
+        if (empty_path_given(*readCmd, {{"--output", &ro.output}, {"--reports-out", &ro.reportsOut}})) return 2;
+        return read_file(ro);
+    }
     if (*docsCmd) return write_docs(docsDir);
     if (*inspectCmd) return inspect_file(inspectFile, inspectRecord);
     go.progress = isatty(STDERR_FILENO);

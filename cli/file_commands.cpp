@@ -11,9 +11,11 @@
 
 #include "checks/rules.h"
 #include "core/printable.h"
+#include "readback/transfer_reading.h"
 #include "reader/field_kinds.h"
 #include "reader/line_walk.h"
 #include "reader/transfer_file.h"
+#include "run/atomic_file.h"
 #include "run/output_encoding.h"
 
 namespace tamrel::cli {
@@ -155,6 +157,63 @@ int inspect_file(const FileOptions& o, std::size_t only) {
             return 2;
         }
         return 0;
+    });
+}
+
+int read_file(const ReadOptions& o) {
+    return with_file("read", o.file, [&](std::istream& in, checks::FileEncoding encoding) {
+        std::optional<AtomicFile> reports;
+        if (!o.reportsOut.empty()) reports.emplace(resolve_output(o.reportsOut));
+        nlohmann::ordered_json inline_reports = nlohmann::ordered_json::array();
+        const readback::ReadResult r = readback::read_transfer(in, {encoding}, [&](const std::string& report) {
+            if (reports)
+                reports->write(report + "\n");
+            else if (!o.errors)
+                inline_reports.push_back(nlohmann::ordered_json::parse(report));
+        });
+        for (const readback::SkippedRecord& s : r.skipped)
+            std::cerr << "tamrel read: " << printable(readback::describe(s)) << '\n';
+        if (o.errors) {
+            for (const readback::ReturnedErrorEntry& e : r.errors) {
+                const nlohmann::ordered_json j = readback::to_json(e);
+                if (o.file.json) {
+                    print_json(j);
+                } else {
+                    std::cout << "record " << e.record << " " << e.id;
+                    for (const auto& [k, v] : e.keys.items()) std::cout << " " << k << "=" << v.dump();
+                    std::cout << ": " << e.error.number << " " << e.error.text;
+                    if (!e.property.empty())
+                        std::cout << " -> " << (e.field.empty() ? "" : e.field + " ") << "pos " << e.pos << "-"
+                                  << e.pos + e.len - 1 << ", property " << e.property;
+                    std::cout << '\n';
+                }
+            }
+            std::cerr << "tamrel read: " << r.errors.size() << " error blocks in " << r.records << " records\n";
+            return r.errors.empty() ? 0 : 1;
+        }
+        nlohmann::ordered_json job = r.job;
+        if (reports)
+            job["reports_file"] = std::filesystem::path(o.reportsOut)
+                                      .lexically_relative(std::filesystem::path(o.output).parent_path())
+                                      .string();
+        else
+            job["reports"] = std::move(inline_reports);
+        if (!r.errors.empty()) {
+            job["returned_errors"] = nlohmann::ordered_json::array();
+            for (const readback::ReturnedErrorEntry& e : r.errors)
+                job["returned_errors"].push_back(readback::to_json(e));
+        }
+        const std::string text = job.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n";
+        AtomicFile out(resolve_output(o.output.empty() ? "-" : o.output));
+        out.write(text);
+        if (reports)
+            commit_all({&out, &*reports});
+        else
+            commit_all({&out});
+        std::cerr << "tamrel read: " << r.reports << " reports from " << r.records << " records";
+        if (!r.skipped.empty()) std::cerr << ", " << r.skipped.size() << " skipped";
+        std::cerr << '\n';
+        return r.skipped.empty() ? 0 : 3;
     });
 }
 

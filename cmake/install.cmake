@@ -7,7 +7,7 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(TAMREL_LAYERS tamrel_core tamrel_procedures tamrel_protocol tamrel_checks tamrel_reader tamrel_json tamrel_call
-  tamrel_reference tamrel_run tamrel_capi tamrel_cli)
+  tamrel_reference tamrel_run tamrel_readback tamrel_capi tamrel_cli)
 add_library(tamrel_shared SHARED cmake/library.cpp)
 set_target_properties(tamrel_shared PROPERTIES OUTPUT_NAME tamrel VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${CMAKE_SOURCE_DIR}/cmake/exports.map)

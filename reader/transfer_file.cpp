@@ -15,6 +15,7 @@
 #include "reader/field_kinds.h"
 #include "reader/line_walk.h"
 #include "reader/record_layouts.h"
+#include "reader/returned_errors.h"
 
 namespace tamrel::checks {
 namespace {
@@ -153,13 +154,22 @@ private:
             return;
         }
         const bool frame = layout == &layouts::kVOSZ || layout == &layouts::kDSKO || layout == &layouts::kNCSZ;
+        // A returned record: its error flag and count set, the error blocks
+        // they announce after its own blocks (the DBFE of the common
+        // principles' data-record descriptions).
+        const ReturnedLine returned = split_returned(r, *layout);
+        if (returned.problem.empty()) r = returned.record;
+        const FieldLayout* flag = returned.returned ? error_flag_field(*layout) : nullptr;
+        const FieldLayout* count = returned.returned ? error_count_field(*layout) : nullptr;
         WalkProblem problem;
         const bool fits = walk_line(
             r, *layout,
             [&](const Part& p) {
-                for (const FieldLayout& f : p.layout->fields)
+                for (const FieldLayout& f : p.layout->fields) {
+                    if (&f == flag || &f == count) continue;  // a digit, as split_returned read it
                     if (f.kind != FieldKind::An && f.kind != FieldKind::Code)
                         field(i, r, p, f, frame);  // text holds anything
+                }
             },
             problem);
         if (!fits) {

@@ -91,8 +91,10 @@ Job parse_job_text(const std::string& text, const std::string& name, const std::
 Job parse_job(const json& j, const std::string& path, const std::string& folder) {
     if (!j.is_object()) throw std::runtime_error(path + ": expected a JSON object");
     static const std::set<std::string> keys = {
-        "class",   "strBNRAb",    "strBNREm",         "strFileNr", "strFirma", "strDatum", "enmVerfahren",
-        "datDate", "udtDSKOData", "udtDatensatzData", "now",       "tests",    "reports",  "reports_file"};
+        "class", "strBNRAb", "strBNREm", "strFileNr", "strFirma", "strDatum", "enmVerfahren", "datDate", "udtDSKOData",
+        "udtDatensatzData", "now", "tests", "reports", "reports_file",
+        // The error blocks of a returned file, which tamrel read keeps beside the reports: not generated.
+        "returned_errors"};
     for (const auto& [k, v] : j.items())
         if (!keys.contains(k)) throw std::runtime_error(path + ": " + k + ": unknown key");
     Job job;

@@ -246,7 +246,7 @@ TEST_F(Robustness, SmallerMessagesNameWhatIsWrong) {
         int status;
         const char* message;
     } cases[] = {
-        {"tamrel ", 2, "a subcommand is required: call generate check inspect docs"},
+        {"tamrel ", 2, "a subcommand is required: call generate check inspect read docs"},
         {"tamrel check folder", 2, "folder: is a folder, not a transfer file"},
         {"tamrel inspect folder", 2, "folder: is a folder, not a transfer file"},
         {"tamrel inspect job.json --record 0", 2, "records are counted from 1"},

@@ -1,0 +1,24 @@
+// What a field of a record says, as the value of the property it was
+// written from: the value that writes the same characters again.
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "core/layout.h"
+
+namespace tamrel::readback {
+
+// The field's characters (UTF-8) as a property value, by the field's kind:
+// - text: without its trailing blanks (the text encoder pads them again);
+// - digits, dates, time stamps: as they stand, but a field of zeros only
+//   is empty (the encoder writes zeros for an empty value, and a date
+//   check takes an empty date, not "00000000");
+// - amounts: integer places without leading zeros, a comma and the
+//   decimal places; zeros only: empty; a "-" kept in front;
+// - flags: "J" or "N" as they stand.
+std::string field_value(std::string_view chars, const FieldLayout& f);
+
+// Whether the characters are all `c` (an empty text is).
+bool all_of(std::string_view chars, char c);
+
+}  // namespace tamrel::readback

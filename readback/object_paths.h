@@ -1,0 +1,218 @@
+// A data object's properties reached by the paths that the record layouts
+// name their fields with ("Vorgang.Arbeitgeber.PLZ", "UvAngabe1(i)",
+// "DBSE.STKL"), and the object written back as a report of the job format.
+// Both walk the property tables beside the data objects.
+#pragma once
+#include <charconv>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+#include "core/indexed.h"
+#include "core/property_table.h"
+#include "json/json_escape.h"
+
+namespace tamrel::readback {
+
+using properties::Binding;
+using properties::Bound;
+
+// Where a field stands among the parts of its line: the entry of a list
+// (for "…(i)") and the how-manieth time its block follows (for items of a
+// repeating block, "DBSE.STKL").
+struct Place {
+    std::size_t entry = 0;
+    std::size_t item = 1;
+};
+
+// A field's value as the property takes it: text, J/N, digits.
+template <class M>
+bool convert(std::string_view text, M& out) {
+    if constexpr (std::is_same_v<M, std::string>) {
+        out.assign(text);
+        return true;
+    } else if constexpr (std::is_same_v<M, bool>) {
+        if (text != "J" && text != "N") return false;
+        out = text == "J";
+        return true;
+    } else if constexpr (std::is_integral_v<M>) {
+        if (text.empty()) return out = 0, true;
+        const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), out);
+        return ec == std::errc{} && end == text.data() + text.size();
+    } else {
+        return false;
+    }
+}
+
+template <Bound T>
+bool assign(T& obj, std::string_view path, const Place& at, std::string_view value);
+
+namespace detail {
+
+template <class M>
+bool assign_member(M& m, std::string_view rest, const Place& at, std::string_view value) {
+    if constexpr (Bound<M>) {
+        return rest.size() > 1 && rest[0] == '.' && assign(m, rest.substr(1), at, value);
+    } else if constexpr (requires { typename M::value_type; } && !std::is_same_v<M, std::string>) {
+        // A repeating block's items: the item the block's place says.
+        using Item = typename M::value_type;
+        if constexpr (Bound<Item>) {
+            if (rest.size() < 2 || rest[0] != '.' || at.item == 0) return false;
+            if (m.size() < at.item) m.resize(at.item);
+            return assign(m[at.item - 1], rest.substr(1), at, value);
+        } else {
+            return false;
+        }
+    } else if constexpr (requires { m.slot(std::int16_t{}); }) {
+        // "(i)": the entry of the list; "(3)": the third.
+        if (rest.size() < 3 || rest.front() != '(' || rest.back() != ')') return false;
+        const std::string_view index = rest.substr(1, rest.size() - 2);
+        std::int16_t i = 0;
+        if (index == "i") {
+            i = static_cast<std::int16_t>(at.entry);
+        } else if (std::from_chars(index.data(), index.data() + index.size(), i).ec != std::errc{}) {
+            return false;
+        }
+        using Stored = std::remove_reference_t<decltype(m.slot(i))>;
+        Stored v{};
+        if constexpr (std::is_same_v<Stored, std::string>) {
+            v.assign(value);
+        } else {
+            bool b = false;
+            if (!convert(value, b)) return false;
+            v = b;
+        }
+        m.slot(i) = std::move(v);
+        return true;
+    } else {
+        return rest.empty() && convert(value, m);
+    }
+}
+
+// A derived object's table holds its base's entries too.
+template <class T, class O, class M>
+bool try_entry(T& obj, const properties::Field<O, M>& f, std::string_view path, const Place& at, std::string_view value,
+               bool& done) {
+    if (done || path.substr(0, f.name.size()) != f.name) return false;
+    const std::string_view rest = path.substr(f.name.size());
+    if (!rest.empty() && rest[0] != '.' && rest[0] != '(') return false;
+    return done = assign_member(obj.*f.member, rest, at, value);
+}
+
+template <class T, class O, class M>
+bool try_entry(T& obj, const properties::Prefixed<O, M>& f, std::string_view path, const Place& at,
+               std::string_view value, bool& done) {
+    if (done || path.substr(0, f.prefix.size()) != f.prefix) return false;
+    return done = assign(obj.*f.member, path.substr(f.prefix.size()), at, value);
+}
+
+}  // namespace detail
+
+// Sets the property at `path` from a field's value; false where the path
+// names no property, or the value does not suit it.
+template <Bound T>
+bool assign(T& obj, std::string_view path, const Place& at, std::string_view value) {
+    bool done = false;
+    std::apply([&](const auto&... f) { (detail::try_entry(obj, f, path, at, value, done), ...); }, Binding<T>::fields);
+    return done;
+}
+
+// The object's properties that differ from a new object's, as the members
+// of a JSON object (without braces; empty when none differs).
+template <Bound T>
+void append_members(std::string& out, const T& obj, std::string_view prefix = {});
+
+namespace detail {
+
+inline void key(std::string& out, std::string_view prefix, std::string_view name) {
+    if (!out.empty() && out.back() != '{' && out.back() != '[') out += ',';
+    out += '"';
+    out += prefix;
+    out += name;
+    out += "\":";
+}
+
+template <class M>
+void append_value(std::string& out, const M& m) {
+    if constexpr (std::is_same_v<M, std::string>) {
+        append_json_string(out, m);
+    } else if constexpr (std::is_same_v<M, bool>) {
+        out += m ? "true" : "false";
+    } else if constexpr (std::is_integral_v<M>) {
+        out += std::to_string(m);
+    } else if constexpr (Bound<M>) {
+        out += '{';
+        append_members(out, m);
+        out += '}';
+    } else if constexpr (requires { m.view(); }) {
+        // An indexed property: from index 1 an array of every entry (its
+        // bounds are the list's), else its entries that hold anything.
+        const bool from_one = m.smallest() == 1;
+        out += from_one ? '[' : '{';
+        for (std::int32_t i = m.smallest(); i <= m.largest(); ++i) {
+            const auto v = m(static_cast<std::int16_t>(i));
+            if (from_one) {
+                if (i > 1) out += ',';
+            } else {
+                if (v == decltype(v){}) continue;
+                key(out, {}, std::to_string(i));
+            }
+            append_value(out, v);
+        }
+        out += from_one ? ']' : '}';
+    } else {
+        out += '[';
+        for (const auto& item : m) {
+            if (out.back() != '[') out += ',';
+            append_value(out, item);
+        }
+        out += ']';
+    }
+}
+
+template <class M>
+bool is_default(const M& m, const M& fresh) {
+    if constexpr (requires { m.view(); } || (requires { m.begin(); } && !std::is_same_v<M, std::string>))
+        return m.empty();
+    else if constexpr (Bound<M>) {
+        std::string members;
+        append_members(members, m);
+        return members.empty();
+    } else
+        return m == fresh;
+}
+
+}  // namespace detail
+
+template <Bound T>
+void append_members(std::string& out, const T& obj, std::string_view prefix) {
+    static const T fresh{};
+    std::apply(
+        [&](const auto&... f) {
+            auto one = [&](const auto& e) {
+                if constexpr (requires { e.prefix; }) {
+                    append_members(out, obj.*e.member, e.prefix);
+                } else {
+                    if (detail::is_default(obj.*e.member, fresh.*e.member)) return;
+                    detail::key(out, prefix, e.name);
+                    detail::append_value(out, obj.*e.member);
+                }
+            };
+            (one(f), ...);
+        },
+        Binding<T>::fields);
+}
+
+// The object as one JSON object.
+template <Bound T>
+std::string to_json(const T& obj) {
+    std::string out = "{";
+    append_members(out, obj);
+    out += '}';
+    return out;
+}
+
+}  // namespace tamrel::readback

@@ -1,0 +1,319 @@
+#include "readback/transfer_reading.h"
+
+#include <memory>
+#include <optional>
+
+#include "call/call_protocol.h"
+#include "call/procedure.h"
+#include "call/report_runner.h"
+#include "core/frame_layouts.h"
+#include "core/text.h"
+#include "readback/error_fields.h"
+#include "readback/procedure_readers.h"
+#include "reader/line_walk.h"
+#include "reader/record_layouts.h"
+#include "run/job.h"
+
+namespace tamrel::readback {
+namespace {
+
+using checks::to_utf8;
+using nlohmann::ordered_json;
+
+// "20240301101112" as the job's date "2024-03-01T10:11:12"; empty for
+// anything else.
+std::string iso_stamp(std::string_view s) {
+    if (s.size() != 14 || s.find_first_not_of("0123456789") != std::string_view::npos || s == "00000000000000")
+        return {};
+    return std::string(s.substr(0, 4)) + "-" + std::string(s.substr(4, 2)) + "-" + std::string(s.substr(6, 2)) + "T" +
+           std::string(s.substr(8, 2)) + ":" + std::string(s.substr(10, 2)) + ":" + std::string(s.substr(12, 2));
+}
+
+// Where two records first differ, and the field there, for a record that
+// does not come out again.
+std::string difference(std::string_view want, std::string_view got, std::span<const checks::Part> parts) {
+    std::size_t i = 0, chars = 0;
+    while (i < want.size() && i < got.size() && want[i] == got[i]) {
+        if ((static_cast<unsigned char>(want[i]) & 0xC0) != 0x80) ++chars;
+        ++i;
+    }
+    std::string where;
+    for (const checks::Part& p : parts)
+        for (const FieldLayout& f : p.layout->fields)
+            if (chars >= p.at + f.pos - 1u && chars < p.at + f.pos - 1u + f.len)
+                where = " (" + checks::part_label(p) + (p.block ? " " : "") + std::string(f.name) + ")";
+    return "read back, it builds differently from character " + std::to_string(chars + 1) + where;
+}
+
+// The frame records as read: their values, and their text to prove them by.
+struct Frame {
+    std::string vosz, dsko;  // UTF-8, without error blocks
+    ordered_json head = ordered_json::object();
+    ordered_json dskoData = ordered_json::object();
+    std::string voszDate, dskoCreated;
+};
+
+void read_vosz(std::u32string_view line, Frame& f) {
+    namespace V = layouts::VOSZ;
+    f.vosz = to_utf8(line);
+    for (const FieldLayout* field : {&V::strBNRAb, &V::strBNREm, &V::strFileNr, &V::strFirma})
+        f.head[std::string(field->name)] = field_value(checks::field_text(line, *field), *field);
+    f.voszDate = checks::field_text(line, V::strDatum);
+}
+
+void read_dsko(std::u32string_view line, Frame& f) {
+    f.dsko = to_utf8(line);
+    DSKOData d;
+    for (const FieldLayout& field : layouts::DSKO::kFields) {
+        if (derived(field) || field.kind == FieldKind::DateTime) continue;
+        assign(d, field.name, {}, field_value(checks::field_text(line, field), field));
+    }
+    f.dskoCreated = checks::field_text(line, layouts::DSKO::Erstellt);
+    f.dskoData = ordered_json::parse(to_json(d));
+}
+
+// The class of the file, found with its first data record, and what
+// proves each report: the job's frame values and the class's runner.
+class Prover {
+public:
+    Prover(const ProcedureDescriptor& p, ordered_json head) : procedure_(p), head_(std::move(head)) {
+        ordered_json j = head_;
+        j["reports"] = ordered_json::array();
+        job_ = cli::parse_job_text(j.dump(), "the job read", ".");
+        session_ = std::make_unique<CallSession>(job_.now.is_null() ? nullptr : &job_.now, nullptr);
+        const RunnerSettings settings{&session_->host(), job_.datensatz, job_.frame.enmVerfahren, job_.frame.datDate};
+        runner_ = procedure_.runner(procedure_, settings);
+    }
+    // The record the report builds, or the error that stops it.
+    std::string build(const std::string& report) {
+        try {
+            runner_->read_text(report);
+            std::string out = runner_->data();
+            session_->clear_log();
+            return out;
+        } catch (const std::exception& e) {
+            session_->clear_log();
+            return std::string("\x01") + e.what();
+        }
+    }
+    std::string vosz() {
+        FrameValues v = job_.frame;
+        return guarded([&] { return procedure_.GenVOSZ(session_->host(), v); });
+    }
+    std::string dsko() {
+        FrameValues v = job_.frame;
+        return guarded([&] { return procedure_.GenDSKO(session_->host(), v); });
+    }
+    const ordered_json& head() const { return head_; }
+
+private:
+    template <class F>
+    std::string guarded(F&& f) {
+        try {
+            return f();
+        } catch (const std::exception& e) {
+            return std::string("\x01") + e.what();
+        }
+    }
+    const ProcedureDescriptor& procedure_;
+    ordered_json head_;
+    cli::Job job_;
+    std::unique_ptr<CallSession> session_;
+    std::unique_ptr<ReportRunner> runner_;
+};
+
+// The frame values of the job, from the header, the communication record
+// and the first data record's head.
+ordered_json job_head(std::string_view cls, const Frame& f, const RecordFrame* first, std::int32_t verfahren) {
+    ordered_json j = ordered_json::object();
+    j["class"] = cls;
+    for (const auto& [k, v] : f.head.items()) j[k] = v;
+    const std::string& stamp = !f.dskoCreated.empty() || !first ? f.dskoCreated : first->created;
+    const std::string created = iso_stamp(stamp);
+    if (!f.voszDate.empty() && (created.empty() || f.voszDate != stamp.substr(0, 8))) j["strDatum"] = f.voszDate;
+    j["enmVerfahren"] = verfahren;
+    if (!created.empty()) {
+        j["datDate"] = created;
+        j["now"] = created;
+    }
+    if (!f.dsko.empty()) j["udtDSKOData"] = f.dskoData;
+    if (first) j["udtDatensatzData"] = ordered_json::parse(to_json(first->datensatz));
+    return j;
+}
+
+// The values of enmVerfahren a header may have been written with.
+constexpr std::int32_t kVerfahren[] = {0, 1, 2, 4};
+
+class FileReader {
+public:
+    FileReader(ReadResult& out, const std::function<void(const std::string&)>& report) : out_(out), report_(report) {}
+
+    void line(std::u32string_view line) {
+        const std::size_t n = ++out_.records;
+        const RecordLayout* layout = checks::find_layout(line);
+        const std::string id = to_utf8(line.substr(0, 4));
+        if (!layout) return skip(n, id, "no procedure tamrel writes has this record");
+        const checks::ReturnedLine r = checks::split_returned(line, *layout);
+        if (!r.problem.empty()) return skip(n, id, r.problem);
+        if (layout == &layouts::kVOSZ) {
+            read_vosz(r.record, frame_);
+            for (const auto& e : r.errors) out_.errors.push_back({n, 0, id, ordered_json::object(), e, {}, {}});
+        } else if (layout == &layouts::kDSKO) {
+            read_dsko(r.record, frame_);
+            file_errors(n, id, r, *layout, nullptr);
+        } else if (layout != &layouts::kNCSZ) {
+            data(n, id, r, *layout);
+        }
+    }
+
+    void finish() {
+        if (!prover_) {
+            // A file without data records: the class from the header alone.
+            for (const ProcedureDescriptor& p : procedures())
+                if (!p.xml() && settle(p, nullptr)) break;
+        }
+        if (prover_) {
+            out_.job = prover_->head();
+            if (!frame_.vosz.empty() && prover_->vosz() != frame_.vosz)
+                skip(1, "VOSZ", "read back, the header builds differently");
+            if (!frame_.dsko.empty() && prover_->dsko() != frame_.dsko)
+                skip(2, "DSKO", "read back, the communication record builds differently");
+        } else {
+            out_.job = job_head("", frame_, nullptr, 0);
+        }
+    }
+
+private:
+    void skip(std::size_t n, std::string id, std::string why) { out_.skipped.push_back({n, std::move(id), why}); }
+
+    // Takes `p` as the file's class if its header comes out as read, with
+    // one of the values of enmVerfahren; the first data record's head, if
+    // given, completes the frame.
+    bool settle(const ProcedureDescriptor& p, const RecordFrame* first) {
+        for (std::int32_t v : kVerfahren) {
+            try {
+                auto candidate = std::make_unique<Prover>(p, job_head(p.cls, frame_, first, v));
+                if (frame_.vosz.empty() || candidate->vosz() == frame_.vosz) {
+                    prover_ = std::move(candidate);
+                    return true;
+                }
+            } catch (const std::exception&) {
+                // frame values this class refuses: not its file
+            }
+        }
+        return false;
+    }
+
+    void data(std::size_t n, const std::string& id, const checks::ReturnedLine& r, const RecordLayout& layout) {
+        const ProcedureReader* reader = reader_for_record(layout);
+        if (!reader) return skip(n, id, "tamrel reads no record " + id);
+        if (cls_.empty()) {
+            cls_ = reader->cls;
+        } else if (reader->cls != cls_) {
+            return skip(n, id, "a record of another procedure than the file's first (" + cls_ + ")");
+        }
+        parts_.clear();
+        checks::WalkProblem problem;
+        if (!checks::walk_line(
+                r.record, layout, [&](const checks::Part& p) { parts_.push_back(p); }, problem))
+            return skip(n, id,
+                        std::string("does not fit its layout at character ") + std::to_string(problem.at + 1) + ": " +
+                            std::string(problem.rule->english));
+        ReadReport report;
+        reader->read(r.record, parts_, report);
+        own_time(report);
+        if (!prover_ && !settle(*find_procedure(cls_), &report.frame)) {
+            // No header, or one the class does not write: the frame from the record alone.
+            frame_.vosz.clear();
+            settle(*find_procedure(cls_), &report.frame);
+        }
+        if (!prover_) return skip(n, id, "the frame values cannot be read");
+        const std::string built = prover_->build(report.json);
+        // A returned record is built as it was sent: no error flag, no count.
+        std::u32string sent(r.record);
+        for (const FieldLayout* f : {checks::error_flag_field(layout), checks::error_count_field(layout)})
+            if (r.returned && f && f->pos <= sent.size()) sent[f->pos - 1u] = U'0';
+        const std::string want = to_utf8(sent);
+        if (built != want) {
+            if (!built.empty() && built[0] == '\x01')
+                return skip(n, id, "read back, it is refused: " + built.substr(1));
+            return skip(n, id, difference(want, built, parts_));
+        }
+        report_(report.json);
+        ++out_.reports;
+        file_errors(n, id, r, layout, &report);
+    }
+
+    // A record made at another time than the file's first: the time is
+    // given as the report's own (its property that the time stamp names).
+    // The stamp's text is read as year (1-4), month (5-6), day (the last
+    // two characters) and, from 14 characters on, the time (9-14).
+    void own_time(ReadReport& report) const {
+        const std::string& c = report.frame.created;
+        // The file's time: the communication record's, else the first record's.
+        if (first_created_.empty()) first_created_ = !frame_.dskoCreated.empty() ? frame_.dskoCreated : c;
+        if (c == first_created_) return;
+        if (report.frame.createdFrom.empty() || text::char_count(c) != 14) return;
+        nlohmann::json j = nlohmann::json::parse(report.json);
+        const std::string date(text::left(c, 8)), day(text::mid(c, 7, 2)), time(text::mid(c, 9, 6));
+        const bool same_time = time == text::mid(first_created_, 9, 6);
+        j[std::string(report.frame.createdFrom)] = same_time ? date : date + time + day;
+        report.json = j.dump();
+    }
+
+    void file_errors(std::size_t n, const std::string& id, const checks::ReturnedLine& r, const RecordLayout& layout,
+                     const ReadReport* report) {
+        if (r.errors.empty()) return;
+        const ordered_json keys = report ? report_keys(report->json) : ordered_json::object();
+        for (const checks::ReturnedError& e : r.errors) {
+            ReturnedErrorEntry entry{n, report ? out_.reports : 0, id, keys, e, {}, {}};
+            if (const FieldLayout* f = named_field(layout, parts_, e)) {
+                entry.field = std::string(abbreviation(layout, *f));
+                entry.property = std::string(f->name);
+                entry.pos = f->pos;
+                entry.len = f->len;
+            }
+            out_.errors.push_back(std::move(entry));
+        }
+    }
+
+    ReadResult& out_;
+    const std::function<void(const std::string&)>& report_;
+    Frame frame_;
+    std::string cls_;
+    std::unique_ptr<Prover> prover_;
+    std::vector<checks::Part> parts_;
+    mutable std::string first_created_;
+};
+
+}  // namespace
+
+ReadResult read_transfer(std::istream& in, const ReadOptions& options,
+                         const std::function<void(const std::string& report)>& report) {
+    ReadResult out;
+    FileReader reader(out, report);
+    checks::read_records(
+        in, [&](std::u32string_view line) { reader.line(line); }, options.encoding);
+    reader.finish();
+    return out;
+}
+
+std::string describe(const SkippedRecord& s) {
+    return "record " + std::to_string(s.record) + " " + s.id + ": " + s.why;
+}
+
+ordered_json to_json(const ReturnedErrorEntry& e) {
+    ordered_json j{{"record", e.record}, {"report", e.report}, {"id", e.id}};
+    if (!e.keys.empty()) j["keys"] = e.keys;
+    j["number"] = e.error.number;
+    j["text"] = e.error.text;
+    if (!e.property.empty()) {
+        j["field"] = e.field;
+        j["pos"] = e.pos;
+        j["len"] = e.len;
+        j["property"] = e.property;
+    }
+    return j;
+}
+
+}  // namespace tamrel::readback
