@@ -42,8 +42,7 @@ bool applies(const ShortName& s, const RecordLayout& record) {
 
 }  // namespace
 
-const FieldLayout* named_field(const RecordLayout& record, std::span<const checks::Part>,
-                               const checks::ReturnedError& error) {
+const FieldLayout* named_field(const RecordLayout& record, const checks::ReturnedError& error) {
     // The words of the text, hyphens dropped ("BBNR-VU" is BBNRVU).
     const std::string& t = error.text;
     for (std::size_t i = 0; i < t.size();) {

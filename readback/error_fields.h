@@ -16,8 +16,7 @@
 namespace tamrel::readback {
 
 // The record's field that the error's text names, or nullptr.
-const FieldLayout* named_field(const RecordLayout& record, std::span<const checks::Part> parts,
-                               const checks::ReturnedError& error);
+const FieldLayout* named_field(const RecordLayout& record, const checks::ReturnedError& error);
 
 // The short name of a record's field, as the error texts spell it; empty
 // where none is known.

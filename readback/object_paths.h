@@ -177,11 +177,9 @@ template <class M>
 bool is_default(const M& m, const M& fresh) {
     if constexpr (requires { m.view(); } || (requires { m.begin(); } && !std::is_same_v<M, std::string>))
         return m.empty();
-    else if constexpr (Bound<M>) {
-        std::string members;
-        append_members(members, m);
-        return members.empty();
-    } else
+    else if constexpr (Bound<M>)
+        return false;  // written, and taken back when it holds nothing
+    else
         return m == fresh;
 }
 
@@ -197,8 +195,10 @@ void append_members(std::string& out, const T& obj, std::string_view prefix) {
                     append_members(out, obj.*e.member, e.prefix);
                 } else {
                     if (detail::is_default(obj.*e.member, fresh.*e.member)) return;
+                    const std::size_t before = out.size();
                     detail::key(out, prefix, e.name);
                     detail::append_value(out, obj.*e.member);
+                    if (out.ends_with(":{}")) out.resize(before);  // a sub-object that holds nothing
                 }
             };
             (one(f), ...);

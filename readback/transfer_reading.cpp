@@ -85,17 +85,21 @@ public:
         runner_ = procedure_.runner(procedure_, settings);
     }
     // The record the report builds, or the error that stops it.
-    std::string build(const std::string& report) {
+    struct Built {
+        std::string record, error;
+    };
+    Built build(const std::string& report) {
+        Built b;
         try {
             runner_->read_text(report);
-            std::string out = runner_->data();
-            session_->clear_log();
-            return out;
+            b.record = runner_->data();
         } catch (const std::exception& e) {
-            session_->clear_log();
-            return std::string("\x01") + e.what();
+            b.error = e.what();
         }
+        session_->clear_log();
+        return b;
     }
+    // The frame records the job builds; empty where the class refuses it.
     std::string vosz() {
         FrameValues v = job_.frame;
         return guarded([&] { return procedure_.GenVOSZ(session_->host(), v); });
@@ -111,8 +115,8 @@ private:
     std::string guarded(F&& f) {
         try {
             return f();
-        } catch (const std::exception& e) {
-            return std::string("\x01") + e.what();
+        } catch (const std::exception&) {
+            return {};
         }
     }
     const ProcedureDescriptor& procedure_;
@@ -228,17 +232,19 @@ private:
             settle(*find_procedure(cls_), &report.frame);
         }
         if (!prover_) return skip(n, id, "the frame values cannot be read");
-        const std::string built = prover_->build(report.json);
+        const Prover::Built built = prover_->build(report.json);
+        if (!built.error.empty()) return skip(n, id, "read back, it is refused: " + built.error);
         // A returned record is built as it was sent: no error flag, no count.
-        std::u32string sent(r.record);
-        for (const FieldLayout* f : {checks::error_flag_field(layout), checks::error_count_field(layout)})
-            if (r.returned && f && f->pos <= sent.size()) sent[f->pos - 1u] = U'0';
-        const std::string want = to_utf8(sent);
-        if (built != want) {
-            if (!built.empty() && built[0] == '\x01')
-                return skip(n, id, "read back, it is refused: " + built.substr(1));
-            return skip(n, id, difference(want, built, parts_));
+        std::string want;
+        if (r.returned) {
+            std::u32string sent(r.record);
+            for (const FieldLayout* f : {checks::error_flag_field(layout), checks::error_count_field(layout)})
+                if (f && f->pos <= sent.size()) sent[f->pos - 1u] = U'0';
+            want = to_utf8(sent);
+        } else {
+            want = to_utf8(r.record);
         }
+        if (built.record != want) return skip(n, id, difference(want, built.record, parts_));
         report_(report.json);
         ++out_.reports;
         file_errors(n, id, r, layout, &report);
@@ -267,7 +273,7 @@ private:
         const ordered_json keys = report ? report_keys(report->json) : ordered_json::object();
         for (const checks::ReturnedError& e : r.errors) {
             ReturnedErrorEntry entry{n, report ? out_.reports : 0, id, keys, e, {}, {}};
-            if (const FieldLayout* f = named_field(layout, parts_, e)) {
+            if (const FieldLayout* f = named_field(layout, e)) {
                 entry.field = std::string(abbreviation(layout, *f));
                 entry.property = std::string(f->name);
                 entry.pos = f->pos;
