@@ -11,6 +11,12 @@ namespace tamrel {
 struct Meldung;
 struct Betrieb;
 struct Erst;
+struct ArbeitsBesch;
+struct BeitrErh;
+struct BeitrNachw;
+struct Zahl;
+struct Entgelt;
+struct Lohnnachweis;
 }  // namespace tamrel
 
 namespace tamrel::readback {
@@ -24,9 +30,48 @@ template <>
 void read_own_forms<Betrieb>(Betrieb&, std::span<const ReadField>, std::span<const checks::Part>, RecordFrame&);
 template <>
 void read_own_forms<Erst>(Erst&, std::span<const ReadField>, std::span<const checks::Part>, RecordFrame&);
+template <>
+void read_own_forms<BeitrNachw>(BeitrNachw&, std::span<const ReadField>, std::span<const checks::Part>, RecordFrame&);
+template <>
+void read_own_forms<Zahl>(Zahl&, std::span<const ReadField>, std::span<const checks::Part>, RecordFrame&);
+template <>
+void read_own_forms<Entgelt>(Entgelt&, std::span<const ReadField>, std::span<const checks::Part>, RecordFrame&);
+template <>
+void read_own_forms<Lohnnachweis>(Lohnnachweis&, std::span<const ReadField>, std::span<const checks::Part>,
+                                  RecordFrame&);
+template <>
+void read_own_forms<BeitrErh>(BeitrErh&, std::span<const ReadField>, std::span<const checks::Part>, RecordFrame&);
+template <>
+void read_own_forms<ArbeitsBesch>(ArbeitsBesch&, std::span<const ReadField>, std::span<const checks::Part>,
+                                  RecordFrame&);
+
+// A J/N flag's property: 1 for "J", 2 for "N", 0 for a blank.
+inline std::int32_t jn_value(std::string_view v) { return v == "J" ? 1 : v == "N" ? 2 : 0; }
+
+// A one-digit code "0".."last" that stands for the values 1 onwards; 0 for
+// an empty field or any other text.
+inline std::int32_t from_zero_code(std::string_view v, char last) {
+    return v.size() == 1 && v[0] >= '0' && v[0] <= last ? v[0] - '0' + 1 : 0;
+}
+
+// A list's entries, whose fields are named "X(i)", as the items of `items`
+// (entry i is item i, its property X).
+template <Bound Item>
+void read_entries(std::vector<Item>& items, std::span<const ReadField> left, const RecordLayout& entry) {
+    for (const ReadField& r : left) {
+        if (r.part->layout != &entry || r.part->entry == 0) continue;
+        if (items.size() < r.part->entry) items.resize(r.part->entry);
+        const std::string_view name = r.field->name;
+        assign(items[r.part->entry - 1], name.substr(0, name.find('(')), {}, r.value);
+    }
+}
 
 // The record identification's strBNRSt, from the field that writes it
 // only outside the excluded range (written blank, read empty).
 void read_converted_bnrst(std::span<const ReadField> left, RecordFrame& frame);
+
+// A record reference: the version (10 characters, into the record
+// identification) and a running number (10 digits, returned).
+std::int32_t read_version_number(std::string_view v, RecordFrame& frame);
 
 }  // namespace tamrel::readback

@@ -56,6 +56,13 @@ std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span
     std::vector<ReadField> left;
     for (const checks::Part& p : parts) {
         for (const FieldLayout& f : p.layout->fields) {
+            // A count of blocks is the property "Anzahl<block>" where the
+            // object has one (its entries are read with the blocks).
+            if (f.announce == Announce::Count) {
+                std::string name = "Anzahl";
+                name += f.name;
+                assign(obj, name, Place{p.entry, p.item}, field_value(checks::to_utf8(checks::slice(line, p, f)), f));
+            }
             if (derived(f)) continue;
             std::string value = field_value(checks::to_utf8(checks::slice(line, p, f)), f);
             if (f.kind == FieldKind::DateTime && f.name.starts_with("created")) {

@@ -20,9 +20,6 @@ std::int32_t decoded(const std::string& v, std::initializer_list<Code> codes) {
     return 0;
 }
 
-// A J/N written for 1/2, blank for anything else.
-std::int32_t jn_value(const std::string& v) { return v == "J" ? 1 : v == "N" ? 2 : 0; }
-
 }  // namespace
 
 template <>
@@ -67,12 +64,10 @@ void read_own_forms<Erst>(Erst& e, std::span<const ReadField> left, std::span<co
             if (v == "03") e.Leistungsart = 1;
         } else if (r.field->name == DSER::Abrechnungskennzeichen.name) {
             // "0" to "3" stand for the values 1 to 4; zeros (read empty) for none.
-            e.Abrechnungskennzeichen = v.size() == 1 && v[0] >= '0' && v[0] <= '3' ? v[0] - '0' + 1 : 0;
+            e.Abrechnungskennzeichen = from_zero_code(v, '3');
         } else if (r.field->name == DSER::RecordReference.name) {
-            // The version (10 characters) and the refund's number (10 digits).
-            frame.datensatz.strVersion = field_value(v.substr(0, 10), DSER::RecordReference);
-            convert(field_value(v.size() > 10 ? v.substr(10, 10) : std::string(), {"", 1, 10, FieldKind::N}),
-                    e.ErstattungsId);
+            // The version and the refund's number.
+            e.ErstattungsId = read_version_number(v, frame);
         }
     }
 }
