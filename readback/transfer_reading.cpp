@@ -10,6 +10,8 @@
 #include "core/text.h"
 #include "readback/error_fields.h"
 #include "readback/procedure_readers.h"
+#include "readback/prover.h"
+#include "readback/xml_report_reading.h"
 #include "reader/line_walk.h"
 #include "reader/record_layouts.h"
 #include "run/job.h"
@@ -19,15 +21,6 @@ namespace {
 
 using checks::to_utf8;
 using nlohmann::ordered_json;
-
-// "20240301101112" as the job's date "2024-03-01T10:11:12"; empty for
-// anything else.
-std::string iso_stamp(std::string_view s) {
-    if (s.size() != 14 || s.find_first_not_of("0123456789") != std::string_view::npos || s == "00000000000000")
-        return {};
-    return std::string(s.substr(0, 4)) + "-" + std::string(s.substr(4, 2)) + "-" + std::string(s.substr(6, 2)) + "T" +
-           std::string(s.substr(8, 2)) + ":" + std::string(s.substr(10, 2)) + ":" + std::string(s.substr(12, 2));
-}
 
 // Where two records first differ, and the field there, for a record that
 // does not come out again.
@@ -44,14 +37,6 @@ std::string difference(std::string_view want, std::string_view got, std::span<co
                 where = " (" + checks::part_label(p) + (p.block ? " " : "") + std::string(f.name) + ")";
     return "read back, it builds differently from character " + std::to_string(chars + 1) + where;
 }
-
-// The frame records as read: their values, and their text to prove them by.
-struct Frame {
-    std::string vosz, dsko;  // UTF-8, without error blocks
-    ordered_json head = ordered_json::object();
-    ordered_json dskoData = ordered_json::object();
-    std::string voszDate, dskoCreated;
-};
 
 void read_vosz(std::u32string_view line, Frame& f) {
     namespace V = layouts::VOSZ;
@@ -71,82 +56,6 @@ void read_dsko(std::u32string_view line, Frame& f) {
     f.dskoCreated = checks::field_text(line, layouts::DSKO::Erstellt);
     f.dskoData = ordered_json::parse(to_json(d));
 }
-
-// The class of the file, found with its first data record, and what
-// proves each report: the job's frame values and the class's runner.
-class Prover {
-public:
-    Prover(const ProcedureDescriptor& p, ordered_json head) : procedure_(p), head_(std::move(head)) {
-        ordered_json j = head_;
-        j["reports"] = ordered_json::array();
-        job_ = cli::parse_job_text(j.dump(), "the job read", ".");
-        session_ = std::make_unique<CallSession>(job_.now.is_null() ? nullptr : &job_.now, nullptr);
-        const RunnerSettings settings{&session_->host(), job_.datensatz, job_.frame.enmVerfahren, job_.frame.datDate};
-        runner_ = procedure_.runner(procedure_, settings);
-    }
-    // The record the report builds, or the error that stops it.
-    struct Built {
-        std::string record, error;
-    };
-    Built build(const std::string& report) {
-        Built b;
-        try {
-            runner_->read_text(report);
-            b.record = runner_->data();
-        } catch (const std::exception& e) {
-            b.error = e.what();
-        }
-        session_->clear_log();
-        return b;
-    }
-    // The frame records the job builds; empty where the class refuses it.
-    std::string vosz() {
-        FrameValues v = job_.frame;
-        return guarded([&] { return procedure_.GenVOSZ(session_->host(), v); });
-    }
-    std::string dsko() {
-        FrameValues v = job_.frame;
-        return guarded([&] { return procedure_.GenDSKO(session_->host(), v); });
-    }
-    const ordered_json& head() const { return head_; }
-
-private:
-    template <class F>
-    std::string guarded(F&& f) {
-        try {
-            return f();
-        } catch (const std::exception&) {
-            return {};
-        }
-    }
-    const ProcedureDescriptor& procedure_;
-    ordered_json head_;
-    cli::Job job_;
-    std::unique_ptr<CallSession> session_;
-    std::unique_ptr<ReportRunner> runner_;
-};
-
-// The frame values of the job, from the header, the communication record
-// and the first data record's head.
-ordered_json job_head(std::string_view cls, const Frame& f, const RecordFrame* first, std::int32_t verfahren) {
-    ordered_json j = ordered_json::object();
-    j["class"] = cls;
-    for (const auto& [k, v] : f.head.items()) j[k] = v;
-    const std::string& stamp = !f.dskoCreated.empty() || !first ? f.dskoCreated : first->created;
-    const std::string created = iso_stamp(stamp);
-    if (!f.voszDate.empty() && (created.empty() || f.voszDate != stamp.substr(0, 8))) j["strDatum"] = f.voszDate;
-    j["enmVerfahren"] = verfahren;
-    if (!created.empty()) {
-        j["datDate"] = created;
-        j["now"] = created;
-    }
-    if (!f.dsko.empty()) j["udtDSKOData"] = f.dskoData;
-    if (first) j["udtDatensatzData"] = ordered_json::parse(to_json(first->datensatz));
-    return j;
-}
-
-// The values of enmVerfahren a header may have been written with.
-constexpr std::int32_t kVerfahren[] = {0, 1, 2, 4};
 
 class FileReader {
 public:
@@ -250,21 +159,11 @@ private:
         file_errors(n, id, r, layout, &report);
     }
 
-    // A record made at another time than the file's first: the time is
-    // given as the report's own (its property that the time stamp names).
-    // The stamp's text is read as year (1-4), month (5-6), day (the last
-    // two characters) and, from 14 characters on, the time (9-14).
-    void own_time(ReadReport& report) const {
-        const std::string& c = report.frame.created;
-        // The file's time: the communication record's, else the first record's.
-        if (first_created_.empty()) first_created_ = !frame_.dskoCreated.empty() ? frame_.dskoCreated : c;
-        if (c == first_created_) return;
-        if (report.frame.createdFrom.empty() || text::char_count(c) != 14) return;
-        nlohmann::json j = nlohmann::json::parse(report.json);
-        const std::string date(text::left(c, 8)), day(text::mid(c, 7, 2)), time(text::mid(c, 9, 6));
-        const bool same_time = time == text::mid(first_created_, 9, 6);
-        j[std::string(report.frame.createdFrom)] = same_time ? date : date + time + day;
-        report.json = j.dump();
+    // The file's time: the communication record's, else the first record's.
+    void own_time(ReadReport& report) {
+        if (first_created_.empty())
+            first_created_ = !frame_.dskoCreated.empty() ? frame_.dskoCreated : report.frame.created;
+        give_own_time(report, first_created_);
     }
 
     void file_errors(std::size_t n, const std::string& id, const checks::ReturnedLine& r, const RecordLayout& layout,
@@ -289,13 +188,15 @@ private:
     std::string cls_;
     std::unique_ptr<Prover> prover_;
     std::vector<checks::Part> parts_;
-    mutable std::string first_created_;
+    std::string first_created_;
 };
 
 }  // namespace
 
 ReadResult read_transfer(std::istream& in, const ReadOptions& options,
                          const std::function<void(const std::string& report)>& report) {
+    // An XML report begins with its declaration, a fixed-width file with a record identifier.
+    if (in.peek() == '<') return read_xml_report(in, options, report);
     ReadResult out;
     FileReader reader(out, report);
     checks::read_records(

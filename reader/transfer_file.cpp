@@ -18,10 +18,8 @@
 #include "reader/returned_errors.h"
 
 namespace tamrel::checks {
-namespace {
-
 // The characters where ISO-8859-15 differs from ISO-8859-1.
-char32_t latin9(unsigned char c) {
+static char32_t latin9(unsigned char c) {
     switch (c) {
         case 0xA4:
             return U'\u20AC';
@@ -90,6 +88,8 @@ bool valid_utf8(std::string_view s) {
     }
     return true;
 }
+
+namespace {
 
 std::string trimmed(std::string s) {
     while (!s.empty() && s.back() == ' ') s.pop_back();

@@ -35,6 +35,12 @@ enum class FileEncoding { Detect, Latin1, Latin9, Utf8 };
 void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each,
                   FileEncoding encoding = FileEncoding::Detect);
 
+// Bytes read as characters: UTF-8, ISO-8859-1 or ISO-8859-15, into `out`
+// (its buffer kept from call to call).
+void decode(std::string_view bytes, FileEncoding encoding, std::u32string& out);
+// Whether the bytes are UTF-8 throughout.
+bool valid_utf8(std::string_view s);
+
 // A field's characters, as UTF-8.
 std::string field_text(std::u32string_view record, const FieldLayout& f);
 // Characters as UTF-8.

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
+#include <map>
 #include <sstream>
 
 #include <nlohmann/json.hpp>
@@ -21,10 +21,6 @@ namespace {
 
 using nlohmann::json;
 using namespace tamrel::testing;
-
-// The classes whose every record is read back.
-const std::set<std::string> kReadable = {"clsGenMeldung", "clsGenBetrieb", "clsGenErst", "clsGenAbfrVers",
-                                         "clsGenAbfrStammdatenUV"};
 
 // The transfer file of a job (ISO-8859-1), or empty where no report could be built.
 std::string generate(const json& job, bool check = true) {
@@ -63,35 +59,39 @@ std::string skipped(const Read& r) {
 
 TEST(ReadBack, EveryExampleGivesItsFileAgain) {
     for (const auto& e : example_jobs()) {
-        if (e.info->xml()) continue;
         SCOPED_TRACE(e.path.filename().string());
         const std::string file = generate(e.job);
         ASSERT_FALSE(file.empty());
         const Read r = read(file);
-        // A report given out is one the class builds as it stands in the file.
-        const bool readable = kReadable.contains(std::string(e.info->cls));
-        if (readable) {
-            ASSERT_EQ(skipped(r), "");
-            EXPECT_TRUE(generate(r.job) == file) << "the job read gives another file: " << r.job.dump(1);
-        } else {
-            EXPECT_EQ(r.result.reports + r.result.skipped.size(), e.job["reports"].size());
-        }
+        ASSERT_EQ(skipped(r), "");
+        EXPECT_EQ(r.result.reports, e.job["reports"].size());
+        EXPECT_TRUE(generate(r.job) == file) << "the job read gives another file: " << r.job.dump(1);
     }
 }
 
 TEST(ReadBack, RandomReportsOfEveryReadProcedureComeOutAgain) {
+    // 1,000 reports a procedure, shared among its examples.
     constexpr int kVariants = 1000;
+    std::map<std::string, int> examples;
+    for (const auto& e : example_jobs()) ++examples[std::string(e.info->cls)];
     for (const auto& e : example_jobs()) {
-        // The DEUEV report's hostile variants are not all read back yet
-        // (they are skipped with their reason, never given out wrong).
-        if (!kReadable.contains(std::string(e.info->cls)) || e.info->cls == "clsGenMeldung") continue;
         SCOPED_TRACE(e.path.filename().string());
         Mutator mutate(static_cast<unsigned>(std::hash<std::string>{}(e.path.filename().string())));
         json job = e.job;
         job["reports"] = json::array();
         const json& reports = e.job["reports"];
-        for (int v = 0; v < kVariants / static_cast<int>(example_jobs().size()) + 1; ++v)
-            job["reports"].push_back(mutate.vary(reports[static_cast<std::size_t>(v) % reports.size()]));
+        const int variants = (kVariants + examples[std::string(e.info->cls)] - 1) / examples[std::string(e.info->cls)];
+        for (int v = 0; v < variants; ++v) {
+            json report = mutate.vary(reports[static_cast<std::size_t>(v) % reports.size()]);
+            // The XML report's time stamp drops what is no character of a
+            // date: a creation date that is no date is not read back there.
+            if (e.info->xml() && report.contains("ErstellDatum") && !report["ErstellDatum"].is_string())
+                report.erase("ErstellDatum");
+            if (e.info->xml() && report.contains("ErstellDatum") &&
+                report["ErstellDatum"].get<std::string>().find_first_not_of("0123456789") != std::string::npos)
+                report.erase("ErstellDatum");
+            job["reports"].push_back(std::move(report));
+        }
         // Built as given (no checks): hostile values too, where the builder takes them.
         const std::string file = generate(job, false);
         ASSERT_FALSE(file.empty());

@@ -13,6 +13,8 @@
 namespace tamrel {
 namespace {
 
+namespace L = layouts::asyl;
+
 void GenSKEK(std::string& out, const Asyl& a, const DatensatzData& dd, const Date& date) {
     routine("clsGenAsyl.GenSKEK", [&](int& line) {
         line = 1;
@@ -24,25 +26,9 @@ void GenSKEK(std::string& out, const Asyl& a, const DatensatzData& dd, const Dat
         line = 2;
         XmlBlock b(out, "skek", false);
         b.fixed("<vfmm>DS264</vfmm>").an("bbnrab", dd.strBNRAb).an("bbnrep", a.Empfaenger.Betriebsnummer);
-        b.fixed("<vernr>01</vernr>").date("ed", stamp).an("bbnrvu", a.BbnrVu).n("ikko", a.Ikko).n("gd", a.Gd);
-        b.n("rg", a.Rg).an("ds-id", id);
+        b.fixed("<vernr>01</vernr>").date("ed", stamp).elements(L::kSKEK, a).an("ds-id", id);
         b.close();
     });
-}
-
-// BMGD and BANG share one element order; BANG has "angart" in front.
-void person(XmlBlock& b, const AsylPerson& p) {
-    b.an("fmna", p.Fmna).an("vona", p.Vona).an("vosa", p.Vosa).an("nazu", p.Nazu).an("titel", p.Titel);
-    b.an("plz", p.Plz).an("ort", p.Ort).an("str", p.Str).an("nr", p.Nr).an("adrzu", p.Adrzu).an("tel", p.Tel);
-    b.an("email", p.Email).an("gbna", p.Gbna).an("gbvosa", p.Gbvosa).an("gbnazu", p.Gbnazu).date("gbdt", p.Gbdt);
-    b.an("ge", p.Ge).an("gbot", p.Gbot).n("gbld", p.Gbld).an("aktenzeichen", p.Aktenzeichen).an("kvnr", p.Kvnr);
-    b.an("vsnr", p.Vsnr).n("sasc", p.Sasc);
-}
-
-// BBTR and BZGK share one element order, "ge" last.
-void address(XmlBlock& b, const AsylAddress& p) {
-    b.an("fmna", p.Fmna).an("vona", p.Vona).an("vosa", p.Vosa).an("nazu", p.Nazu).an("titel", p.Titel);
-    b.an("plz", p.Plz).an("ort", p.Ort).an("str", p.Str).an("nr", p.Nr).an("adrzu", p.Adrzu).an("ge", p.Ge);
 }
 
 template <class Fill>
@@ -68,25 +54,21 @@ std::string clsGenAsyl::GenData(const Asyl& a, DatensatzData& dd, const Date& da
             line = 2;
             GenSKEK(out, a, dd, date);
             line = 3;
-            block(out, "clsGenAsyl.GenBMGD", "bmgd", false, [&](XmlBlock& b) { person(b, a.Mgd); });
+            block(out, "clsGenAsyl.GenBMGD", "bmgd", false, [&](XmlBlock& b) { b.elements(L::kPerson, a.Mgd); });
             line = 4;
             block(out, "clsGenAsyl.GenBANG", "bang", true,
-                  [&](XmlBlock& b) { person(b.n("angart", a.AngArt), a.Ang); });
+                  [&](XmlBlock& b) { b.elements(L::kBANG, a).elements(L::kPerson, a.Ang); });
             line = 5;
-            block(out, "clsGenAsyl.GenBZRM", "bzrm", true,
-                  [&](XmlBlock& b) { b.date("zrbg", a.ZrBeginn).date("zren", a.ZrEnde); });
+            block(out, "clsGenAsyl.GenBZRM", "bzrm", true, [&](XmlBlock& b) { b.elements(L::kBZRM, a); });
             line = 6;
-            block(out, "clsGenAsyl.GenBBTR", "bbtr", true, [&](XmlBlock& b) { address(b, a.Btr); });
+            block(out, "clsGenAsyl.GenBBTR", "bbtr", true, [&](XmlBlock& b) { b.elements(L::kAddress, a.Btr); });
             line = 7;
-            block(out, "clsGenAsyl.GenBAPK", "bapk", false, [&](XmlBlock& b) {
-                b.an("anr-ap", a.ApAnrede).an("name-ap", a.ApName).an("tel-ap", a.ApTel).an("fax-ap", a.ApFax);
-                b.an("email-ap", a.ApEmail);
-            });
+            block(out, "clsGenAsyl.GenBAPK", "bapk", false, [&](XmlBlock& b) { b.elements(L::kBAPK, a); });
             line = 8;
-            block(out, "clsGenAsyl.GenBZGK", "bzgk", true, [&](XmlBlock& b) { address(b, a.Zgk); });
+            block(out, "clsGenAsyl.GenBZGK", "bzgk", true, [&](XmlBlock& b) { b.elements(L::kAddress, a.Zgk); });
             line = 9;
             block(out, "clsGenAsyl.GenBIMG", "bimg", true, [&](XmlBlock& b) {
-                b.side("dateina", dd.strDateiname).an("bilddatei", a.Bilddatei);
+                b.side("dateina", dd.strDateiname).elements(L::kBIMG, a);
                 b.side("prueflbilddatei", mlGen::Decimal(static_cast<std::int64_t>(text::char_count(a.Bilddatei))));
             });
             out += "</daten>";

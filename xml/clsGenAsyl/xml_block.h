@@ -8,6 +8,7 @@
 #include "core/joined.h"
 #include "core/record_buffer.h"
 #include "core/xml_encoders.h"
+#include "xml/clsGenAsyl/SKEK_elements.h"
 
 namespace tamrel {
 
@@ -27,6 +28,13 @@ public:
     XmlBlock& date(std::string_view name, std::string_view v) {
         char* d = buf_.room(mlGen::XMLRoom(name, v) + 8);
         buf_.advance(mlGen::PutDateXML(d, name, v, empty_));
+        return *this;
+    }
+    // The elements of a table, from `obj`.
+    template <class O, std::size_t N>
+    XmlBlock& elements(const layouts::asyl::Element<O> (&table)[N], const O& obj) {
+        for (const auto& e : table)
+            e.kind == layouts::asyl::XmlKind::Date ? date(e.name, obj.*e.member) : an(e.name, obj.*e.member);
         return *this;
     }
     // An element that never decides whether the block is empty.
