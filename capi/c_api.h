@@ -64,6 +64,20 @@ TAMREL_API int tamrel_generate(const char* job_json, const char* options_json, c
 TAMREL_API int tamrel_generate_memory(const char* job_json, const char* options_json, char** file, size_t* file_length,
                                       char** protocol, char** messages);
 
+/* Reads a transfer file (or an XML report) back into the job that makes
+   it, as `tamrel read` does (docs/read.md): `file` and `file_length` are
+   the file's bytes; `options_json` NULL or {"encoding": "ISO-8859-1",
+   "ISO-8859-15" or "UTF-8"} (found out when not given). `*job_json`
+   receives the job with its reports, and, for a file returned by a
+   receiving office, "returned_errors"; `errors_json` (may be NULL) the
+   returned errors alone, a JSON array; `messages` (may be NULL) each record
+   that was not read, one a line. Returns 0 read whole; 3 read with records
+   skipped (each told in the messages); 2 not a transfer file, or options
+   not valid (then `*job_json` and `*errors_json` are NULL). Free each with
+   tamrel_free. */
+TAMREL_API int tamrel_read(const char* file, size_t file_length, const char* options_json, char** job_json,
+                           char** errors_json, char** messages);
+
 /* Frees what the library returned; NULL is ignored. */
 TAMREL_API void tamrel_free(char* text);
 

@@ -198,11 +198,7 @@ int read_file(const ReadOptions& o) {
                                       .string();
         else
             job["reports"] = std::move(inline_reports);
-        if (!r.errors.empty()) {
-            job["returned_errors"] = nlohmann::ordered_json::array();
-            for (const readback::ReturnedErrorEntry& e : r.errors)
-                job["returned_errors"].push_back(readback::to_json(e));
-        }
+        readback::add_returned_errors(job, r);
         const std::string text = job.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n";
         AtomicFile out(resolve_output(o.output.empty() ? "-" : o.output));
         out.write(text);

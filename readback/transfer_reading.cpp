@@ -205,6 +205,22 @@ ReadResult read_transfer(std::istream& in, const ReadOptions& options,
     return out;
 }
 
+ReadJob read_job(std::istream& in, const ReadOptions& options) {
+    ReadJob out;
+    ordered_json reports = ordered_json::array();
+    out.result = read_transfer(in, options, [&](const std::string& r) { reports.push_back(ordered_json::parse(r)); });
+    out.job = out.result.job;
+    out.job["reports"] = std::move(reports);
+    add_returned_errors(out.job, out.result);
+    return out;
+}
+
+void add_returned_errors(ordered_json& job, const ReadResult& r) {
+    if (r.errors.empty()) return;
+    ordered_json& errors = job["returned_errors"] = ordered_json::array();
+    for (const ReturnedErrorEntry& e : r.errors) errors.push_back(to_json(e));
+}
+
 std::string describe(const SkippedRecord& s) {
     return "record " + std::to_string(s.record) + " " + s.id + ": " + s.why;
 }

@@ -55,6 +55,17 @@ struct ReadResult {
 ReadResult read_transfer(std::istream& in, const ReadOptions& options,
                          const std::function<void(const std::string& report)>& report);
 
+// The whole job in memory: the frame values, "reports", and
+// "returned_errors" where the file is a return.
+struct ReadJob {
+    nlohmann::ordered_json job;
+    ReadResult result;
+};
+ReadJob read_job(std::istream& in, const ReadOptions& options);
+
+// Adds the errors of a returned file to `job` as "returned_errors" (none: nothing).
+void add_returned_errors(nlohmann::ordered_json& job, const ReadResult& r);
+
 // "record 3 DSME: …" of a skipped record.
 std::string describe(const SkippedRecord& s);
 

@@ -155,6 +155,45 @@ TEST(Threads, CallsFromManyThreadsAnswerAsFromOne) {
     EXPECT_EQ(mismatches.load(), 0);
 }
 
+// tamrel_read: a file in memory back into its job, which generates the same
+// file; a returned file's errors apart; what is no transfer file, refused.
+TEST(CInterface, ReadGivesTheJobOfAFile) {
+    struct Read {
+        int code;
+        std::string job, errors, messages;
+    };
+    auto read = [](const std::string& file, const char* options) {
+        char *job = nullptr, *errors = nullptr, *messages = nullptr;
+        const int code = tamrel_read(file.data(), file.size(), options, &job, &errors, &messages);
+        return Read{code, taken(job), taken(errors), taken(messages)};
+    };
+    for (const auto& e : tamrel::testing::example_jobs()) {
+        SCOPED_TRACE(e.path.filename().string());
+        const Generated sent = in_memory(job_text(e), nullptr);
+        ASSERT_EQ(sent.code, 0);
+        const Read r = read(sent.file, R"({"encoding":"ISO-8859-1"})");
+        EXPECT_EQ(r.code, 0) << r.messages;
+        EXPECT_EQ(r.errors, "[]");
+        EXPECT_EQ(json::parse(r.job)["reports"].size(), e.job["reports"].size());
+        EXPECT_EQ(in_memory(r.job, nullptr).file, sent.file);
+    }
+    const struct {
+        std::string file;
+        const char* options;
+        std::string message;
+    } refused[] = {
+        {"no transfer file\n", nullptr, "tamrel read: record 1 "},
+        {"", R"({"encoding":"EBCDIC"})", "tamrel read: options: \"encoding\" expects"},
+        {"", R"({"colour":1})", "tamrel read: options: unknown option \"colour\""},
+    };
+    for (const auto& x : refused) {
+        const Read r = read(x.file, x.options);
+        EXPECT_TRUE(r.messages.starts_with(x.message)) << r.messages;
+    }
+    EXPECT_EQ(read("", R"({"colour":1})").code, 2);
+    EXPECT_EQ(read("", R"({"colour":1})").job, "(null)");
+}
+
 TEST(Threads, GeneratorsOwnAndSharedAnswerAsFromOne) {
     tamrel::Meldung m;
     m.Laufnummer = 1;

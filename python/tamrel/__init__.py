@@ -7,10 +7,13 @@ tamrel's C interface (libtamrel.so), with nothing but the standard library.
                                      "strFileNr": "1", "strCount": "2", "enmVerfahren": 0}})
     print(response["result"])
     tamrel.generate("examples/deuev-registration.json", "deuev.txt", protocol="deuev.prot")
+    job = tamrel.read("deuev.txt")                 # the file back into its job
+    errors = tamrel.returned_errors("returned.txt")  # a return's errors, each with its property
 
 A method that fails as the component would raises tamrel.Error (number,
 source, description, log); a request that is not valid raises
-tamrel.RequestError; a job that fails raises tamrel.GenerateError.
+tamrel.RequestError; a job that fails raises tamrel.GenerateError; a file
+that cannot be read back raises tamrel.ReadError.
 """
 
 import ctypes
@@ -19,7 +22,8 @@ import os
 
 from ._library import LIBRARY
 
-__all__ = ["call", "generate", "generate_bytes", "version", "Error", "RequestError", "GenerateError"]
+__all__ = ["call", "generate", "generate_bytes", "read", "returned_errors", "version", "Error", "RequestError",
+           "GenerateError", "ReadError"]
 
 
 class Error(Exception):
@@ -46,6 +50,16 @@ class GenerateError(Exception):
         self.code, self.messages = code, messages
 
 
+class ReadError(Exception):
+    """A file was not read back whole: `code` is tamrel read's exit code (2 no
+    transfer file or options not valid, 3 records skipped), `messages` what it
+    said of each record it skipped, `job` the job of what was read (None for 2)."""
+
+    def __init__(self, code, messages, job=None):
+        super().__init__(messages.strip() or f"exit code {code}")
+        self.code, self.messages, self.job = code, messages, job
+
+
 def _load():
     path = os.environ.get("TAMREL_LIBRARY") or os.path.join(os.path.dirname(__file__), LIBRARY)
     lib = ctypes.CDLL(path if os.path.exists(path) else "libtamrel.so.1")
@@ -57,6 +71,9 @@ def _load():
         ctypes.c_char_p, ctypes.c_char_p, ctypes.POINTER(ctypes.c_void_p), ctypes.POINTER(ctypes.c_size_t),
         ctypes.POINTER(ctypes.c_void_p), ctypes.POINTER(ctypes.c_void_p)]
     lib.tamrel_generate_memory.restype = ctypes.c_int
+    lib.tamrel_read.argtypes = [ctypes.c_char_p, ctypes.c_size_t, ctypes.c_char_p, ctypes.POINTER(ctypes.c_void_p),
+                                ctypes.POINTER(ctypes.c_void_p), ctypes.POINTER(ctypes.c_void_p)]
+    lib.tamrel_read.restype = ctypes.c_int
     lib.tamrel_free.argtypes = [ctypes.c_void_p]
     lib.tamrel_version.restype = ctypes.c_char_p
     return lib
@@ -142,3 +159,38 @@ def generate_bytes(job, **options):
     if code not in (0, 3):
         raise GenerateError(code, said)
     return data, proto, said
+
+
+def _read(file, encoding, partial):
+    """The job and the returned errors of a file (a path, or its bytes)."""
+    if isinstance(file, (bytes, bytearray)):
+        data = bytes(file)
+    else:
+        with open(file, "rb") as f:
+            data = f.read()
+    options = json.dumps({"encoding": encoding} if encoding else {}).encode()
+    job, errors, messages = ctypes.c_void_p(), ctypes.c_void_p(), ctypes.c_void_p()
+    code = _lib.tamrel_read(data, len(data), options, ctypes.byref(job), ctypes.byref(errors), ctypes.byref(messages))
+    said = (_taken(messages.value) or b"").decode()
+    job_text, errors_text = _taken(job.value), _taken(errors.value)
+    result = json.loads(job_text) if job_text else None
+    if code == 2 or (code != 0 and not partial):
+        raise ReadError(code, said, result)
+    return result, json.loads(errors_text) if errors_text else []
+
+
+def read(file, encoding=None, partial=False):
+    """Reads a transfer file (a path or its bytes; an XML report too) back
+    into the job that makes it, as a dict: the frame values, "reports", and
+    for a file a receiving office returned, "returned_errors". Raises
+    ReadError where a record could not be read back, unless `partial`, which
+    returns what was read. `encoding`: "ISO-8859-1", "ISO-8859-15" or
+    "UTF-8"; found out when not given."""
+    return _read(file, encoding, partial)[0]
+
+
+def returned_errors(file, encoding=None):
+    """The error blocks of a returned file, one dict each: the record and
+    report they belong to, the report's keys, the error number and text, and
+    where the text names a field, its position and the property behind it."""
+    return _read(file, encoding, True)[1]

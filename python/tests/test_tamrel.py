@@ -88,5 +88,39 @@ class Jobs(unittest.TestCase):
         self.assertEqual(caught.exception.code, 2)
 
 
+class Reads(unittest.TestCase):
+    def test_a_file_reads_back_into_the_job_that_makes_it(self):
+        data, _, _ = tamrel.generate_bytes(registration())
+        with tempfile.TemporaryDirectory() as d:
+            path = os.path.join(d, "deuev.txt")
+            with open(path, "wb") as f:
+                f.write(data)
+            job = tamrel.read(path)
+        self.assertEqual(len(job["reports"]), 2)
+        self.assertNotIn("returned_errors", job)
+        self.assertEqual(tamrel.generate_bytes(job)[0], data)
+
+    def test_a_returned_file_gives_its_errors_with_their_property(self):
+        data, _, _ = tamrel.generate_bytes(registration())
+        lines = data.split(b"\n")
+        # The first report returned with one error block: flag and count set.
+        lines[2] = lines[2][:61] + b"11" + lines[2][63:] + b"DBFEDSME060 " + b"VSNR ungueltig".ljust(64)
+        returned = b"\n".join(lines)
+        errors = tamrel.returned_errors(returned)
+        self.assertEqual([(e["record"], e["report"], e["number"], e["property"]) for e in errors],
+                         [(3, 1, "DSME060", "Vorgang.Versicherungsnummer")])
+        self.assertEqual(tamrel.read(returned)["returned_errors"], errors)
+
+    def test_what_cannot_be_read_back_raises(self):
+        with self.assertRaises(tamrel.ReadError) as caught:
+            tamrel.read(b"no transfer file\n")
+        self.assertEqual(caught.exception.code, 3)
+        self.assertIn("record 1", caught.exception.messages)
+        self.assertEqual(tamrel.read(b"no transfer file\n", partial=True)["reports"], [])
+        with self.assertRaises(tamrel.ReadError) as caught:
+            tamrel.read(b"", encoding="EBCDIC")
+        self.assertEqual(caught.exception.code, 2)
+
+
 if __name__ == "__main__":
     unittest.main()
