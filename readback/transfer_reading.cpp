@@ -12,6 +12,7 @@
 #include "readback/procedure_readers.h"
 #include "readback/prover.h"
 #include "readback/xml_report_reading.h"
+#include "reader/field_sources.h"
 #include "reader/line_walk.h"
 #include "reader/record_layouts.h"
 #include "run/job.h"
@@ -144,19 +145,34 @@ private:
         const Prover::Built built = prover_->build(report.json);
         if (!built.error.empty()) return skip(n, id, "read back, it is refused: " + built.error);
         // A returned record is built as it was sent: no error flag, no count.
-        std::string want;
-        if (r.returned) {
-            std::u32string sent(r.record);
-            for (const FieldLayout* f : {checks::error_flag_field(layout), checks::error_count_field(layout)})
-                if (f && f->pos <= sent.size()) sent[f->pos - 1u] = U'0';
-            want = to_utf8(sent);
-        } else {
-            want = to_utf8(r.record);
-        }
+        const std::string want = as_built(r, layout, built.record);
         if (built.record != want) return skip(n, id, difference(want, built.record, parts_));
         report_(report.json);
         ++out_.reports;
         file_errors(n, id, r, layout, &report);
+    }
+
+    // The record as it must come out: a returned record as it was sent (no
+    // error flag, no count), and where the descriptions leave a field free
+    // or hold a reserve in its basic setting, what tamrel writes there.
+    std::string as_built(const checks::ReturnedLine& r, const RecordLayout& layout, const std::string& built) {
+        std::u32string want(r.record);
+        if (r.returned)
+            for (const FieldLayout* f : {checks::error_flag_field(layout), checks::error_count_field(layout)})
+                if (f && f->pos <= want.size()) want[f->pos - 1u] = U'0';
+        checks::decode(built, checks::FileEncoding::Utf8, built_chars_);
+        if (built_chars_.size() != want.size()) return to_utf8(want);
+        for (const checks::Part& p : parts_)
+            for (const FieldLayout& f : p.layout->fields) {
+                const checks::Content content = checks::content_of(*p.layout, f);
+                if (content == checks::Content::Required) continue;
+                const std::size_t at = p.at + f.pos - 1u;
+                const std::u32string_view text = std::u32string_view(want).substr(at, f.len);
+                const bool basic = text.find_first_not_of(U' ') == std::u32string_view::npos ||
+                                   text.find_first_not_of(U'0') == std::u32string_view::npos;
+                if (content == checks::Content::Free || basic) want.replace(at, f.len, built_chars_, at, f.len);
+            }
+        return to_utf8(want);
     }
 
     // The file's time: the communication record's, else the first record's.
@@ -189,6 +205,7 @@ private:
     std::unique_ptr<Prover> prover_;
     std::vector<checks::Part> parts_;
     std::string first_created_;
+    std::u32string built_chars_;
 };
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "core/line_reader.h"
 #include "core/printable.h"
 #include "reader/field_kinds.h"
+#include "reader/field_sources.h"
 #include "reader/line_walk.h"
 #include "reader/record_layouts.h"
 #include "reader/returned_errors.h"
@@ -107,7 +108,8 @@ public:
         if (i > 0 && id_ == "NCSZ") finding(i - 1, &kFileFrame);  // a trailer that was not the last record
         id_ = to_utf8(r.substr(0, 4));
         if (i == 0 && id_ != "VOSZ") finding(i, &kFileFirst);
-        if (i == 1 && id_ != "DSKO") finding(i, &kFileSecond);
+        if (i == 0) dsko_optional_ = dsko_optional(trimmed(to_utf8(r.substr(4, 5))));
+        if (i == 1 && id_ != "DSKO" && !dsko_optional_) finding(i, &kFileSecond);
         if ((id_ == "VOSZ" && i != 0) || (id_ == "DSKO" && i != 1)) finding(i, &kFileFrame);
         record(i, r);
         last_.assign(r);
@@ -181,6 +183,11 @@ private:
 
     void field(std::size_t i, std::u32string_view r, const Part& p, const FieldLayout& f, bool frame) {
         const std::u32string_view text = slice(r, p, f);
+        const Content content = content_of(*p.layout, f);
+        if (content == Content::Free) return;
+        const bool basic = text.find_first_not_of(U' ') == std::u32string_view::npos ||
+                           text.find_first_not_of(U'0') == std::u32string_view::npos;
+        if (content == Content::Reserve && basic) return;
         if (const Rule* rule = fault(text, f)) {
             const bool number = f.kind == FieldKind::Vsnr || f.kind == FieldKind::Bnr;
             finding(i, rule, &f, number ? trimmed(to_utf8(text)) : to_utf8(text), nullptr, &p);
@@ -198,6 +205,7 @@ private:
     FileCheck& out_;
     std::string id_;       // of the record last added
     std::u32string last_;  // the record last added
+    bool dsko_optional_ = false;
     std::string sender_, receiver_;
 };
 
