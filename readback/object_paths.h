@@ -5,6 +5,7 @@
 #pragma once
 #include <charconv>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -47,77 +48,103 @@ bool convert(std::string_view text, M& out) {
     }
 }
 
+// A property reached by its path, found once in the property tables: sets
+// it from a field's value (false where the value does not suit it).
+template <class T>
+using Setter = std::function<bool(T&, const Place&, std::string_view)>;
+
+// The setter of the property at `path`; empty where the path names none.
 template <Bound T>
-bool assign(T& obj, std::string_view path, const Place& at, std::string_view value);
+Setter<T> resolve(std::string_view path);
 
 namespace detail {
 
 template <class M>
-bool assign_member(M& m, std::string_view rest, const Place& at, std::string_view value) {
+Setter<M> resolve_member(std::string_view rest) {
     if constexpr (Bound<M>) {
-        return rest.size() > 1 && rest[0] == '.' && assign(m, rest.substr(1), at, value);
+        if (rest.size() < 2 || rest[0] != '.') return {};
+        return resolve<M>(rest.substr(1));
     } else if constexpr (requires { typename M::value_type; } && !std::is_same_v<M, std::string>) {
         // A repeating block's items: the item the block's place says.
         using Item = typename M::value_type;
         if constexpr (Bound<Item>) {
-            if (rest.size() < 2 || rest[0] != '.' || at.item == 0) return false;
-            if (m.size() < at.item) m.resize(at.item);
-            return assign(m[at.item - 1], rest.substr(1), at, value);
+            if (rest.size() < 2 || rest[0] != '.') return {};
+            Setter<Item> inner = resolve<Item>(rest.substr(1));
+            if (!inner) return {};
+            return [inner](M& m, const Place& at, std::string_view value) {
+                if (at.item == 0) return false;
+                if (m.size() < at.item) m.resize(at.item);
+                return inner(m[at.item - 1], at, value);
+            };
         } else {
-            return false;
+            return {};
         }
-    } else if constexpr (requires { m.slot(std::int16_t{}); }) {
+    } else if constexpr (requires(M& x) { x.slot(std::int16_t{}); }) {
         // "(i)": the entry of the list; "(3)": the third.
-        if (rest.size() < 3 || rest.front() != '(' || rest.back() != ')') return false;
+        if (rest.size() < 3 || rest.front() != '(' || rest.back() != ')') return {};
         const std::string_view index = rest.substr(1, rest.size() - 2);
-        std::int16_t i = 0;
-        if (index == "i") {
-            i = static_cast<std::int16_t>(at.entry);
-        } else if (std::from_chars(index.data(), index.data() + index.size(), i).ec != std::errc{}) {
-            return false;
-        }
-        using Stored = std::remove_reference_t<decltype(m.slot(i))>;
-        Stored v{};
-        if constexpr (std::is_same_v<Stored, std::string>) {
-            v.assign(value);
-        } else {
-            bool b = false;
-            if (!convert(value, b)) return false;
-            v = b;
-        }
-        m.slot(i) = std::move(v);
-        return true;
+        const bool by_entry = index == "i";
+        std::int16_t fixed = 0;
+        if (!by_entry && std::from_chars(index.data(), index.data() + index.size(), fixed).ec != std::errc{})
+            return {};
+        return [by_entry, fixed](M& m, const Place& at, std::string_view value) {
+            const std::int16_t i = by_entry ? static_cast<std::int16_t>(at.entry) : fixed;
+            using Stored = std::remove_reference_t<decltype(m.slot(i))>;
+            Stored v{};
+            if constexpr (std::is_same_v<Stored, std::string>) {
+                v.assign(value);
+            } else {
+                bool b = false;
+                if (!convert(value, b)) return false;
+                v = b;
+            }
+            m.slot(i) = std::move(v);
+            return true;
+        };
     } else {
-        return rest.empty() && convert(value, m);
+        if (!rest.empty()) return {};
+        return [](M& m, const Place&, std::string_view value) { return convert(value, m); };
     }
 }
 
 // A derived object's table holds its base's entries too.
 template <class T, class O, class M>
-bool try_entry(T& obj, const properties::Field<O, M>& f, std::string_view path, const Place& at, std::string_view value,
-               bool& done) {
-    if (done || path.substr(0, f.name.size()) != f.name) return false;
+void try_entry(const properties::Field<O, M>& f, std::string_view path, Setter<T>& found) {
+    if (found || path.substr(0, f.name.size()) != f.name) return;
     const std::string_view rest = path.substr(f.name.size());
-    if (!rest.empty() && rest[0] != '.' && rest[0] != '(') return false;
-    return done = assign_member(obj.*f.member, rest, at, value);
+    if (!rest.empty() && rest[0] != '.' && rest[0] != '(') return;
+    Setter<M> inner = resolve_member<M>(rest);
+    if (inner)
+        found = [member = f.member, inner](T& obj, const Place& at, std::string_view value) {
+            return inner(obj.*member, at, value);
+        };
 }
 
 template <class T, class O, class M>
-bool try_entry(T& obj, const properties::Prefixed<O, M>& f, std::string_view path, const Place& at,
-               std::string_view value, bool& done) {
-    if (done || path.substr(0, f.prefix.size()) != f.prefix) return false;
-    return done = assign(obj.*f.member, path.substr(f.prefix.size()), at, value);
+void try_entry(const properties::Prefixed<O, M>& f, std::string_view path, Setter<T>& found) {
+    if (found || path.substr(0, f.prefix.size()) != f.prefix) return;
+    Setter<M> inner = resolve<M>(path.substr(f.prefix.size()));
+    if (inner)
+        found = [member = f.member, inner](T& obj, const Place& at, std::string_view value) {
+            return inner(obj.*member, at, value);
+        };
 }
 
 }  // namespace detail
+
+template <Bound T>
+Setter<T> resolve(std::string_view path) {
+    Setter<T> found;
+    std::apply([&](const auto&... f) { (detail::try_entry<T>(f, path, found), ...); }, Binding<T>::fields);
+    return found;
+}
 
 // Sets the property at `path` from a field's value; false where the path
 // names no property, or the value does not suit it.
 template <Bound T>
 bool assign(T& obj, std::string_view path, const Place& at, std::string_view value) {
-    bool done = false;
-    std::apply([&](const auto&... f) { (detail::try_entry(obj, f, path, at, value, done), ...); }, Binding<T>::fields);
-    return done;
+    const Setter<T> set = resolve<T>(path);
+    return set && set(obj, at, value);
 }
 
 // The object's properties that differ from a new object's, as the members

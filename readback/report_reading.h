@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/layout.h"
@@ -49,37 +50,74 @@ inline bool derived(const FieldLayout& f) {
            f.name == "identifier";
 }
 
+// The setters of the properties a part's fields name, found once a layout
+// (the layouts are static) and kept for the thread's later records, one a
+// field in the order of its declarations; with `count`, the property
+// "Anzahl<block>" of a count of blocks.
+template <Bound T>
+const std::vector<Setter<T>>& part_setters(const RecordLayout& layout, bool count) {
+    thread_local std::unordered_map<const RecordLayout*, std::vector<Setter<T>>> setters[2];
+    auto& map = setters[count];
+    auto it = map.find(&layout);
+    if (it != map.end()) return it->second;
+    std::vector<Setter<T>> all;
+    for (const FieldLayout& f : layout.fields) {
+        const std::string_view path = property_path(f.name);
+        constexpr std::string_view dd = "DatensatzData.";
+        if (count)
+            all.push_back(f.announce == Announce::Count ? resolve<T>("Anzahl" + std::string(f.name)) : Setter<T>());
+        else if constexpr (std::is_same_v<T, DatensatzData>)
+            all.push_back(path.starts_with(dd) ? resolve<T>(path.substr(dd.size())) : Setter<T>());
+        else
+            all.push_back(path.starts_with(dd) ? Setter<T>() : resolve<T>(path));
+    }
+    return map.emplace(&layout, std::move(all)).first->second;
+}
+
 // Sets what the declarations place and returns the fields they do not.
 template <Bound T>
 std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span<const checks::Part> parts,
                                      RecordFrame& frame) {
     std::vector<ReadField> left;
+    // A line of ASCII (the common case) is sliced as one UTF-8 text.
+    bool ascii = true;
+    for (char32_t c : line) ascii &= c < 0x80;
+    const std::string whole = ascii ? checks::to_utf8(line) : std::string();
+    std::string wide;
     for (const checks::Part& p : parts) {
-        for (const FieldLayout& f : p.layout->fields) {
+        const Place at{p.entry, p.item};
+        const auto& own = part_setters<T>(*p.layout, false);
+        const auto& counts = part_setters<T>(*p.layout, true);
+        const auto& record = part_setters<DatensatzData>(*p.layout, false);
+        for (std::size_t k = 0; k < p.layout->fields.size(); ++k) {
+            const FieldLayout& f = p.layout->fields[k];
+            const bool count = f.announce == Announce::Count;
+            if (derived(f) && !count) continue;
+            std::string_view raw;
+            if (ascii) {
+                raw = std::string_view(whole).substr(p.at + f.pos - 1u, f.len);
+            } else {
+                wide = checks::to_utf8(checks::slice(line, p, f));
+                raw = wide;
+            }
+            std::string value = field_value(raw, f);
             // A count of blocks is the property "Anzahl<block>" where the
             // object has one (its entries are read with the blocks).
-            if (f.announce == Announce::Count) {
-                std::string name = "Anzahl";
-                name += f.name;
-                assign(obj, name, Place{p.entry, p.item}, field_value(checks::to_utf8(checks::slice(line, p, f)), f));
+            if (count) {
+                if (counts[k]) counts[k](obj, at, value);
+                continue;
             }
-            if (derived(f)) continue;
-            std::string value = field_value(checks::to_utf8(checks::slice(line, p, f)), f);
             if (f.kind == FieldKind::DateTime && f.name.starts_with("created")) {
-                frame.created = checks::to_utf8(checks::slice(line, p, f));
+                frame.created = raw;
                 const std::size_t open = f.name.find('(');
                 if (open != std::string_view::npos)
                     frame.createdFrom = f.name.substr(open + 1, f.name.size() - open - 2);
                 continue;
             }
-            const std::string_view path = property_path(f.name);
-            const Place at{p.entry, p.item};
-            constexpr std::string_view dd = "DatensatzData.";
-            const bool placed = path.starts_with(dd) ? assign(frame.datensatz, path.substr(dd.size()), at, value)
-                                                     : assign(obj, path, at, value);
+            const bool placed = (record[k] && record[k](frame.datensatz, at, value)) || (own[k] && own[k](obj, at, value));
             // A field with a remark ("Merkmal1 (1 or 0)") is placed as it
             // stands and still given to the procedure's own reading.
-            if (!placed || path.size() != f.name.size()) left.push_back({&f, &p, std::move(value)});
+            if (!placed || property_path(f.name).size() != f.name.size()) left.push_back({&f, &p, std::move(value)});
         }
     }
     return left;

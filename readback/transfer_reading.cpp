@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <unordered_map>
 
 #include "call/call_protocol.h"
 #include "call/procedure.h"
@@ -152,6 +153,18 @@ private:
         file_errors(n, id, r, layout, &report);
     }
 
+    // The fields of a layout whose content is not required, found once a layout.
+    using OpenField = std::pair<const FieldLayout*, checks::Content>;
+    const std::vector<OpenField>& open_fields(const RecordLayout& layout) {
+        auto it = open_.find(&layout);
+        if (it != open_.end()) return it->second;
+        std::vector<OpenField> fields;
+        for (const FieldLayout& f : layout.fields)
+            if (const checks::Content c = checks::content_of(layout, f); c != checks::Content::Required)
+                fields.emplace_back(&f, c);
+        return open_.emplace(&layout, std::move(fields)).first->second;
+    }
+
     // The record as it must come out: a returned record as it was sent (no
     // error flag, no count), and where the descriptions leave a field free
     // or hold a reserve in its basic setting, what tamrel writes there.
@@ -163,14 +176,12 @@ private:
         checks::decode(built, checks::FileEncoding::Utf8, built_chars_);
         if (built_chars_.size() != want.size()) return to_utf8(want);
         for (const checks::Part& p : parts_)
-            for (const FieldLayout& f : p.layout->fields) {
-                const checks::Content content = checks::content_of(*p.layout, f);
-                if (content == checks::Content::Required) continue;
-                const std::size_t at = p.at + f.pos - 1u;
-                const std::u32string_view text = std::u32string_view(want).substr(at, f.len);
+            for (const auto& [f, content] : open_fields(*p.layout)) {
+                const std::size_t at = p.at + f->pos - 1u;
+                const std::u32string_view text = std::u32string_view(want).substr(at, f->len);
                 const bool basic = text.find_first_not_of(U' ') == std::u32string_view::npos ||
                                    text.find_first_not_of(U'0') == std::u32string_view::npos;
-                if (content == checks::Content::Free || basic) want.replace(at, f.len, built_chars_, at, f.len);
+                if (content == checks::Content::Free || basic) want.replace(at, f->len, built_chars_, at, f->len);
             }
         return to_utf8(want);
     }
@@ -206,6 +217,7 @@ private:
     std::vector<checks::Part> parts_;
     std::string first_created_;
     std::u32string built_chars_;
+    std::unordered_map<const RecordLayout*, std::vector<OpenField>> open_;
 };
 
 }  // namespace

@@ -4,7 +4,7 @@
 # lines, calls), then the end-to-end run: N DEUEV reports (default 1,000,000)
 # as NDJSON through `tamrel generate` into an ISO-8859-1 file, with
 # reports/s, output MB/s and peak resident memory from the operating
-# system's accounting.
+# system's accounting; then the file read back by `tamrel read`.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 n=${1:-1000000}
@@ -21,3 +21,9 @@ rss=$(grep 'Maximum resident set size' "$work/time.txt" | awk '{print $NF}')
 bytes=$(stat -c %s "$work/out.txt")
 awk -v n="$n" -v s="$secs" -v b="$bytes" -v r="$rss" 'BEGIN {
   printf "end to end: %d reports in %.2f s: %.0f reports/s, %.1f MB/s output, peak RSS %.1f MiB\n", n, s, n / s, b / s / 1e6, r / 1024 }'
+# The file read back: tamrel read proves each report by building it again.
+/usr/bin/time -v -o "$work/read.txt" build-bench/tamrel read "$work/out.txt" --reports-out "$work/read.ndjson" -o "$work/read.json"
+secs=$(grep 'Elapsed (wall clock)' "$work/read.txt" | awk '{print $NF}' | awk -F: '{ if (NF==3) print $1*3600+$2*60+$3; else print $1*60+$2 }')
+rss=$(grep 'Maximum resident set size' "$work/read.txt" | awk '{print $NF}')
+awk -v n="$n" -v s="$secs" -v b="$bytes" -v r="$rss" 'BEGIN {
+  printf "read back: %d reports in %.2f s: %.1f MB/s input, peak RSS %.1f MiB\n", n, s, b / s / 1e6, r / 1024 }'

@@ -1,0 +1,49 @@
+// A transfer file read back into its job: the example registrations, each
+// report read, written as JSON, built again and compared.
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "readback/transfer_reading.h"
+#include "run/generate.h"
+
+namespace {
+
+// The example's two registrations, 500 times, as tamrel generate writes them.
+std::string registrations() {
+    nlohmann::json job = nlohmann::json::parse(
+        std::ifstream(std::string(TAMREL_SOURCE_DIR) + "/examples/deuev-registration.json"));
+    nlohmann::json reports = nlohmann::json::array();
+    for (int i = 0; i < 1000; ++i) {
+        nlohmann::json r = job["reports"][static_cast<std::size_t>(i % 2)];
+        r["Laufnummer"] = i + 1;
+        reports.push_back(r);
+    }
+    job["reports"] = reports;
+    std::string file;
+    tamrel::cli::GenerateOptions o;
+    o.job = "job";
+    o.jobText = job.dump();
+    o.outputText = &file;
+    tamrel::cli::generate(o, [](const std::string&) {});
+    return file;
+}
+
+void BM_ReadBack_Registrations(benchmark::State& state) {
+    const std::string file = registrations();
+    std::size_t reports = 0;
+    for (auto _ : state) {
+        std::istringstream in(file);
+        const auto r = tamrel::readback::read_transfer(in, {}, [](const std::string&) {});
+        reports += r.reports;
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * file.size()));
+    state.counters["reports/s"] = benchmark::Counter(static_cast<double>(reports), benchmark::Counter::kIsRate);
+}
+BENCHMARK(BM_ReadBack_Registrations)->Unit(benchmark::kMillisecond);
+
+}  // namespace
