@@ -15,10 +15,10 @@ if ((${#missing[@]})); then
   apt-get install -y -qq "${missing[@]}"
 fi
 CXX=clang++ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTAMREL_TESTS=OFF -DTAMREL_FUZZ=ON >/dev/null
-cmake --build build-fuzz -j"$(nproc)" --target fuzz_call_line fuzz_generate_job fuzz_encoders fuzz_report_line
+cmake --build build-fuzz -j"$(nproc)" --target fuzz_call_line fuzz_generate_job fuzz_encoders fuzz_report_line fuzz_read_file
 rm -rf build-fuzz/findings  # what an earlier run found is not this run's finding
 mkdir -p build-fuzz/findings
-for harness in call_line generate_job encoders report_line; do
+for harness in call_line generate_job encoders report_line read_file; do
   exe=build-fuzz/tests/fuzz/fuzz_$harness
   regressions=(tests/fuzz/regressions/$harness/*)
   if [[ -e ${regressions[0]} ]]; then

@@ -3,8 +3,8 @@
 # Release build, once under AddressSanitizer and UndefinedBehaviorSanitizer,
 # the thread tests under ThreadSanitizer, the installed library's consumers,
 # then the COM server under wine (scripts/com-test.sh), the generate/check
-# agreement over many more hostile variants, and the fuzzers for half a
-# minute each (scripts/fuzz.sh).
+# agreement over many more hostile variants, and the fuzzers for 24
+# seconds each (scripts/fuzz.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
@@ -26,4 +26,4 @@ scripts/com-test.sh
 # Generate and check held to each other over many more hostile variants.
 TAMREL_AGREE_COUNT=${AGREE_COUNT:-3000} build/tests/tamrel_tests --gtest_filter='GenerateAndCheck.*'
 # The fuzzers, each for a bounded time under the same sanitizers.
-FUZZ_SECONDS=${FUZZ_SECONDS:-30} scripts/fuzz.sh
+FUZZ_SECONDS=${FUZZ_SECONDS:-24} scripts/fuzz.sh
