@@ -6,6 +6,8 @@
 // procedure writes in a form of its own is read by its own step, given
 // the fields the declarations could not place.
 #pragma once
+#include <algorithm>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -74,16 +76,26 @@ const std::vector<Setter<T>>& part_setters(const RecordLayout& layout, bool coun
     return map.emplace(&layout, std::move(all)).first->second;
 }
 
+// A line as UTF-8, with where each character begins: its fields are
+// sliced from it without a text of their own. One a thread, kept from
+// line to line.
+struct LineText {
+    std::string utf8;
+    std::vector<std::uint32_t> starts;  // a character's first byte; one more at the end
+    std::string_view slice(std::size_t at, std::size_t len) const {
+        const std::size_t end = std::min(at + len, starts.size() - 1);
+        at = std::min(at, end);
+        return std::string_view(utf8).substr(starts[at], starts[end] - starts[at]);
+    }
+};
+const LineText& line_text(std::u32string_view line);
+
 // Sets what the declarations place and returns the fields they do not.
 template <Bound T>
 std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span<const checks::Part> parts,
                                      RecordFrame& frame) {
     std::vector<ReadField> left;
-    // A line of ASCII (the common case) is sliced as one UTF-8 text.
-    bool ascii = true;
-    for (char32_t c : line) ascii &= c < 0x80;
-    const std::string whole = ascii ? checks::to_utf8(line) : std::string();
-    std::string wide;
+    const LineText& text = line_text(line);
     for (const checks::Part& p : parts) {
         const Place at{p.entry, p.item};
         const auto& own = part_setters<T>(*p.layout, false);
@@ -93,13 +105,7 @@ std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span
             const FieldLayout& f = p.layout->fields[k];
             const bool count = f.announce == Announce::Count;
             if (derived(f) && !count) continue;
-            std::string_view raw;
-            if (ascii) {
-                raw = std::string_view(whole).substr(p.at + f.pos - 1u, f.len);
-            } else {
-                wide = checks::to_utf8(checks::slice(line, p, f));
-                raw = wide;
-            }
+            const std::string_view raw = text.slice(p.at + f.pos - 1u, f.len);
             std::string value = field_value(raw, f);
             // A count of blocks is the property "Anzahl<block>" where the
             // object has one (its entries are read with the blocks).
@@ -114,7 +120,8 @@ std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span
                     frame.createdFrom = f.name.substr(open + 1, f.name.size() - open - 2);
                 continue;
             }
-            const bool placed = (record[k] && record[k](frame.datensatz, at, value)) || (own[k] && own[k](obj, at, value));
+            const bool placed =
+                (record[k] && record[k](frame.datensatz, at, value)) || (own[k] && own[k](obj, at, value));
             // A field with a remark ("Merkmal1 (1 or 0)") is placed as it
             // stands and still given to the procedure's own reading.
             if (!placed || property_path(f.name).size() != f.name.size()) left.push_back({&f, &p, std::move(value)});

@@ -165,9 +165,12 @@ std::string without_blanks_between_tags(std::string_view s) {
 }
 
 checks::FileEncoding declared_encoding(std::string_view declaration) {
-    const std::size_t at = declaration.find("encoding=");
-    if (at == std::string_view::npos) return checks::FileEncoding::Utf8;
-    std::string name(declaration.substr(at + 10, declaration.find_first_of("\"'", at + 10) - at - 10));
+    // encoding="…" or encoding='…'
+    constexpr std::string_view key = "encoding=";
+    const std::size_t at = declaration.find(key);
+    if (at == std::string_view::npos || at + key.size() >= declaration.size()) return checks::FileEncoding::Utf8;
+    const std::string_view rest = declaration.substr(at + key.size() + 1);
+    std::string name(rest.substr(0, rest.find_first_of("\"'")));
     for (char& c : name) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     if (name == "ISO-8859-1") return checks::FileEncoding::Latin1;
     if (name == "ISO-8859-15") return checks::FileEncoding::Latin9;
@@ -224,7 +227,7 @@ private:
     bool settle(const RecordFrame* first) {
         try {
             prover_ = std::make_unique<Prover>(*find_procedure("clsGenAsyl"), job_head("clsGenAsyl", frame_, first, 0));
-        } catch (const std::exception& e) {
+        } catch (const std::exception&) {
             out_.job = job_head("clsGenAsyl", frame_, nullptr, 0);
         }
         return prover_ != nullptr;
