@@ -89,7 +89,7 @@ public:
         }
         if (prover_) {
             out_.job = prover_->head();
-            if (!frame_.vosz.empty() && prover_->vosz() != frame_.vosz)
+            if (header_unproven_ || (!frame_.vosz.empty() && prover_->vosz() != frame_.vosz))
                 skip(1, "VOSZ", "read back, the header builds differently");
             if (!frame_.dsko.empty() && prover_->dsko() != frame_.dsko)
                 skip(2, "DSKO", "read back, the communication record builds differently");
@@ -132,13 +132,17 @@ private:
         if (!checks::walk_line(
                 r.record, layout, [&](const checks::Part& p) { parts_.push_back(p); }, problem))
             return skip(n, id,
-                        std::string("does not fit its layout at character ") + std::to_string(problem.at + 1) + ": " +
-                            std::string(problem.rule->english));
+                        std::string("does not fit its layout") +
+                            (problem.at > 0 ? " at character " + std::to_string(problem.at + 1) : std::string()) +
+                            ": " + std::string(problem.rule->english) +
+                            (problem.value.empty() ? std::string() : " (" + problem.value + ")"));
         ReadReport report;
         reader->read(r.record, parts_, report);
         own_time(report);
         if (!prover_ && !settle(*find_procedure(cls_), &report.frame)) {
-            // No header, or one the class does not write: the frame from the record alone.
+            // No header, or one the class does not write: the frame from the
+            // record alone, and the header told as not read back.
+            header_unproven_ = !frame_.vosz.empty();
             frame_.vosz.clear();
             settle(*find_procedure(cls_), &report.frame);
         }
@@ -216,6 +220,7 @@ private:
     std::unique_ptr<Prover> prover_;
     std::vector<checks::Part> parts_;
     std::string first_created_;
+    bool header_unproven_ = false;
     std::u32string built_chars_;
     std::unordered_map<const RecordLayout*, std::vector<OpenField>> open_;
 };

@@ -280,4 +280,45 @@ TEST(ReadBack, XmlReportsInOtherLayouts) {
     }
 }
 
+// What tamrel does not write is told with its record and skipped, never
+// guessed at; the rest of the file is read.
+TEST(ReadBack, WhatIsNotReadBackIsTold) {
+    const auto examples = example_jobs();
+    auto file_of = [&](const char* name) {
+        const auto e = std::find_if(examples.begin(), examples.end(),
+                                    [&](const ExampleJob& x) { return x.path.filename() == name; });
+        std::vector<std::string> lines;
+        std::istringstream in(generate(e->job));
+        for (std::string l; std::getline(in, l);) lines.push_back(l);
+        return lines;
+    };
+    const std::vector<std::string> deuev = file_of("deuev-registration.json"),
+                                   dsbd = file_of("betrieb-master-data.json");
+    const struct {
+        std::string what;
+        std::function<void(std::vector<std::string>&)> change;
+        std::string skipped;
+        std::size_t reports;
+    } cases[] = {
+        {"a header of a procedure tamrel does not write", [](auto& l) { l[0].replace(4, 5, "XXXXX"); },
+         "record 1 VOSZ: read back, the header builds differently\n", 2},
+        {"an unknown record", [](auto& l) { l[3].replace(0, 4, "DSXX"); },
+         "record 4 DSXX: no procedure tamrel writes has this record\n", 1},
+        {"a record of another procedure", [&](auto& l) { l[3] = dsbd[2]; },
+         "record 4 DSBD: a record of another procedure than the file's first (clsGenMeldung)\n", 1},
+        {"a record cut short", [](auto& l) { l[2].resize(300); },
+         "record 3 DSME: does not fit its layout: the record's length is wrong (300 instead of 559)\n", 1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        std::vector<std::string> lines = deuev;
+        c.change(lines);
+        std::string file;
+        for (const auto& l : lines) file += l + "\n";
+        const Read r = read(file);
+        EXPECT_EQ(skipped(r), c.skipped);
+        EXPECT_EQ(r.result.reports, c.reports);
+    }
+}
+
 }  // namespace
