@@ -226,7 +226,7 @@ void read_records(std::istream& in, const std::function<void(std::u32string_view
     };
     auto first_line = [&](std::size_t number) {
         if (number == 1 && line.starts_with("<?xml"))
-            throw std::runtime_error("an XML report: only fixed-width files are read");
+            throw std::runtime_error("an XML report: fixed-width files only (tamrel read takes the XML report)");
     };
     bool any = false;
     // UTF-8 that was given, not found out, is checked line by line.
