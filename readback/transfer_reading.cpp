@@ -26,12 +26,9 @@ using nlohmann::ordered_json;
 
 // Where two records first differ, and the field there, for a record that
 // does not come out again.
-std::string difference(std::string_view want, std::string_view got, std::span<const checks::Part> parts) {
-    std::size_t i = 0, chars = 0;
-    while (i < want.size() && i < got.size() && want[i] == got[i]) {
-        if ((static_cast<unsigned char>(want[i]) & 0xC0) != 0x80) ++chars;
-        ++i;
-    }
+std::string difference(std::u32string_view want, std::u32string_view got, std::span<const checks::Part> parts) {
+    std::size_t chars = 0;
+    while (chars < want.size() && chars < got.size() && want[chars] == got[chars]) ++chars;
     std::string where;
     for (const checks::Part& p : parts)
         for (const FieldLayout& f : p.layout->fields)
@@ -150,8 +147,8 @@ private:
         const Prover::Built built = prover_->build(report.json);
         if (!built.error.empty()) return skip(n, id, "read back, it is refused: " + built.error);
         // A returned record is built as it was sent: no error flag, no count.
-        const std::string want = as_built(r, layout, built.record);
-        if (built.record != want) return skip(n, id, difference(want, built.record, parts_));
+        const std::u32string& want = as_built(r, layout, built.record);
+        if (built_chars_ != want) return skip(n, id, difference(want, built_chars_, parts_));
         report_(report.json);
         ++out_.reports;
         file_errors(n, id, r, layout, &report);
@@ -172,22 +169,24 @@ private:
     // The record as it must come out: a returned record as it was sent (no
     // error flag, no count), and where the descriptions leave a field free
     // or hold a reserve in its basic setting, what tamrel writes there.
-    std::string as_built(const checks::ReturnedLine& r, const RecordLayout& layout, const std::string& built) {
-        std::u32string want(r.record);
+    // Compared as characters: the built record is widened (`built_chars_`).
+    const std::u32string& as_built(const checks::ReturnedLine& r, const RecordLayout& layout,
+                                   const std::string& built) {
+        want_.assign(r.record);
         if (r.returned)
             for (const FieldLayout* f : {checks::error_flag_field(layout), checks::error_count_field(layout)})
-                if (f && f->pos <= want.size()) want[f->pos - 1u] = U'0';
+                if (f && f->pos <= want_.size()) want_[f->pos - 1u] = U'0';
         checks::decode(built, checks::FileEncoding::Utf8, built_chars_);
-        if (built_chars_.size() != want.size()) return to_utf8(want);
+        if (built_chars_.size() != want_.size()) return want_;
         for (const checks::Part& p : parts_)
             for (const auto& [f, content] : open_fields(*p.layout)) {
                 const std::size_t at = p.at + f->pos - 1u;
-                const std::u32string_view text = std::u32string_view(want).substr(at, f->len);
+                const std::u32string_view text = std::u32string_view(want_).substr(at, f->len);
                 const bool basic = text.find_first_not_of(U' ') == std::u32string_view::npos ||
                                    text.find_first_not_of(U'0') == std::u32string_view::npos;
-                if (content == checks::Content::Free || basic) want.replace(at, f->len, built_chars_, at, f->len);
+                if (content == checks::Content::Free || basic) want_.replace(at, f->len, built_chars_, at, f->len);
             }
-        return to_utf8(want);
+        return want_;
     }
 
     // The file's time: the communication record's, else the first record's.
@@ -221,7 +220,7 @@ private:
     std::vector<checks::Part> parts_;
     std::string first_created_;
     bool header_unproven_ = false;
-    std::u32string built_chars_;
+    std::u32string built_chars_, want_;
     std::unordered_map<const RecordLayout*, std::vector<OpenField>> open_;
 };
 
