@@ -15,8 +15,8 @@ namespace {
 
 // The example's two registrations, 500 times, as tamrel generate writes them.
 std::string registrations() {
-    nlohmann::json job = nlohmann::json::parse(
-        std::ifstream(std::string(TAMREL_SOURCE_DIR) + "/examples/deuev-registration.json"));
+    nlohmann::json job =
+        nlohmann::json::parse(std::ifstream(std::string(TAMREL_SOURCE_DIR) + "/examples/deuev-registration.json"));
     nlohmann::json reports = nlohmann::json::array();
     for (int i = 0; i < 1000; ++i) {
         nlohmann::json r = job["reports"][static_cast<std::size_t>(i % 2)];

@@ -79,14 +79,13 @@ Setter<M> resolve_member(std::string_view rest) {
         } else {
             return {};
         }
-    } else if constexpr (requires(M& x) { x.slot(std::int16_t{}); }) {
+    } else if constexpr (requires(M & x) { x.slot(std::int16_t{}); }) {
         // "(i)": the entry of the list; "(3)": the third.
         if (rest.size() < 3 || rest.front() != '(' || rest.back() != ')') return {};
         const std::string_view index = rest.substr(1, rest.size() - 2);
         const bool by_entry = index == "i";
         std::int16_t fixed = 0;
-        if (!by_entry && std::from_chars(index.data(), index.data() + index.size(), fixed).ec != std::errc{})
-            return {};
+        if (!by_entry && std::from_chars(index.data(), index.data() + index.size(), fixed).ec != std::errc{}) return {};
         return [by_entry, fixed](M& m, const Place& at, std::string_view value) {
             const std::int16_t i = by_entry ? static_cast<std::int16_t>(at.entry) : fixed;
             using Stored = std::remove_reference_t<decltype(m.slot(i))>;

@@ -15,11 +15,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::istringstream in(std::string(reinterpret_cast<const char*>(data), size));
     try {
         std::size_t given = 0;
-        const tamrel::readback::ReadResult r =
-            tamrel::readback::read_transfer(in, {}, [&](const std::string& report) {
-                ++given;
-                FUZZ_REQUIRE(nlohmann::json::parse(report, nullptr, false).is_object());
-            });
+        const tamrel::readback::ReadResult r = tamrel::readback::read_transfer(in, {}, [&](const std::string& report) {
+            ++given;
+            FUZZ_REQUIRE(nlohmann::json::parse(report, nullptr, false).is_object());
+        });
         FUZZ_REQUIRE(given == r.reports);
         FUZZ_REQUIRE(r.job.is_object());
         FUZZ_REQUIRE(r.reports + r.skipped.size() <= r.records + 2);
