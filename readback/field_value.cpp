@@ -51,11 +51,20 @@ const LineText& line_text(std::u32string_view line) {
     char* const base = text.utf8.data();
     char* d = base;
     std::uint32_t* start = text.starts.data();
-    for (const char32_t c : line) {
+    for (std::size_t i = 0; i < line.size();) {
+        // A run of ASCII, one byte a character, in a loop the compiler widens.
+        std::size_t run = i;
+        while (run < line.size() && line[run] < 0x80) ++run;
+        const auto offset = static_cast<std::uint32_t>(d - base);
+        for (std::size_t k = i; k < run; ++k) {
+            start[k - i] = offset + static_cast<std::uint32_t>(k - i);
+            d[k - i] = static_cast<char>(line[k]);
+        }
+        start += run - i, d += run - i, i = run;
+        if (i == line.size()) break;
+        const char32_t c = line[i++];
         *start++ = static_cast<std::uint32_t>(d - base);
-        if (c < 0x80) {
-            *d++ = static_cast<char>(c);
-        } else if (c < 0x800) {
+        if (c < 0x800) {
             *d++ = static_cast<char>(0xC0 | (c >> 6));
             *d++ = static_cast<char>(0x80 | (c & 0x3F));
         } else if (c < 0x10000) {

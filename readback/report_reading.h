@@ -52,28 +52,54 @@ inline bool derived(const FieldLayout& f) {
            f.name == "identifier";
 }
 
-// The setters of the properties a part's fields name, found once a layout
-// (the layouts are static) and kept for the thread's later records, one a
-// field in the order of its declarations; with `count`, the property
-// "Anzahl<block>" of a count of blocks.
+// How each field of a layout is read, found once a layout (the layouts are
+// static) and kept for the thread's later records.
+enum class FieldRole : std::uint8_t {
+    Skip,     // derived: a fixed text, a flag, a reserve
+    Count,    // a count of blocks: the property "Anzahl<block>", where there is one
+    Created,  // the record's time stamp
+    Record,   // a member of the record identification (DatensatzData)
+    Object,   // a property of the data object
+};
 template <Bound T>
-const std::vector<Setter<T>>& part_setters(const RecordLayout& layout, bool count) {
-    thread_local std::unordered_map<const RecordLayout*, std::vector<Setter<T>>> setters[2];
-    auto& map = setters[count];
-    auto it = map.find(&layout);
-    if (it != map.end()) return it->second;
-    std::vector<Setter<T>> all;
+struct LayoutPlan {
+    std::vector<FieldRole> roles;
+    std::vector<bool> remarked;  // a remark in brackets: given to the procedure's own reading too
+    std::vector<Setter<T>> own;
+    std::vector<Setter<DatensatzData>> record;
+};
+
+template <Bound T>
+const LayoutPlan<T>& layout_plan(const RecordLayout& layout) {
+    thread_local std::unordered_map<const RecordLayout*, LayoutPlan<T>> plans;
+    auto it = plans.find(&layout);
+    if (it != plans.end()) return it->second;
+    LayoutPlan<T> plan;
+    constexpr std::string_view dd = "DatensatzData.";
     for (const FieldLayout& f : layout.fields) {
         const std::string_view path = property_path(f.name);
-        constexpr std::string_view dd = "DatensatzData.";
-        if (count)
-            all.push_back(f.announce == Announce::Count ? resolve<T>("Anzahl" + std::string(f.name)) : Setter<T>());
-        else if constexpr (std::is_same_v<T, DatensatzData>)
-            all.push_back(path.starts_with(dd) ? resolve<T>(path.substr(dd.size())) : Setter<T>());
-        else
-            all.push_back(path.starts_with(dd) ? Setter<T>() : resolve<T>(path));
+        FieldRole role = FieldRole::Object;
+        Setter<T> own;
+        Setter<DatensatzData> record;
+        if (f.announce == Announce::Count) {
+            role = FieldRole::Count;
+            own = resolve<T>("Anzahl" + std::string(f.name));
+        } else if (derived(f)) {
+            role = FieldRole::Skip;
+        } else if (f.kind == FieldKind::DateTime && f.name.starts_with("created")) {
+            role = FieldRole::Created;
+        } else if (path.starts_with(dd)) {
+            role = FieldRole::Record;
+            record = resolve<DatensatzData>(path.substr(dd.size()));
+        } else {
+            own = resolve<T>(path);
+        }
+        plan.roles.push_back(role);
+        plan.remarked.push_back(path.size() != f.name.size());
+        plan.own.push_back(std::move(own));
+        plan.record.push_back(std::move(record));
     }
-    return map.emplace(&layout, std::move(all)).first->second;
+    return plans.emplace(&layout, std::move(plan)).first->second;
 }
 
 // A line as UTF-8, with where each character begins: its fields are
@@ -98,33 +124,31 @@ std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span
     const LineText& text = line_text(line);
     for (const checks::Part& p : parts) {
         const Place at{p.entry, p.item};
-        const auto& own = part_setters<T>(*p.layout, false);
-        const auto& counts = part_setters<T>(*p.layout, true);
-        const auto& record = part_setters<DatensatzData>(*p.layout, false);
+        const LayoutPlan<T>& plan = layout_plan<T>(*p.layout);
         for (std::size_t k = 0; k < p.layout->fields.size(); ++k) {
+            const FieldRole role = plan.roles[k];
+            if (role == FieldRole::Skip) continue;
             const FieldLayout& f = p.layout->fields[k];
-            const bool count = f.announce == Announce::Count;
-            if (derived(f) && !count) continue;
             const std::string_view raw = text.slice(p.at + f.pos - 1u, f.len);
-            std::string value = field_value(raw, f);
-            // A count of blocks is the property "Anzahl<block>" where the
-            // object has one (its entries are read with the blocks).
-            if (count) {
-                if (counts[k]) counts[k](obj, at, value);
-                continue;
-            }
-            if (f.kind == FieldKind::DateTime && f.name.starts_with("created")) {
+            if (role == FieldRole::Created) {
                 frame.created = raw;
                 const std::size_t open = f.name.find('(');
                 if (open != std::string_view::npos)
                     frame.createdFrom = f.name.substr(open + 1, f.name.size() - open - 2);
                 continue;
             }
-            const bool placed =
-                (record[k] && record[k](frame.datensatz, at, value)) || (own[k] && own[k](obj, at, value));
+            std::string value = field_value(raw, f);
+            // A count of blocks is the property "Anzahl<block>" where the
+            // object has one (its entries are read with the blocks).
+            if (role == FieldRole::Count) {
+                if (plan.own[k]) plan.own[k](obj, at, value);
+                continue;
+            }
+            const bool placed = role == FieldRole::Record ? plan.record[k] && plan.record[k](frame.datensatz, at, value)
+                                                          : plan.own[k] && plan.own[k](obj, at, value);
             // A field with a remark ("Merkmal1 (1 or 0)") is placed as it
             // stands and still given to the procedure's own reading.
-            if (!placed || property_path(f.name).size() != f.name.size()) left.push_back({&f, &p, std::move(value)});
+            if (!placed || plan.remarked[k]) left.push_back({&f, &p, std::move(value)});
         }
     }
     return left;
