@@ -17,8 +17,8 @@ cmake --build build-san -j"$jobs"
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 ctest --test-dir build-san --output-on-failure -j"$jobs"
 # Many threads at once through the C interface and the generator classes.
 cmake -S . -B build-tsan -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=-O1 -DTAMREL_TSAN=ON >/dev/null
-cmake --build build-tsan -j"$jobs" --target tamrel_tests tamrel
-TSAN_OPTIONS=halt_on_error=1 build-tsan/tests/tamrel_tests --gtest_filter='Threads.*'
+cmake --build build-tsan -j"$jobs" --target tamrel_thread_tests tamrel
+TSAN_OPTIONS=halt_on_error=1 build-tsan/tests/tamrel_thread_tests --gtest_filter='Threads.*'
 # The installed library, its consumers and its Debian packages.
 scripts/install-test.sh build
 # The COM server, built for Windows and tested under wine.
