@@ -179,11 +179,11 @@ void append_value(std::string& out, const M& m) {
         const bool from_one = m.smallest() == 1;
         out += from_one ? '[' : '{';
         for (std::int32_t i = m.smallest(); i <= m.largest(); ++i) {
-            const auto v = m(static_cast<std::int16_t>(i));
+            const auto& v = m(static_cast<std::int16_t>(i));
             if (from_one) {
                 if (i > 1) out += ',';
             } else {
-                if (v == decltype(v){}) continue;
+                if (v == std::remove_cvref_t<decltype(v)>{}) continue;
                 key(out, {}, std::to_string(i));
             }
             append_value(out, v);
