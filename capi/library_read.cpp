@@ -1,4 +1,5 @@
 // The C interface's read: a file in memory back into its job.
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -7,6 +8,7 @@
 #include "capi/c_api.h"
 #include "capi/c_text.h"
 #include "readback/transfer_reading.h"
+#include "run/output_encoding.h"
 
 namespace tamrel {
 namespace {
@@ -18,15 +20,10 @@ readback::ReadOptions read_options(const char* options_json) {
     if (!j.is_object()) throw std::runtime_error("options: expected a JSON object");
     for (const auto& [key, value] : j.items()) {
         if (key != "encoding") throw std::runtime_error("options: unknown option \"" + key + "\"");
-        const std::string e = value.is_string() ? value.get<std::string>() : std::string();
-        if (e == "ISO-8859-1")
-            o.encoding = checks::FileEncoding::Latin1;
-        else if (e == "ISO-8859-15")
-            o.encoding = checks::FileEncoding::Latin9;
-        else if (e == "UTF-8")
-            o.encoding = checks::FileEncoding::Utf8;
-        else
-            throw std::runtime_error("options: \"encoding\" expects \"ISO-8859-1\", \"ISO-8859-15\" or \"UTF-8\"");
+        const std::optional<cli::Encoding> e =
+            value.is_string() ? cli::parse_encoding(value.get<std::string>()) : std::nullopt;
+        if (!e) throw std::runtime_error(std::string("options: \"encoding\" expects ") + cli::kEncodingSpellings);
+        o.encoding = cli::file_encoding(*e);
     }
     return o;
 }

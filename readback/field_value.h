@@ -18,7 +18,4 @@ namespace tamrel::readback {
 // - flags: "J" or "N" as they stand.
 std::string field_value(std::string_view chars, const FieldLayout& f);
 
-// Whether the characters are all `c` (an empty text is).
-bool all_of(std::string_view chars, char c);
-
 }  // namespace tamrel::readback

@@ -56,13 +56,19 @@ inline std::int32_t from_zero_code(std::string_view v, char last) {
 
 // A list's entries, whose fields are named "X(i)", as the items of `items`
 // (entry i is item i, its property X).
+// The setters are found once a field, as the declared fields' are.
 template <Bound Item>
 void read_entries(std::vector<Item>& items, std::span<const ReadField> left, const RecordLayout& entry) {
+    thread_local std::unordered_map<const FieldLayout*, Setter<Item>> setters;
     for (const ReadField& r : left) {
         if (r.part->layout != &entry || r.part->entry == 0) continue;
         if (items.size() < r.part->entry) items.resize(r.part->entry);
-        const std::string_view name = r.field->name;
-        assign(items[r.part->entry - 1], name.substr(0, name.find('(')), {}, r.value);
+        auto it = setters.find(r.field);
+        if (it == setters.end()) {
+            const std::string_view name = r.field->name;
+            it = setters.emplace(r.field, resolve<Item>(name.substr(0, name.find('(')))).first;
+        }
+        if (it->second) it->second(items[r.part->entry - 1], {}, r.value);
     }
 }
 

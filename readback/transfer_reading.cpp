@@ -1,14 +1,10 @@
 #include "readback/transfer_reading.h"
 
 #include <memory>
-#include <optional>
 #include <unordered_map>
 
-#include "call/call_protocol.h"
 #include "call/procedure.h"
-#include "call/report_runner.h"
 #include "core/frame_layouts.h"
-#include "core/text.h"
 #include "readback/error_fields.h"
 #include "readback/procedure_readers.h"
 #include "readback/prover.h"
@@ -16,7 +12,6 @@
 #include "reader/field_sources.h"
 #include "reader/line_walk.h"
 #include "reader/record_layouts.h"
-#include "run/job.h"
 
 namespace tamrel::readback {
 namespace {

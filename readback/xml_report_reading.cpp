@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "readback/prover.h"
 #include "readback/record_forms.h"
+#include "run/output_encoding.h"
 #include "xml/clsGenAsyl/Asyl_properties.h"
 #include "xml/clsGenAsyl/SKEK_elements.h"
 
@@ -170,11 +171,8 @@ checks::FileEncoding declared_encoding(std::string_view declaration) {
     const std::size_t at = declaration.find(key);
     if (at == std::string_view::npos || at + key.size() >= declaration.size()) return checks::FileEncoding::Utf8;
     const std::string_view rest = declaration.substr(at + key.size() + 1);
-    std::string name(rest.substr(0, rest.find_first_of("\"'")));
-    for (char& c : name) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    if (name == "ISO-8859-1") return checks::FileEncoding::Latin1;
-    if (name == "ISO-8859-15") return checks::FileEncoding::Latin9;
-    return checks::FileEncoding::Utf8;
+    const std::optional<cli::Encoding> e = cli::parse_encoding(rest.substr(0, rest.find_first_of("\"'")));
+    return e ? cli::file_encoding(*e) : checks::FileEncoding::Utf8;
 }
 
 class XmlReader {

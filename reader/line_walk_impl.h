@@ -46,26 +46,30 @@ inline const RecordLayout& form(std::u32string_view line, std::size_t at, const 
     return matching ? *matching : *l.forms.front();
 }
 
+// Writes `c` as UTF-8 at `d` (room for four bytes); returns the end.
+inline char* put_utf8(char* d, char32_t c) {
+    if (c < 0x80) {
+        *d++ = static_cast<char>(c);
+    } else if (c < 0x800) {
+        *d++ = static_cast<char>(0xC0 | (c >> 6));
+        *d++ = static_cast<char>(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        *d++ = static_cast<char>(0xE0 | (c >> 12));
+        *d++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        *d++ = static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        *d++ = static_cast<char>(0xF0 | (c >> 18));
+        *d++ = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+        *d++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        *d++ = static_cast<char>(0x80 | (c & 0x3F));
+    }
+    return d;
+}
+
 inline std::string utf8_of(std::u32string_view s) {
     std::string out(s.size() * 4, '\0');
     char* d = out.data();
-    for (const char32_t c : s) {
-        if (c < 0x80) {
-            *d++ = static_cast<char>(c);
-        } else if (c < 0x800) {
-            *d++ = static_cast<char>(0xC0 | (c >> 6));
-            *d++ = static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            *d++ = static_cast<char>(0xE0 | (c >> 12));
-            *d++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            *d++ = static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            *d++ = static_cast<char>(0xF0 | (c >> 18));
-            *d++ = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            *d++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            *d++ = static_cast<char>(0x80 | (c & 0x3F));
-        }
-    }
+    for (const char32_t c : s) d = put_utf8(d, c);
     out.resize(static_cast<std::size_t>(d - out.data()));
     return out;
 }

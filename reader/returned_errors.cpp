@@ -12,11 +12,6 @@ const FieldLayout* named(const RecordLayout& record, std::string_view name) {
     return nullptr;
 }
 
-std::string trimmed(std::string s) {
-    while (!s.empty() && s.back() == ' ') s.pop_back();
-    return s;
-}
-
 }  // namespace
 
 const FieldLayout* error_flag_field(const RecordLayout& record) { return named(record, "error marker"); }

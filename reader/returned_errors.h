@@ -15,7 +15,7 @@
 namespace tamrel::checks {
 
 namespace dbfe_fields {
-inline constexpr FieldLayout Kennung{"identifier", 1, 4, FieldKind::Literal, "DBFE"};
+inline constexpr FieldLayout Kennung = layout::lit("identifier", 1, "DBFE");
 inline constexpr FieldLayout Fehlernummer{"FENR", 5, 7, FieldKind::An};
 inline constexpr FieldLayout Leer{"reserve", 12, 1, FieldKind::An};
 inline constexpr FieldLayout Fehlertext{"FETEXT", 13, 64, FieldKind::An};

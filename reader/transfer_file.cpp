@@ -90,12 +90,12 @@ bool valid_utf8(std::string_view s) {
     return true;
 }
 
-namespace {
-
 std::string trimmed(std::string s) {
     while (!s.empty() && s.back() == ' ') s.pop_back();
     return s;
 }
+
+namespace {
 
 // Checks records as they come; what depends on a record being the last is
 // settled at the end.

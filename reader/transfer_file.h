@@ -41,6 +41,9 @@ void decode(std::string_view bytes, FileEncoding encoding, std::u32string& out);
 // Whether the bytes are UTF-8 throughout.
 bool valid_utf8(std::string_view s);
 
+// The text without its trailing blanks.
+std::string trimmed(std::string s);
+
 // A field's characters, as UTF-8.
 std::string field_text(std::u32string_view record, const FieldLayout& f);
 // Characters as UTF-8.
