@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 
 #include <nlohmann/json.hpp>
 
@@ -50,7 +51,17 @@ public:
     // holds anything but printable ASCII, and where it is.
     using TextEdit = std::function<void(std::string& value, const json_binding::TextPlace& at)>;
     virtual void edit_texts(const TextEdit& edit) = 0;
+    // The data object that data() builds from, where it is a `type`;
+    // nullptr otherwise (object_as below).
+    virtual void* object(const std::type_info& type) = 0;
 };
+
+// The runner's data object as an `Obj`, to be filled in place of reading
+// JSON; nullptr where the runner's class has another data object.
+template <class Obj>
+Obj* object_as(ReportRunner& runner) {
+    return static_cast<Obj*>(runner.object(typeid(Obj)));
+}
 
 struct RunnerSettings {
     const Host* host;

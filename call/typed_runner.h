@@ -100,6 +100,7 @@ public:
     }
 
     void edit_texts(const TextEdit& edit) override { json_binding::edit_texts(obj_, nullptr, edit); }
+    void* object(const std::type_info& type) override { return type == typeid(Obj) ? &obj_ : nullptr; }
 
 private:
     // The line just loaded, valid UTF-8 without escapes.

@@ -6,38 +6,38 @@ namespace {
 
 bool all_of(std::string_view chars, char c) { return chars.find_first_not_of(c) == std::string_view::npos; }
 
-std::string amount_value(std::string_view chars, const FieldLayout& f) {
-    std::string sign;
+std::string_view amount_value(std::string_view chars, const FieldLayout& f, std::string& v) {
+    v.clear();
     if (f.kind == FieldKind::SignedAmount && !chars.empty()) {
-        if (chars[0] == '-') sign = "-";
+        if (chars[0] == '-') v = "-";
         chars.remove_prefix(1);
     }
-    if (all_of(chars, '0')) return sign.empty() ? std::string() : sign + "0";
+    if (all_of(chars, '0')) return v.empty() ? std::string_view() : (v += '0', std::string_view(v));
     const std::size_t places = chars.size() >= f.decimals ? chars.size() - f.decimals : 0;
     std::string_view whole = chars.substr(0, places);
     while (whole.size() > 1 && whole[0] == '0') whole.remove_prefix(1);
-    std::string v = sign + std::string(whole.empty() ? "0" : whole);
-    if (f.decimals > 0) v += ',' + std::string(chars.substr(places));
+    v += whole.empty() ? std::string_view("0") : whole;
+    if (f.decimals > 0) (v += ',') += chars.substr(places);
     return v;
 }
 
 }  // namespace
 
-std::string field_value(std::string_view chars, const FieldLayout& f) {
+std::string_view field_value(std::string_view chars, const FieldLayout& f, std::string& scratch) {
     switch (f.kind) {
         case FieldKind::N:
         case FieldKind::Date:
         case FieldKind::DateTime:
-            return all_of(chars, '0') ? std::string() : std::string(chars);
+            return all_of(chars, '0') ? std::string_view() : chars;
         case FieldKind::Amount:
         case FieldKind::SignedAmount:
-            return amount_value(chars, f);
+            return amount_value(chars, f, scratch);
         case FieldKind::Flag:
         case FieldKind::Literal:
-            return std::string(chars);
+            return chars;
         default: {
             const std::size_t end = chars.find_last_not_of(' ');
-            return std::string(chars.substr(0, end == std::string_view::npos ? 0 : end + 1));
+            return chars.substr(0, end == std::string_view::npos ? 0 : end + 1);
         }
     }
 }

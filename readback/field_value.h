@@ -16,6 +16,12 @@ namespace tamrel::readback {
 // - amounts: integer places without leading zeros, a comma and the
 //   decimal places; zeros only: empty; a "-" kept in front;
 // - flags: "J" or "N" as they stand.
-std::string field_value(std::string_view chars, const FieldLayout& f);
+// The value is a view of `chars` where it is a part of them, else it is
+// made in `scratch` (an amount): no text of its own for most fields.
+std::string_view field_value(std::string_view chars, const FieldLayout& f, std::string& scratch);
+inline std::string field_value(std::string_view chars, const FieldLayout& f) {
+    std::string scratch;
+    return std::string(field_value(chars, f, scratch));
+}
 
 }  // namespace tamrel::readback

@@ -4,6 +4,7 @@
 #include "certificates/clsGenArbeitsBesch/clsGenArbeitsBesch.h"
 #include "certificates/clsGenEntgelt/Entgelt_properties.h"
 #include "certificates/clsGenEntgelt/clsGenEntgelt.h"
+#include "core/text.h"
 #include "queries/clsGenAbfrStammdatenUV/AbfrStammdatenUV_properties.h"
 #include "queries/clsGenAbfrStammdatenUV/clsGenAbfrStammdatenUV.h"
 #include "queries/clsGenAbfrVers/AbfrVers_properties.h"
@@ -28,13 +29,28 @@ namespace tamrel::readback {
 namespace {
 
 // What the declarations place, then what the procedure writes in a form of
-// its own (record_forms.h).
+// its own (record_forms.h), then the record's own time.
 template <class T>
-void read_as(std::u32string_view line, std::span<const checks::Part> parts, ReadReport& out) {
-    T obj{};
-    const std::vector<ReadField> left = read_declared(obj, line, parts, out.frame);
-    read_own_forms(obj, left, parts, out.frame);
+void read_into(T& obj, const LineText& line, std::span<const checks::Part> parts, std::string_view file_created,
+               ReadReport& out) {
+    thread_local std::vector<ReadField> left;
+    read_declared(obj, line, parts, out.frame, left);
+    read_own_forms(obj, std::span<const ReadField>(left), parts, out.frame);
+    const std::string time = own_time(out.frame, file_created.empty() ? out.frame.created : file_created);
+    if (!time.empty()) assign(obj, out.frame.createdFrom, {}, time);
     out.json = to_json(obj);
+}
+
+template <class T>
+void read_as(const LineText& line, std::span<const checks::Part> parts, std::string_view file_created,
+             ReportRunner* into, ReadReport& out) {
+    if (T* obj = into ? object_as<T>(*into) : nullptr) {
+        into->clear();
+        read_into(*obj, line, parts, file_created, out);
+    } else {
+        T own{};
+        read_into(own, line, parts, file_created, out);
+    }
 }
 
 struct Entry {
@@ -65,6 +81,15 @@ const std::vector<Entry>& entries() {
 }
 
 }  // namespace
+
+// The stamp's text is read as year (1-4), month (5-6), day (the last two
+// characters) and, from 14 characters on, the time (9-14).
+std::string own_time(const RecordFrame& frame, std::string_view file_created) {
+    const std::string& c = frame.created;
+    if (c == file_created || frame.createdFrom.empty() || text::char_count(c) < 8) return {};
+    const std::string date(text::left(c, 8)), day(text::mid(c, 7, 2)), time(text::mid(c, 9, 6));
+    return time == text::mid(file_created, 9, 6) ? date : date + time + day;
+}
 
 const ProcedureReader* reader_for_record(const RecordLayout& record) {
     for (const Entry& e : entries())

@@ -1,7 +1,5 @@
 #include "readback/prover.h"
 
-#include "core/text.h"
-
 namespace tamrel::readback {
 namespace {
 
@@ -61,16 +59,27 @@ Prover::Prover(const ProcedureDescriptor& p, ordered_json head) : procedure_(p),
 
 Prover::~Prover() = default;
 
-Prover::Built Prover::build(const std::string& report) {
+template <class F>
+Prover::Built Prover::attempt(F&& build) {
     Built b;
     try {
-        runner_->read_text(report);
-        b.record = runner_->data();
+        b.record = build();
     } catch (const std::exception& e) {
         b.error = e.what();
     }
     session_->clear_log();
     return b;
+}
+
+Prover::Built Prover::build(const std::string& report) {
+    return attempt([&] {
+        runner_->read_text(report);
+        return runner_->data();
+    });
+}
+
+Prover::Built Prover::build_read() {
+    return attempt([&] { return runner_->data(); });
 }
 
 std::string Prover::vosz() {
@@ -83,15 +92,11 @@ std::string Prover::dsko() {
     return guarded([&] { return procedure_.GenDSKO(session_->host(), v); });
 }
 
-// The stamp's text is read as year (1-4), month (5-6), day (the last two
-// characters) and, from 14 characters on, the time (9-14).
 void give_own_time(ReadReport& report, std::string_view file_created) {
-    const std::string& c = report.frame.created;
-    if (c == file_created || report.frame.createdFrom.empty() || text::char_count(c) < 8) return;
+    const std::string time = own_time(report.frame, file_created);
+    if (time.empty()) return;
     nlohmann::json j = nlohmann::json::parse(report.json);
-    const std::string date(text::left(c, 8)), day(text::mid(c, 7, 2)), time(text::mid(c, 9, 6));
-    const bool same_time = time == text::mid(file_created, 9, 6);
-    j[std::string(report.frame.createdFrom)] = same_time ? date : date + time + day;
+    j[std::string(report.frame.createdFrom)] = time;
     report.json = j.dump();
 }
 

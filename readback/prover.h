@@ -41,12 +41,18 @@ public:
         std::string record, error;
     };
     Built build(const std::string& report);
+    // The record of the object read into runner() (ProcedureReader::read).
+    Built build_read();
+    ReportRunner& runner() { return *runner_; }
     // The frame records the job builds; empty where the class refuses it.
     std::string vosz();
     std::string dsko();
     const nlohmann::ordered_json& head() const { return head_; }
 
 private:
+    template <class F>
+    Built attempt(F&& build);
+
     const ProcedureDescriptor& procedure_;
     nlohmann::ordered_json head_;
     cli::Job job_;
@@ -54,9 +60,7 @@ private:
     std::unique_ptr<ReportRunner> runner_;
 };
 
-// A record made at another time than the file (`file_created`, the time of
-// the communication record or the first data record): the time is given as
-// the report's own, in the property that the record's time stamp names.
+// The report's own time (own_time) set in its JSON.
 void give_own_time(ReadReport& report, std::string_view file_created);
 
 }  // namespace tamrel::readback

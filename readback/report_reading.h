@@ -102,26 +102,43 @@ const LayoutPlan<T>& layout_plan(const RecordLayout& layout) {
     return plans.emplace(&layout, std::move(plan)).first->second;
 }
 
-// A line as UTF-8, with where each character begins: its fields are
-// sliced from it without a text of their own. One a thread, kept from
-// line to line.
+// A line as UTF-8: its fields are sliced from it without a text of their
+// own. Where a character takes more than one byte is kept beside it (few
+// in a line), so that a field's characters are found by their number.
+// One a thread, kept from line to line.
 struct LineText {
     std::string utf8;
-    std::vector<std::uint32_t> starts;  // a character's first byte; one more at the end
+    std::size_t chars = 0;
+    struct Wide {
+        std::uint32_t at;     // the character's number
+        std::uint32_t extra;  // the bytes more than one of it and every wide character before it
+    };
+    std::vector<Wide> wide;
+    std::size_t byte_of(std::size_t ch) const {
+        std::size_t extra = 0;
+        for (const Wide& w : wide) {
+            if (w.at >= ch) break;
+            extra = w.extra;
+        }
+        return ch + extra;
+    }
     std::string_view slice(std::size_t at, std::size_t len) const {
-        const std::size_t end = std::min(at + len, starts.size() - 1);
+        const std::size_t end = std::min(at + len, chars);
         at = std::min(at, end);
-        return std::string_view(utf8).substr(starts[at], starts[end] - starts[at]);
+        if (wide.empty()) return std::string_view(utf8).substr(at, end - at);
+        const std::size_t from = byte_of(at);
+        return std::string_view(utf8).substr(from, byte_of(end) - from);
     }
 };
 const LineText& line_text(std::u32string_view line);
 
-// Sets what the declarations place and returns the fields they do not.
+// Sets what the declarations place and gives the fields they do not in
+// `left`. A value becomes a text of its own only there.
 template <Bound T>
-std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span<const checks::Part> parts,
-                                     RecordFrame& frame) {
-    std::vector<ReadField> left;
-    const LineText& text = line_text(line);
+void read_declared(T& obj, const LineText& text, std::span<const checks::Part> parts, RecordFrame& frame,
+                   std::vector<ReadField>& left) {
+    left.clear();
+    std::string scratch;
     for (const checks::Part& p : parts) {
         const Place at{p.entry, p.item};
         const LayoutPlan<T>& plan = layout_plan<T>(*p.layout);
@@ -137,7 +154,7 @@ std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span
                     frame.createdFrom = f.name.substr(open + 1, f.name.size() - open - 2);
                 continue;
             }
-            std::string value = field_value(raw, f);
+            const std::string_view value = field_value(raw, f, scratch);
             // A count of blocks is the property "Anzahl<block>" where the
             // object has one (its entries are read with the blocks).
             if (role == FieldRole::Count) {
@@ -148,10 +165,9 @@ std::vector<ReadField> read_declared(T& obj, std::u32string_view line, std::span
                                                           : plan.own[k] && plan.own[k](obj, at, value);
             // A field with a remark ("Merkmal1 (1 or 0)") is placed as it
             // stands and still given to the procedure's own reading.
-            if (!placed || plan.remarked[k]) left.push_back({&f, &p, std::move(value)});
+            if (!placed || plan.remarked[k]) left.push_back({&f, &p, std::string(value)});
         }
     }
-    return left;
 }
 
 // The value of the left field named `name`, or nullptr.

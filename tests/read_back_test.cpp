@@ -12,6 +12,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "readback/report_reading.h"
 #include "readback/transfer_reading.h"
 #include "reader/transfer_file.h"
 #include "run/generate.h"
@@ -56,6 +57,26 @@ std::string skipped(const Read& r) {
     std::string s;
     for (const auto& k : r.result.skipped) s += describe(k) + "\n";
     return s;
+}
+
+// A line's fields are sliced from its UTF-8 text by character: lines of
+// ASCII only, and lines with characters of two and three bytes before,
+// inside, at the edges of and after the slices, at a step's border too.
+TEST(ReadBack, LineTextSlicesFieldsByCharacter) {
+    const std::u32string lines[] = {
+        U"DSME ABC 123",
+        U"\u00c4rger \u00fcber M\u00fcller \u20ac 5",
+        std::u32string(15, U'x') + U"\u00df" + std::u32string(20, U'y') + U"\u20ac",
+        U"\u00e4\u00f6\u00fc\u00c4\u00d6\u00dc\u00df\u20ac",
+    };
+    for (const std::u32string& line : lines) {
+        const tamrel::readback::LineText& text = tamrel::readback::line_text(line);
+        for (std::size_t at = 0; at <= line.size() + 1; ++at)
+            for (std::size_t len = 0; len <= line.size() + 1; ++len) {
+                const std::u32string part = line.substr(std::min(at, line.size()), len);
+                EXPECT_EQ(text.slice(at, len), tamrel::checks::to_utf8(part)) << "at " << at << ", " << len;
+            }
+    }
 }
 
 TEST(ReadBack, EveryExampleGivesItsFileAgain) {
