@@ -42,15 +42,16 @@ void read_into(T& obj, const LineText& line, std::span<const checks::Part> parts
 }
 
 template <class T>
-void read_as(const LineText& line, std::span<const checks::Part> parts, std::string_view file_created,
+bool read_as(const LineText& line, std::span<const checks::Part> parts, std::string_view file_created,
              ReportRunner* into, ReadReport& out) {
     if (T* obj = into ? object_as<T>(*into) : nullptr) {
         into->clear();
         read_into(*obj, line, parts, file_created, out);
-    } else {
-        T own{};
-        read_into(own, line, parts, file_created, out);
+        return true;
     }
+    T own{};
+    read_into(own, line, parts, file_created, out);
+    return false;
 }
 
 struct Entry {

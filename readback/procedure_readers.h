@@ -21,9 +21,10 @@ struct ProcedureReader {
     std::string_view cls;
     // Reads a record with its blocks (the parts the walk found in it) into
     // the data object of `into`, which then builds it without the report's
-    // JSON in between; without a runner, into an object of its own.
+    // JSON in between; without a runner (or one of another class), into an
+    // object of its own. True when it read into the runner's object.
     // `file_created` is the file's time (empty: the record's own).
-    void (*read)(const LineText& line, std::span<const checks::Part> parts, std::string_view file_created,
+    bool (*read)(const LineText& line, std::span<const checks::Part> parts, std::string_view file_created,
                  ReportRunner* into, ReadReport& out);
 };
 

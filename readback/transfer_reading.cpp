@@ -130,10 +130,12 @@ private:
                             (problem.value.empty() ? std::string() : " (" + problem.value + ")"));
         ReadReport report;
         // The first record is read on its own, as it settles the frame; the
-        // others straight into the runner that builds them again.
-        ReportRunner* into = prover_ ? &prover_->runner() : nullptr;
+        // others straight into the runner that builds them again. The
+        // line's text stays this line's until the next line is read.
         const LineText& text = line_text(r.record);
-        reader->read(text, parts_, !first_created_.empty() ? first_created_ : frame_.dskoCreated, into, report);
+        const bool read_into_runner =
+            reader->read(text, parts_, !first_created_.empty() ? first_created_ : frame_.dskoCreated,
+                         prover_ ? &prover_->runner() : nullptr, report);
         if (first_created_.empty())
             first_created_ = !frame_.dskoCreated.empty() ? frame_.dskoCreated : report.frame.created;
         if (!prover_ && !settle(*find_procedure(cls_), &report.frame)) {
@@ -144,7 +146,7 @@ private:
             settle(*find_procedure(cls_), &report.frame);
         }
         if (!prover_) return skip(n, id, "the frame values cannot be read");
-        const Prover::Built built = into ? prover_->build_read() : prover_->build(report.json);
+        const Prover::Built built = read_into_runner ? prover_->build_read() : prover_->build(report.json);
         if (!built.error.empty()) return skip(n, id, "read back, it is refused: " + built.error);
         if (r.returned || built.record != text.utf8) {
             // A returned record is built as it was sent: no error flag, no count.
