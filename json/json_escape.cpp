@@ -141,9 +141,12 @@ bool append_json_string(std::string& out, std::string_view s) {
             const auto c = static_cast<unsigned char>(ch);
             return c >= 0x20 && c < 0x80 && c != '"' && c != '\\';
         })) {
-        out += '"';
-        out += s;
-        out += '"';
+        const std::size_t at = out.size();
+        out.resize(at + s.size() + 2);
+        char* p = out.data() + at;
+        *p = '"';
+        std::memcpy(p + 1, s.data(), s.size());
+        p[s.size() + 1] = '"';
         return true;
     }
     out += '"';

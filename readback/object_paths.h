@@ -3,6 +3,7 @@
 // "DBSE.STKL"), and the object written back as a report of the job format.
 // Both walk the property tables beside the data objects.
 #pragma once
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <functional>
@@ -89,15 +90,13 @@ Setter<M> resolve_member(std::string_view rest) {
         return [by_entry, fixed](M& m, const Place& at, std::string_view value) {
             const std::int16_t i = by_entry ? static_cast<std::int16_t>(at.entry) : fixed;
             using Stored = std::remove_reference_t<decltype(m.slot(i))>;
-            Stored v{};
             if constexpr (std::is_same_v<Stored, std::string>) {
-                v.assign(value);
+                m.slot(i).assign(value);
             } else {
                 bool b = false;
                 if (!convert(value, b)) return false;
-                v = b;
+                m.slot(i) = b;
             }
-            m.slot(i) = std::move(v);
             return true;
         };
     } else {
@@ -154,11 +153,23 @@ void append_members(std::string& out, const T& obj, std::string_view prefix = {}
 namespace detail {
 
 inline void key(std::string& out, std::string_view prefix, std::string_view name) {
-    if (!out.empty() && out.back() != '{' && out.back() != '[') out += ',';
-    out += '"';
-    out += prefix;
-    out += name;
-    out += "\":";
+    const bool comma = !out.empty() && out.back() != '{' && out.back() != '[';
+    // One append for the whole key: names are short, and each append is a call.
+    char buf[64];
+    const std::size_t n = comma + 1 + prefix.size() + name.size() + 2;
+    if (n > sizeof buf) {
+        if (comma) out += ',';
+        ((((out += '"') += prefix) += name) += "\":");
+        return;
+    }
+    char* p = buf;
+    if (comma) *p++ = ',';
+    *p++ = '"';
+    p = std::copy(prefix.begin(), prefix.end(), p);
+    p = std::copy(name.begin(), name.end(), p);
+    *p++ = '"';
+    *p++ = ':';
+    out.append(buf, n);
 }
 
 template <class M>
