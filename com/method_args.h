@@ -7,6 +7,7 @@
 
 #include "com/com_error.h"
 #include "com/com_text.h"
+#include "com/data_object.h"
 #include "com/dispatch_reader.h"
 #include "com/server_host.h"
 #include "core/error.h"
@@ -25,10 +26,13 @@ HRESULT returning(BSTR* result, Make&& make) noexcept {
     });
 }
 
-// The host's data object read into the library's. A failing read logs one
-// line naming the object and raises the object's error unchanged.
+// The host's data object read into the library's: one of TamrelObj26's
+// taken as it is, any other automation object read property by property.
+// A failing read logs one line naming the object and raises the object's
+// error unchanged.
 template <class Obj>
 Obj read_data_object(IDispatch* object, const char* name) {
+    if (const Obj* own = own_data<Obj>(object)) return *own;
     HostScope scope(server_host());
     return routine(name, [&](int&) {
         // VB's error 91: an object argument that is Nothing.

@@ -13,6 +13,7 @@
 #include "com/com_error.h"
 #include "com/com_object.h"
 #include "com/com_text.h"
+#include "com/data_objects.h"
 
 namespace tamrel::com {
 
@@ -54,6 +55,33 @@ bool set_value(HKEY root, const std::wstring& key, const wchar_t* name, const st
 }
 
 std::wstring progid(const ClassEntry& c) { return L"TamrelFile26." + utf16(c.name); }
+std::wstring progid(const DataClassEntry& c) { return L"TamrelObj26." + utf16(c.name); }
+
+HRESULT class_object(IUnknown* (*create)(), REFIID iid, void** out) {
+    auto* f = new (std::nothrow) ClassFactory(create, &g_live);
+    if (!f) return E_OUTOFMEMORY;
+    const HRESULT hr = f->QueryInterface(iid, out);
+    f->Release();
+    return hr;
+}
+
+// A class's keys: its CLSID with the server, and its ProgID.
+bool register_class(const CLSID& clsid, const std::wstring& prog, const std::wstring& path, const std::wstring* libid) {
+    const std::wstring key = L"CLSID\\" + guid_text(clsid);
+    return set_value(HKEY_CLASSES_ROOT, key, nullptr, prog) &&
+           set_value(HKEY_CLASSES_ROOT, key + L"\\InprocServer32", nullptr, path) &&
+           set_value(HKEY_CLASSES_ROOT, key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") &&
+           set_value(HKEY_CLASSES_ROOT, key + L"\\ProgID", nullptr, prog) &&
+           (!libid || set_value(HKEY_CLASSES_ROOT, key + L"\\TypeLib", nullptr, *libid)) &&
+           set_value(HKEY_CLASSES_ROOT, key + L"\\VERSION", nullptr, L"1.0") &&
+           set_value(HKEY_CLASSES_ROOT, prog, nullptr, prog) &&
+           set_value(HKEY_CLASSES_ROOT, prog + L"\\CLSID", nullptr, guid_text(clsid));
+}
+
+void unregister_class(const CLSID& clsid, const std::wstring& prog) {
+    RegDeleteTreeW(HKEY_CLASSES_ROOT, (L"CLSID\\" + guid_text(clsid)).c_str());
+    RegDeleteTreeW(HKEY_CLASSES_ROOT, prog.c_str());
+}
 
 }  // namespace
 
@@ -83,14 +111,10 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
 STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
     if (!out) return E_POINTER;
     *out = nullptr;
-    for (std::size_t i = 0; i < kClassCount; ++i) {
-        if (kClasses[i].clsid != clsid || !kClasses[i].create) continue;
-        auto* f = new (std::nothrow) ClassFactory(kClasses[i].create, &g_live);
-        if (!f) return E_OUTOFMEMORY;
-        const HRESULT hr = f->QueryInterface(iid, out);
-        f->Release();
-        return hr;
-    }
+    for (std::size_t i = 0; i < kClassCount; ++i)
+        if (kClasses[i].clsid == clsid && kClasses[i].create) return class_object(kClasses[i].create, iid, out);
+    for (std::size_t i = 0; i < kDataClassCount; ++i)
+        if (kDataClasses[i].clsid == clsid) return class_object(kDataClasses[i].create, iid, out);
     return CLASS_E_CLASSNOTAVAILABLE;
 }
 
@@ -109,27 +133,19 @@ STDAPI DllRegisterServer() {
     for (std::size_t i = 0; i < kClassCount; ++i) {
         const ClassEntry& c = kClasses[i];
         if (!c.create) continue;  // clsGenDef: described by the type library, not creatable
-        const std::wstring key = L"CLSID\\" + guid_text(c.clsid);
-        const bool ok = set_value(HKEY_CLASSES_ROOT, key, nullptr, progid(c)) &&
-                        set_value(HKEY_CLASSES_ROOT, key + L"\\InprocServer32", nullptr, path) &&
-                        set_value(HKEY_CLASSES_ROOT, key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") &&
-                        set_value(HKEY_CLASSES_ROOT, key + L"\\ProgID", nullptr, progid(c)) &&
-                        set_value(HKEY_CLASSES_ROOT, key + L"\\TypeLib", nullptr, libid) &&
-                        set_value(HKEY_CLASSES_ROOT, key + L"\\VERSION", nullptr, L"1.0") &&
-                        set_value(HKEY_CLASSES_ROOT, progid(c), nullptr, progid(c)) &&
-                        set_value(HKEY_CLASSES_ROOT, progid(c) + L"\\CLSID", nullptr, guid_text(c.clsid));
-        if (!ok) return SELFREG_E_CLASS;
+        if (!register_class(c.clsid, progid(c), path, &libid)) return SELFREG_E_CLASS;
     }
+    for (std::size_t i = 0; i < kDataClassCount; ++i)
+        if (!register_class(kDataClasses[i].clsid, progid(kDataClasses[i]), path, nullptr)) return SELFREG_E_CLASS;
     return S_OK;
 }
 
 STDAPI DllUnregisterServer() {
     for (std::size_t i = 0; i < kClassCount; ++i) {
         const ClassEntry& c = kClasses[i];
-        if (!c.create) continue;
-        RegDeleteTreeW(HKEY_CLASSES_ROOT, (L"CLSID\\" + guid_text(c.clsid)).c_str());
-        RegDeleteTreeW(HKEY_CLASSES_ROOT, progid(c).c_str());
+        if (c.create) unregister_class(c.clsid, progid(c));
     }
+    for (std::size_t i = 0; i < kDataClassCount; ++i) unregister_class(kDataClasses[i].clsid, progid(kDataClasses[i]));
     ITypeLib* lib = type_library();
     if (!lib) return TYPE_E_CANTLOADLIBRARY;
     TLIBATTR* attr = nullptr;

@@ -4,7 +4,8 @@
 # width: registration, the scripting host's view of every class
 # (tests/com/generators.vbs, and examples/com/deuev-registration.vbs with a
 # VBScript class as its data object), every example's whole file and protocol through the
-# client compared byte for byte with `tamrel generate`, error and test-answer
+# client compared byte for byte with `tamrel generate` (with the client's own
+# data objects, and with TamrelObj26's), error and test-answer
 # replays against `tamrel call` (tests/com/replay.py), the log file, and
 # unregistration. Each run uses its own WINEPREFIX under build-com/ and ends
 # only its own wineserver. 32-bit wine is unpacked privately (never by
@@ -100,11 +101,12 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
     ours() {
       "$wine" regedit /E "$(win "$work/classes.reg")" HKEY_CLASSES_ROOT 2>/dev/null
       iconv -f UTF-16 -t UTF-8 "$work/classes.reg" | grep '^\[' |
-        grep -i -F -e TamrelFile26 $(grep -o -i -E '[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}' \
-          com/TamrelFile26.idl | sed 's/^/-e /') || true
+        grep -i -F -e TamrelFile26 -e TamrelObj26 $(grep -o -i -E '[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}' \
+          com/TamrelFile26.idl com/data_objects.cpp | sed 's/^[^:]*://; s/^/-e /') || true
     }
     registered=$(ours | wc -l)
-    ((registered >= 14 * 3 + 3)) || fail "$arch: only $registered keys registered"
+    # The generator classes (14) and the data objects (15), with their ProgIDs.
+    ((registered >= 14 * 3 + 3 + 15 * 6)) || fail "$arch: only $registered keys registered"
     export TAMREL_LOG
     TAMREL_LOG=$(win "$work/tamrel.log")
     "$wine" cscript //nologo "$(win "$PWD/tests/com/generators.vbs")" "$(win "$work/expected.txt")" 2>/dev/null |
@@ -135,8 +137,14 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       fi
       cmp -s "$work/$n.txt" "$work/$n.want" || fail "$arch: $n: the file differs from tamrel generate's"
       cmp -s "$work/$n.proto" "$work/$n.want-proto" || fail "$arch: $n: the protocol differs from tamrel generate's"
+      # The same reports in TamrelObj26's data objects, filled through IDispatch.
+      "$wine" "$work/com_client.exe" objects "$(win "$PWD/$ex")" "$(win "$work/$n.obj.txt")" \
+        "$(win "$work/$n.obj.proto")" || fail "$arch: $n: the client failed with data objects"
+      cmp -s "$work/$n.obj.txt" "$work/$n.want" || fail "$arch: $n: with data objects, the file differs"
+      cmp -s "$work/$n.obj.proto" "$work/$n.want-proto" || fail "$arch: $n: with data objects, the protocol differs"
     done
-    echo "com-test: $arch: $(ls examples/*.json | wc -l) example files and protocols identical to tamrel generate's"
+    echo "com-test: $arch: $(ls examples/*.json | wc -l) example files and protocols identical to tamrel generate's," \
+      "from the client's objects and from TamrelObj26's"
     python3 tests/com/replay.py build/tamrel "$work" "$wine" "$work/com_client.exe" || fail "$arch: replay failed"
     if [[ -n ${COM_BENCH:-} ]]; then
       "$wine" "$work/com_client.exe" bench "$(win "$PWD/examples/deuev-registration.json")" "$COM_BENCH" 2>/dev/null

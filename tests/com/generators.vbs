@@ -103,5 +103,52 @@ CheckEqual Err.Source, "objErst", "Nothing for the data object: source"
 Err.Clear
 On Error GoTo 0
 
+' The data objects of TamrelObj26: sub-objects from creation, indexed
+' properties, bounds and counts derived where not set, repeating groups,
+' Set, errors a script can catch, and a generator reading one.
+Dim m, v2, b, item
+Set m = CreateObject("TamrelObj26.Meldung")
+m.Vorgang.Familienname = "Muster"
+CheckEqual m.Vorgang.Familienname, "Muster", "a sub-object exists from creation"
+m.Vorgang.Arbeitgeber.Betriebsnummer = "98765432"
+CheckEqual m.vorgang.arbeitgeber.betriebsnummer, "98765432", "a sub-object's sub-object, names in any case"
+m.KsZeileA(3) = "AB"
+CheckEqual m.KsZeileA(3), "AB", "an indexed property keeps its entry"
+CheckEqual m.KsZeileA(1), "", "an entry not given reads empty"
+CheckEqual m.KsLetzter, 3, "a bound not set follows the list"
+m.KsLetzter = 12
+CheckEqual m.KsLetzter, 12, "a bound set stays"
+m.Laufnummer = "7"
+CheckEqual m.Laufnummer + 1, 8, "a number from a text"
+m.MitNamensdaten = True
+CheckEqual m.MitNamensdaten, True, "a flag"
+Set v2 = CreateObject("TamrelObj26.Vorgang")
+v2.Familienname = "Anders"
+Set m.Vorgang = v2
+CheckEqual m.Vorgang.Familienname, "Anders", "Set replaces a sub-object"
+On Error Resume Next
+Err.Clear
+m.Unbekannt = 1
+CheckEqual Err.Number, 438, "a property no data object has"
+Err.Clear
+Set m.Vorgang = CreateObject("TamrelObj26.Empfaenger")
+CheckEqual Err.Number, 13, "Set to an object of another kind"
+Err.Clear
+m.Laufnummer = "sieben"
+CheckEqual Err.Number, 13, "a number that is none"
+Err.Clear
+On Error GoTo 0
+Set b = CreateObject("TamrelObj26.ArbeitsBesch")
+Set item = b.AddDBSE()
+item.STKL = "3"
+b.AddDBSE().STKL = "4"
+CheckEqual b.AnzahlDBSE, 2, "a group's count follows its items"
+CheckEqual b.DBSE(2).STKL, "4", "a group's item by its number"
+b.ClearDBSE
+CheckEqual b.AnzahlDBSE, 0, "a group cleared"
+m.Meldegrund = "10"
+r = p.CreateProtoMeld(m, False, "")
+Check InStr(r, "Anders") > 0, "the protocol line of a data object: " & r
+
 WScript.Echo passed & " passed, " & failed & " failed"
 WScript.Echo "END OF GENERATOR TESTS"

@@ -5,6 +5,8 @@
 //                                         LF) and one protocol line per report
 //   com_client data JOB                   each report's GenData as one JSON
 //                                         line: result, or error and log lines
+//   com_client objects JOB OUT PROTOCOL   as generate, with each report in a
+//                                         data object of TamrelObj26
 //   com_client bench JOB N                N calls of GenData with the first
 //                                         report, as reports per second
 #include <cstdio>
@@ -18,6 +20,7 @@
 #include "TamrelFile26.h"
 #include "com/com_text.h"
 #include "json_object.h"
+#include "own_object.h"
 
 using namespace client;
 using tamrel::com::bstr;
@@ -241,16 +244,19 @@ void write_lines(const std::string& path, const std::vector<std::string>& lines)
     if (!out) throw std::runtime_error(path + ": cannot be written");
 }
 
+// A report as the host's own object, or as a data object of TamrelObj26
+// of the class's kind ("clsGenMeldung": Meldung).
 struct Object {
     IDispatch* d;
     explicit Object(const json& report) : d(new JsonObject(report)) {}
+    Object(const json& report, const std::string& cls) : d(own_object(cls.substr(6), report)) {}
     ~Object() { d->Release(); }
     Object(const Object&) = delete;
     Object& operator=(const Object&) = delete;
 };
 
 template <class Itf>
-void generate(const json& job, const std::string& cls, const std::string& out, const std::string& proto) {
+void generate(const json& job, const std::string& cls, const std::string& out, const std::string& proto, bool own) {
     Generator<Itf> g(job, cls);
     const bool xml = cls == "clsGenAsyl";
     std::vector<std::string> file, protocol;
@@ -263,7 +269,7 @@ void generate(const json& job, const std::string& cls, const std::string& out, c
     const auto method = kProto.find(cls);
     _clsProtoEntry* p = method == kProto.end() ? nullptr : create<_clsProtoEntry>("clsProtoEntry");
     for (const json& report : job.at("reports")) {
-        const Object obj(report);
+        const Object obj = own ? Object(report, cls) : Object(report);
         file.push_back(g.data(obj.d));
         if (!p) continue;
         Text none(""), line;
@@ -330,8 +336,8 @@ void bench(const json& job, const std::string& cls, const std::string& count) {
 template <class Itf>
 void run(const std::string& mode, const json& job, const std::string& cls, const std::vector<std::string>& args) {
     const std::string a = args.size() > 2 ? args[2] : "", b = args.size() > 3 ? args[3] : "";
-    if (mode == "generate")
-        generate<Itf>(job, cls, a, b);
+    if (mode == "generate" || mode == "objects")
+        generate<Itf>(job, cls, a, b, mode == "objects");
     else if (mode == "data")
         data<Itf>(job, cls);
     else
@@ -364,7 +370,7 @@ json read_json(const std::string& path) {
 int main(int argc, char** argv) {
     const std::vector<std::string> args(argv + 1, argv + argc);
     if (args.size() < 2) {
-        std::fprintf(stderr, "usage: com_client generate JOB OUT PROTOCOL | data JOB | bench JOB N\n");
+        std::fprintf(stderr, "usage: com_client generate|objects JOB OUT PROTOCOL | data JOB | bench JOB N\n");
         return 2;
     }
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);

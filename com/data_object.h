@@ -1,0 +1,385 @@
+// The creatable data objects of TamrelObj26: one automation object over a
+// data object of the record library, its properties found in the same
+// property table that the JSON and late-bound readers walk. Texts, numbers
+// and flags are read and written as Variants; an indexed property takes its
+// index; a sub-object exists from creation and is replaced with `Set`; a
+// repeating group gives its items by index, its count under the reader's
+// count name, and `Add<group>` / `Clear<group>`. The generators take the
+// C++ object behind it through a private interface, without a call per
+// property.
+#pragma once
+#include <windows.h>  // first: the other system headers build on it
+
+#include <oleauto.h>
+
+#include <atomic>
+#include <bitset>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <typeinfo>
+#include <vector>
+
+#include "com/com_text.h"
+#include "com/dispatch_reader.h"
+#include "core/indexed.h"
+#include "core/property_table.h"
+
+namespace tamrel::com {
+
+extern std::atomic<long> g_live;
+
+// The private interface of the data objects: the record library's object
+// behind one, current with its sub-objects; nullptr for another type.
+extern const IID IID_ITamrelData;
+class ITamrelData : public IUnknown {
+public:
+    virtual const void* STDMETHODCALLTYPE data(const std::type_info& type) = 0;
+};
+
+// The record library's object behind `object` where it is one of these
+// data objects of type `T`, else nullptr.
+template <class T>
+const T* own_data(IDispatch* object) {
+    ITamrelData* own = nullptr;
+    if (!object || FAILED(object->QueryInterface(IID_ITamrelData, reinterpret_cast<void**>(&own)))) return nullptr;
+    const void* d = own->data(typeid(T));
+    own->Release();
+    return static_cast<const T*>(d);
+}
+
+namespace objects {
+
+bool same_name(std::wstring_view a, std::string_view b);
+// The Variant as a text, flag or number of the property's type; false where
+// it cannot be one.
+bool take(const VARIANT& v, std::string& out);
+bool take(const VARIANT& v, bool& out);
+bool take(const VARIANT& v, std::int64_t& out);
+void give(const std::string& v, VARIANT& out);
+void give(bool v, VARIANT& out);
+void give(std::int64_t v, VARIANT& out);
+
+template <class M>
+constexpr bool is_vector = false;
+template <class M>
+constexpr bool is_vector<std::vector<M>> = true;
+template <class M>
+constexpr bool is_indexed = false;
+template <class M>
+constexpr bool is_indexed<Indexed<M>> = true;
+
+// The extra names of a repeating group, after the table's properties.
+enum Extra : DISPID { kCount = 0, kAdd = 1, kClear = 2 };
+constexpr DISPID kExtraBase = 10000;
+// A property spelt with a prefix ("AngFmna"): its group's field and its
+// place in the nested type's table.
+constexpr DISPID kPrefixBase = 100000;
+constexpr DISPID prefixed_id(std::size_t field, std::size_t inner) {
+    return kPrefixBase + static_cast<DISPID>(field) * 256 + static_cast<DISPID>(inner);
+}
+constexpr DISPID extra_id(std::size_t field, Extra e) { return kExtraBase + static_cast<DISPID>(field) * 3 + e; }
+
+}  // namespace objects
+
+template <properties::Bound T>
+class DataObject final : public IDispatch, public ITamrelData {
+    using Fields = decltype(properties::Binding<T>::fields);
+    static constexpr std::size_t kFields = std::tuple_size_v<Fields>;
+
+public:
+    DataObject() {
+        ++g_live;
+        each([&](std::size_t k, const auto& f) {
+            using M = std::remove_reference_t<decltype(data_.*(f.member))>;
+            if constexpr (properties::Bound<M>) children_[k] = new DataObject<M>();
+        });
+    }
+    ~DataObject() {
+        for (IDispatch* c : children_)
+            if (c) c->Release();
+        for (auto& list : items_)
+            for (IDispatch* c : list) c->Release();
+        --g_live;
+    }
+
+    // IUnknown
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
+        if (!out) return E_POINTER;
+        if (iid == IID_IUnknown || iid == IID_IDispatch) {
+            *out = static_cast<IDispatch*>(this);
+        } else if (iid == IID_ITamrelData) {
+            *out = static_cast<ITamrelData*>(this);
+        } else {
+            *out = nullptr;
+            return E_NOINTERFACE;
+        }
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG n = --refs_;
+        if (n == 0) delete this;
+        return n;
+    }
+
+    // IDispatch: late binding only (no type information yet).
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* n) override {
+        if (!n) return E_POINTER;
+        *n = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** out) override {
+        if (out) *out = nullptr;
+        return DISP_E_BADINDEX;
+    }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        if (!names || !ids) return E_POINTER;
+        for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
+        if (count == 0) return S_OK;
+        ids[0] = id_of(names[0]);
+        return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
+                                     EXCEPINFO*, UINT* arg_err) override {
+        if (!params) return E_POINTER;
+        if (arg_err) *arg_err = 0;
+        const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+        // A put's value comes first; the index arguments follow, last one first.
+        const UINT given = params->cArgs;
+        const VARIANT* value = put && given > 0 ? &deref(params->rgvarg[0]) : nullptr;
+        const UINT indices = put ? (given > 0 ? given - 1 : 0) : given;
+        if (put && !value) return DISP_E_PARAMNOTOPTIONAL;
+        if (indices > 1) return DISP_E_BADPARAMCOUNT;
+        std::int64_t index = 0;
+        if (indices == 1 && !objects::take(deref(params->rgvarg[given - 1]), index)) return DISP_E_TYPEMISMATCH;
+        VARIANT ignored;
+        VariantInit(&ignored);
+        VARIANT& out = result ? *result : ignored;
+        VariantInit(&out);
+        HRESULT hr = DISP_E_MEMBERNOTFOUND;
+        if (id >= objects::kPrefixBase) {
+            const auto k = static_cast<std::size_t>((id - objects::kPrefixBase) / 256);
+            const auto j = static_cast<std::size_t>((id - objects::kPrefixBase) % 256);
+            each_field([&](std::size_t i, const auto& e) {
+                if constexpr (requires { e.prefix; }) {
+                    if (i != k) return;
+                    auto& nested = data_.*(e.member);
+                    std::size_t n = 0;
+                    std::apply(
+                        [&](const auto&... g) {
+                            ((n++ == j ? (hr = member(k, nested.*(g.member), put, value, indices, index, out)) : hr),
+                             ...);
+                        },
+                        properties::Binding<std::remove_reference_t<decltype(nested)>>::fields);
+                }
+            });
+        } else if (id >= objects::kExtraBase) {
+            const auto k = static_cast<std::size_t>((id - objects::kExtraBase) / 3);
+            const auto e = static_cast<objects::Extra>((id - objects::kExtraBase) % 3);
+            hr = group_extra(k, e, put, out);
+        } else if (id >= 1 && static_cast<std::size_t>(id) <= kFields) {
+            if (!put) current();  // a derived bound or count reads as it is derived
+            each([&](std::size_t k, const auto& f) {
+                if (k + 1 == static_cast<std::size_t>(id))
+                    hr = member(k, data_.*(f.member), put, value, indices, index, out);
+            });
+            if (put && SUCCEEDED(hr)) put_[static_cast<std::size_t>(id - 1)] = true;
+        }
+        VariantClear(&ignored);
+        return hr;
+    }
+
+    // ITamrelData
+    const void* STDMETHODCALLTYPE data(const std::type_info& type) override {
+        if (type != typeid(T)) return nullptr;
+        return &current();
+    }
+
+    // The object with what its sub-objects and items hold now, and what a
+    // report's JSON leaves to be derived (bounds, counts) derived the same
+    // way where the host did not set it.
+    const T& current() {
+        each([&](std::size_t k, const auto& f) {
+            auto& m = data_.*(f.member);
+            using M = std::remove_reference_t<decltype(m)>;
+            if constexpr (properties::Bound<M>) {
+                m = static_cast<DataObject<M>*>(children_[k])->current();
+            } else if constexpr (objects::is_vector<M>) {
+                using Item = typename M::value_type;
+                m.resize(items_[k].size());
+                for (std::size_t i = 0; i < m.size(); ++i)
+                    m[i] = static_cast<DataObject<Item>*>(items_[k][i])->current();
+            }
+        });
+        if constexpr (requires { properties::Binding<T>::finish(data_, *this); })
+            properties::Binding<T>::finish(data_, *this);
+        return data_;
+    }
+    // Whether the host set the property `name` (for the derivation above).
+    bool has(std::string_view name) const {
+        bool set = false;
+        each_field([&](std::size_t k, const auto& e) {
+            if constexpr (requires { e.name; })
+                if (e.name == name) set = put_[k];
+        });
+        return set;
+    }
+
+private:
+    template <class F>
+    static void each_field(F&& f) {
+        std::size_t k = 0;
+        std::apply([&](const auto&... e) { (f(k++, e), ...); }, properties::Binding<T>::fields);
+    }
+    template <class F>
+    void each(F&& f) {
+        each_field([&](std::size_t k, const auto& e) {
+            if constexpr (requires { e.name; }) f(k, e);  // a prefix group is reached by its own ids
+        });
+    }
+
+    static DISPID id_of(const wchar_t* name) {
+        const std::wstring_view n(name);
+        DISPID found = DISPID_UNKNOWN;
+        each_field([&](std::size_t k, const auto& e) {
+            if constexpr (requires { e.prefix; }) {
+                using M = std::remove_reference_t<decltype(std::declval<T&>().*(e.member))>;
+                if (found != DISPID_UNKNOWN || n.size() < e.prefix.size() ||
+                    !objects::same_name(n.substr(0, e.prefix.size()), e.prefix))
+                    return;
+                std::size_t j = 0;
+                std::apply(
+                    [&](const auto&... g) {
+                        ((objects::same_name(n.substr(e.prefix.size()), g.name)
+                              ? void(found = objects::prefixed_id(k, j))
+                              : void(),
+                          ++j),
+                         ...);
+                    },
+                    properties::Binding<M>::fields);
+            } else {
+                using M = std::remove_reference_t<decltype(std::declval<T&>().*(e.member))>;
+                if (found != DISPID_UNKNOWN) return;
+                if (objects::same_name(n, e.name)) found = static_cast<DISPID>(k + 1);
+                if constexpr (objects::is_vector<M>) {
+                    if (objects::same_name(n, reading::count_name(e.name)))
+                        found = objects::extra_id(k, objects::kCount);
+                    else if (objects::same_name(n, "Add" + std::string(e.name)))
+                        found = objects::extra_id(k, objects::kAdd);
+                    else if (objects::same_name(n, "Clear" + std::string(e.name)))
+                        found = objects::extra_id(k, objects::kClear);
+                }
+            }
+        });
+        return found;
+    }
+
+    template <class M>
+    HRESULT member(std::size_t k, M& m, bool put, const VARIANT* value, UINT indices, std::int64_t index,
+                   VARIANT& out) {
+        if constexpr (properties::Bound<M>) {
+            if (indices) return DISP_E_BADPARAMCOUNT;
+            if (!put) {
+                children_[k]->AddRef();
+                V_VT(&out) = VT_DISPATCH;
+                V_DISPATCH(&out) = children_[k];
+                return S_OK;
+            }
+            // `Set` to another object of the same kind: it becomes the sub-object.
+            IDispatch* other = V_VT(value) == VT_DISPATCH ? V_DISPATCH(value) : nullptr;
+            if (!own_data<M>(other)) return DISP_E_TYPEMISMATCH;
+            other->AddRef();
+            children_[k]->Release();
+            children_[k] = other;
+            return S_OK;
+        } else if constexpr (objects::is_vector<M>) {
+            if (put || indices != 1) return DISP_E_BADPARAMCOUNT;
+            if (index < 1 || static_cast<std::size_t>(index) > items_[k].size()) return DISP_E_BADINDEX;
+            IDispatch* item = items_[k][static_cast<std::size_t>(index - 1)];
+            item->AddRef();
+            V_VT(&out) = VT_DISPATCH;
+            V_DISPATCH(&out) = item;
+            return S_OK;
+        } else if constexpr (objects::is_indexed<M>) {
+            if (indices != 1) return DISP_E_BADPARAMCOUNT;
+            if (index < std::numeric_limits<std::int16_t>::min() || index > std::numeric_limits<std::int16_t>::max())
+                return DISP_E_BADINDEX;
+            const auto i = static_cast<std::int16_t>(index);
+            using E = std::remove_cvref_t<decltype(m(i))>;
+            if (!put) return give_value(static_cast<E>(m(i)), out);
+            E v{};
+            if (!take_value(*value, v)) return DISP_E_TYPEMISMATCH;
+            m.set(i, std::move(v));
+            return S_OK;
+        } else {
+            if (indices) return DISP_E_BADPARAMCOUNT;
+            if (!put) return give_value(m, out);
+            return take_value(*value, m) ? S_OK : DISP_E_TYPEMISMATCH;
+        }
+    }
+
+    HRESULT group_extra(std::size_t k, objects::Extra e, bool put, VARIANT& out) {
+        HRESULT hr = DISP_E_MEMBERNOTFOUND;
+        each([&](std::size_t i, const auto& f) {
+            using M = std::remove_reference_t<decltype(data_.*(f.member))>;
+            if constexpr (objects::is_vector<M>) {
+                if (i != k) return;
+                using Item = typename M::value_type;
+                auto& list = items_[k];
+                if (e == objects::kCount) {
+                    hr = put ? DISP_E_MEMBERNOTFOUND : give_value(static_cast<std::int64_t>(list.size()), out);
+                } else if (e == objects::kAdd) {
+                    list.push_back(new DataObject<Item>());
+                    list.back()->AddRef();
+                    V_VT(&out) = VT_DISPATCH;
+                    V_DISPATCH(&out) = list.back();
+                    hr = S_OK;
+                } else {
+                    for (IDispatch* c : list) c->Release();
+                    list.clear();
+                    hr = S_OK;
+                }
+            }
+        });
+        return hr;
+    }
+
+    template <class V>
+    static HRESULT give_value(const V& v, VARIANT& out) {
+        if constexpr (std::is_same_v<V, std::string> || std::is_same_v<V, bool>) {
+            objects::give(v, out);
+        } else if constexpr (std::is_integral_v<V>) {
+            objects::give(static_cast<std::int64_t>(v), out);
+        } else {
+            return DISP_E_MEMBERNOTFOUND;
+        }
+        return S_OK;
+    }
+    template <class V>
+    static bool take_value(const VARIANT& value, V& out) {
+        if constexpr (std::is_same_v<V, std::string> || std::is_same_v<V, bool>) {
+            return objects::take(value, out);
+        } else if constexpr (std::is_integral_v<V>) {
+            std::int64_t x = 0;
+            if (!objects::take(value, x) || x < std::numeric_limits<V>::min() || x > std::numeric_limits<V>::max())
+                return false;
+            out = static_cast<V>(x);
+            return true;
+        } else {
+            return false;
+        }
+    }
+
+    T data_{};
+    IDispatch* children_[kFields] = {};            // the sub-objects, by field
+    std::vector<IDispatch*> items_[kFields] = {};  // the items of the repeating groups, by field
+    std::bitset<kFields> put_;                     // the properties the host set
+    std::atomic<ULONG> refs_{1};
+};
+
+}  // namespace tamrel::com
