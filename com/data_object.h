@@ -141,11 +141,35 @@ public:
         if (!names || !ids) return E_POINTER;
         for (UINT i = 0; i < count; ++i) ids[i] = DISPID_UNKNOWN;
         if (count == 0) return S_OK;
-        ids[0] = id_of(names[0]);
-        return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
+        return no_throw([&] {
+            ids[0] = id_of(names[0]);
+            return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
+        });
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
                                      EXCEPINFO*, UINT* arg_err) override {
+        return no_throw([&] { return invoke(id, flags, params, result, arg_err); });
+    }
+
+    // ITamrelData
+    const void* STDMETHODCALLTYPE data(const std::type_info& type) override {
+        if (type != typeid(T)) return nullptr;
+        return &current();
+    }
+
+private:
+    // Nothing thrown crosses to the host: a text or object that cannot be
+    // made is E_OUTOFMEMORY.
+    template <class F>
+    static HRESULT no_throw(F&& f) noexcept {
+        try {
+            return f();
+        } catch (...) {
+            return E_OUTOFMEMORY;
+        }
+    }
+
+    HRESULT invoke(DISPID id, WORD flags, DISPPARAMS* params, VARIANT* result, UINT* arg_err) {
         if (!params) return E_POINTER;
         if (arg_err) *arg_err = 0;
         const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
@@ -194,12 +218,7 @@ public:
         return hr;
     }
 
-    // ITamrelData
-    const void* STDMETHODCALLTYPE data(const std::type_info& type) override {
-        if (type != typeid(T)) return nullptr;
-        return &current();
-    }
-
+public:
     // The object with what its sub-objects and items hold now, and what a
     // report's JSON leaves to be derived (bounds, counts) derived the same
     // way where the host did not set it.
