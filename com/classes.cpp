@@ -123,8 +123,9 @@ public:
     HRESULT STDMETHODCALLTYPE GenData(IDispatch* obj, BSTR ab, BSTR st, BSTR version, BSTR micro, VARIANT date,
                                       BSTR* result) override {
         return returning(result, [&] {
-            const BeitrNachw o = read_data_object<BeitrNachw>(obj, "objBeitrNachw");
-            return gen_.GenData(o, utf8(ab), utf8(st), utf8(version), utf8(micro), date_arg(date));
+            return with_data_object<BeitrNachw>(obj, "objBeitrNachw", [&](const BeitrNachw& o) {
+                return gen_.GenData(o, utf8(ab), utf8(st), utf8(version), utf8(micro), date_arg(date));
+            });
         });
     }
     HRESULT STDMETHODCALLTYPE GenNCSZ(BSTR a, BSTR e, BSTR f, BSTR count, LONG enm, VARIANT date,
@@ -160,8 +161,8 @@ class ProtoEntry_ : public Dual<_clsProtoEntry> {
     template <class Obj, class Method>
     HRESULT line(IDispatch* obj, const char* name, VARIANT_BOOL error, BSTR text, BSTR* result, Method method) {
         return returning(result, [&] {
-            const Obj o = read_data_object<Obj>(obj, name);
-            return (proto_.*method)(o, error != VARIANT_FALSE, utf8(text));
+            return with_data_object<Obj>(
+                obj, name, [&](const Obj& o) { return (proto_.*method)(o, error != VARIANT_FALSE, utf8(text)); });
         });
     }
 

@@ -12,6 +12,7 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <atomic>
 #include <bitset>
 #include <cstdint>
@@ -83,6 +84,13 @@ constexpr DISPID prefixed_id(std::size_t field, std::size_t inner) {
 }
 constexpr DISPID extra_id(std::size_t field, Extra e) { return kExtraBase + static_cast<DISPID>(field) * 3 + e; }
 
+// When a data object was last changed: a count over all of them, so that an
+// object knows whether its copy of its sub-objects is still current.
+inline std::uint64_t next_stamp() {
+    static std::atomic<std::uint64_t> stamps{0};
+    return ++stamps;
+}
+
 }  // namespace objects
 
 template <properties::Bound T>
@@ -91,7 +99,7 @@ class DataObject final : public IDispatch, public ITamrelData {
     static constexpr std::size_t kFields = std::tuple_size_v<Fields>;
 
 public:
-    DataObject() {
+    DataObject() : stamp_(objects::next_stamp()) {
         ++g_live;
         each([&](std::size_t k, const auto& f) {
             using M = std::remove_reference_t<decltype(data_.*(f.member))>;
@@ -215,6 +223,7 @@ private:
             if (put && SUCCEEDED(hr)) put_[static_cast<std::size_t>(id - 1)] = true;
         }
         VariantClear(&ignored);
+        if (SUCCEEDED(hr) && (put || id >= objects::kExtraBase)) stamp_ = objects::next_stamp();
         return hr;
     }
 
@@ -223,6 +232,9 @@ public:
     // report's JSON leaves to be derived (bounds, counts) derived the same
     // way where the host did not set it.
     const T& current() {
+        const std::uint64_t now = newest();
+        if (now == synced_) return data_;  // a filled object passed again and again is copied once
+        synced_ = now;
         each([&](std::size_t k, const auto& f) {
             auto& m = data_.*(f.member);
             using M = std::remove_reference_t<decltype(m)>;
@@ -238,6 +250,20 @@ public:
         if constexpr (requires { properties::Binding<T>::finish(data_, *this); })
             properties::Binding<T>::finish(data_, *this);
         return data_;
+    }
+    // The newest change to the object, its sub-objects and its items.
+    std::uint64_t newest() {
+        std::uint64_t n = stamp_;
+        each([&](std::size_t k, const auto& f) {
+            using M = std::remove_reference_t<decltype(data_.*(f.member))>;
+            if constexpr (properties::Bound<M>) {
+                n = std::max(n, static_cast<DataObject<M>*>(children_[k])->newest());
+            } else if constexpr (objects::is_vector<M>) {
+                for (IDispatch* item : items_[k])
+                    n = std::max(n, static_cast<DataObject<typename M::value_type>*>(item)->newest());
+            }
+        });
+        return n;
     }
     // Whether the host set the property `name` (for the derivation above).
     bool has(std::string_view name) const {
@@ -398,6 +424,8 @@ private:
     IDispatch* children_[kFields] = {};            // the sub-objects, by field
     std::vector<IDispatch*> items_[kFields] = {};  // the items of the repeating groups, by field
     std::bitset<kFields> put_;                     // the properties the host set
+    std::uint64_t stamp_;                          // the host's last change to the object itself
+    std::uint64_t synced_ = 0;                     // the newest change data_ holds
     std::atomic<ULONG> refs_{1};
 };
 

@@ -26,13 +26,11 @@ HRESULT returning(BSTR* result, Make&& make) noexcept {
     });
 }
 
-// The host's data object read into the library's: one of TamrelObj26's
-// taken as it is, any other automation object read property by property.
-// A failing read logs one line naming the object and raises the object's
+// The host's data object read into the library's, property by property. A
+// failing read logs one line naming the object and raises the object's
 // error unchanged.
 template <class Obj>
 Obj read_data_object(IDispatch* object, const char* name) {
-    if (const Obj* own = own_data<Obj>(object)) return *own;
     HostScope scope(server_host());
     return routine(name, [&](int&) {
         // VB's error 91: an object argument that is Nothing.
@@ -41,6 +39,15 @@ Obj read_data_object(IDispatch* object, const char* name) {
         read_object(object, o, name);
         return o;
     });
+}
+
+// Calls `use` with the host's data object as the library's: one of
+// TamrelObj26's as it stands, without a copy; any other automation object
+// read property by property.
+template <class Obj, class Use>
+auto with_data_object(IDispatch* object, const char* name, Use&& use) {
+    if (const Obj* own = own_data<Obj>(object)) return use(*own);
+    return use(read_data_object<Obj>(object, name));
 }
 
 // The frame methods of a generator with the common parameter lists (and
@@ -70,9 +77,9 @@ template <class Obj, class Gen, class... Extra>
 std::string data(Gen& g, IDispatch* object, const char* name, ::DatensatzData* udt, const VARIANT& date,
                  Extra... extra) {
     if (!udt) fail_with(E_POINTER);
-    const Obj o = read_data_object<Obj>(object, name);
     DatensatzData dd = from_com(*udt);
-    std::string r = g.GenData(o, dd, extra..., date_arg(date));
+    std::string r =
+        with_data_object<Obj>(object, name, [&](const Obj& o) { return g.GenData(o, dd, extra..., date_arg(date)); });
     to_com(dd, *udt);
     return r;
 }

@@ -147,7 +147,9 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       "from the client's objects and from TamrelObj26's"
     python3 tests/com/replay.py build/tamrel "$work" "$wine" "$work/com_client.exe" || fail "$arch: replay failed"
     if [[ -n ${COM_BENCH:-} ]]; then
-      "$wine" "$work/com_client.exe" bench "$(win "$PWD/examples/deuev-registration.json")" "$COM_BENCH" 2>/dev/null
+      for mode in bench bench-objects; do
+        "$wine" "$work/com_client.exe" $mode "$(win "$PWD/examples/deuev-registration.json")" "$COM_BENCH" 2>/dev/null
+      done
     fi
 
     "$wine" regsvr32 /s /u "$(win "$work/TamrelFile26.dll")" 2>/dev/null || fail "$arch: regsvr32 /u failed"

@@ -9,6 +9,8 @@
 //                                         data object of TamrelObj26
 //   com_client bench JOB N                N calls of GenData with the first
 //                                         report, as reports per second
+//   com_client bench-objects JOB N        the same with a data object of
+//                                         TamrelObj26, filled once
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -319,9 +321,10 @@ void data(const json& job, const std::string& cls) {
 }
 
 template <class Itf>
-void bench(const json& job, const std::string& cls, const std::string& count) {
+void bench(const json& job, const std::string& cls, const std::string& count, bool own) {
     Generator<Itf> g(job, cls);
-    const Object obj(job.at("reports").at(0));
+    const json& report = job.at("reports").at(0);
+    const Object obj = own ? Object(report, cls) : Object(report);
     const long n = std::stol(count);
     LARGE_INTEGER f, t0, t1;
     QueryPerformanceFrequency(&f);
@@ -341,7 +344,7 @@ void run(const std::string& mode, const json& job, const std::string& cls, const
     else if (mode == "data")
         data<Itf>(job, cls);
     else
-        bench<Itf>(job, cls, a);
+        bench<Itf>(job, cls, a, mode == "bench-objects");
 }
 using Runner = void (*)(const std::string&, const json&, const std::string&, const std::vector<std::string>&);
 const std::map<std::string, Runner> kRunners = {
@@ -370,7 +373,8 @@ json read_json(const std::string& path) {
 int main(int argc, char** argv) {
     const std::vector<std::string> args(argv + 1, argv + argc);
     if (args.size() < 2) {
-        std::fprintf(stderr, "usage: com_client generate|objects JOB OUT PROTOCOL | data JOB | bench JOB N\n");
+        std::fprintf(stderr,
+                     "usage: com_client generate|objects JOB OUT PROTOCOL | data JOB | bench|bench-objects JOB N\n");
         return 2;
     }
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
