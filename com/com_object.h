@@ -7,8 +7,10 @@
 #include <oaidl.h>
 
 #include <atomic>
+#include <new>
 
 #include "TamrelFile26.h"
+#include "com/structure_args.h"
 
 namespace tamrel::com {
 
@@ -69,6 +71,13 @@ public:
                                      EXCEPINFO* excep, UINT* arg_err) override {
         ITypeInfo* info = type_info(__uuidof(Itf));
         if (!info) return TYPE_E_ELEMENTNOTFOUND;
+        try {
+            StructureArgs structures(params);  // a structure given as its object
+            if (structures.any() && (flags & DISPATCH_METHOD))
+                return structures.call(info, static_cast<Itf*>(this), id, result, excep);
+        } catch (const std::bad_alloc&) {
+            return E_OUTOFMEMORY;
+        }
         return info->Invoke(static_cast<Itf*>(this), id, flags, params, result, excep, arg_err);
     }
 

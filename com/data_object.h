@@ -39,6 +39,9 @@ extern const IID IID_ITamrelData;
 class ITamrelData : public IUnknown {
 public:
     virtual const void* STDMETHODCALLTYPE data(const std::type_info& type) = 0;
+    // Takes `value` (a `type`) as the object's data: a structure written
+    // back after a call.
+    virtual void STDMETHODCALLTYPE replace(const std::type_info& type, const void* value) = 0;
 };
 
 // The record library's object behind `object` where it is one of these
@@ -50,6 +53,15 @@ const T* own_data(IDispatch* object) {
     const void* d = own->data(typeid(T));
     own->Release();
     return static_cast<const T*>(d);
+}
+
+// Writes `value` into `object`, one of these data objects of type `T`.
+template <class T>
+void replace_data(IDispatch* object, const T& value) {
+    ITamrelData* own = nullptr;
+    if (!object || FAILED(object->QueryInterface(IID_ITamrelData, reinterpret_cast<void**>(&own)))) return;
+    own->replace(typeid(T), &value);
+    own->Release();
 }
 
 namespace objects {
@@ -163,6 +175,11 @@ public:
     const void* STDMETHODCALLTYPE data(const std::type_info& type) override {
         if (type != typeid(T)) return nullptr;
         return &current();
+    }
+    void STDMETHODCALLTYPE replace(const std::type_info& type, const void* value) override {
+        if (type != typeid(T)) return;
+        data_ = *static_cast<const T*>(value);  // sub-objects and items stay what their objects hold
+        stamp_ = objects::next_stamp();
     }
 
 private:

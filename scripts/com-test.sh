@@ -105,8 +105,8 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
           com/TamrelFile26.idl com/data_objects.cpp | sed 's/^[^:]*://; s/^/-e /') || true
     }
     registered=$(ours | wc -l)
-    # The generator classes (14) and the data objects (15), with their ProgIDs.
-    ((registered >= 14 * 3 + 3 + 15 * 6)) || fail "$arch: only $registered keys registered"
+    # The generator classes (14) and the data objects (17), with their ProgIDs.
+    ((registered >= 14 * 3 + 3 + 17 * 6)) || fail "$arch: only $registered keys registered"
     export TAMREL_LOG
     TAMREL_LOG=$(win "$work/tamrel.log")
     "$wine" cscript //nologo "$(win "$PWD/tests/com/generators.vbs")" "$(win "$work/expected.txt")" 2>/dev/null |
@@ -122,6 +122,8 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       >"$work/example.out"
     grep -q '^error 91 (objMeldung): Objektvariable nicht festgelegt$' "$work/example.out" ||
       fail "$arch: examples/com/deuev-registration.vbs did not run to its end"
+    grep -q '^DSMEDEUEV98765432' "$work/example.out" ||
+      fail "$arch: examples/com/deuev-registration.vbs wrote no DSME record"
 
     # Every example's whole file and protocol, through the vtable.
     local n ex

@@ -149,6 +149,34 @@ CheckEqual b.AnzahlDBSE, 0, "a group cleared"
 m.Meldegrund = "10"
 r = p.CreateProtoMeld(m, False, "")
 Check InStr(r, "Anders") > 0, "the protocol line of a data object: " & r
+v2.Familienname = "Zweiter"
+r = p.CreateProtoMeld(m, False, "")
+Check InStr(r, "Zweiter") > 0, "a sub-object changed after a use, through another reference: " & r
+
+' A whole file from a script: the structures given as TamrelObj26 objects
+' where the methods take them (frames.ndjson's lines 6 to 8).
+Dim k, dd, m2, gm, gb
+Set k = CreateObject("TamrelObj26.DSKOData")
+k.strBNRAb = "98765432"
+k.strBNREm = "12345671"
+k.strMicroSec = "12"
+k.strName1 = "Muster GmbH"
+Set gm = CreateObject("TamrelFile26.clsGenMeldung")
+CheckEqual gm.GenDSKO(k, stamp), expected("6"), "GenDSKO with a DSKOData object"
+Set dd = CreateObject("TamrelObj26.DatensatzData")
+dd.strBNRAb = "98765432"
+dd.strVersion = "V1"
+Set m2 = CreateObject("TamrelObj26.Meldung")
+m2.Meldegrund = "10"
+m2.Laufnummer = 1
+m2.Vorgang.Versicherungsnummer = "65170839J003"
+m2.Vorgang.Familienname = "Muster"
+m2.Empfaenger.Betriebsnummer = "12345671"
+CheckEqual gm.GenData(m2, dd, 0, stamp), expected("7"), "GenData with a DatensatzData object"
+Set gb = CreateObject("TamrelFile26.clsGenBeitrNachw")
+k.strMicroSec = ""
+k.strName1 = expected("firma3")
+CheckEqual gb.GenDSKO(k, 1, stamp), expected("8"), "GenDSKO with a number before the date"
 
 WScript.Echo passed & " passed, " & failed & " failed"
 WScript.Echo "END OF GENERATOR TESTS"
