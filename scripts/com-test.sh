@@ -5,7 +5,8 @@
 # (tests/com/generators.vbs, and examples/com/deuev-registration.vbs with a
 # VBScript class as its data object), every example's whole file and protocol through the
 # client compared byte for byte with `tamrel generate` (with the client's own
-# data objects, and with TamrelObj26's), error and test-answer
+# data objects, and with TamrelObj26's), every example's file from a VBScript
+# with TamrelObj26's objects (tests/com/job_to_vbs.py), error and test-answer
 # replays against `tamrel call` (tests/com/replay.py), the log file, and
 # unregistration. Each run uses its own WINEPREFIX under build-com/ and ends
 # only its own wineserver. 32-bit wine is unpacked privately (never by
@@ -144,9 +145,16 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
         "$(win "$work/$n.obj.proto")" || fail "$arch: $n: the client failed with data objects"
       cmp -s "$work/$n.obj.txt" "$work/$n.want" || fail "$arch: $n: with data objects, the file differs"
       cmp -s "$work/$n.obj.proto" "$work/$n.want-proto" || fail "$arch: $n: with data objects, the protocol differs"
+      # The whole file again from a script with no class of its own, every call late bound.
+      python3 tests/com/job_to_vbs.py "$ex" >"$work/$n.vbs"
+      TAMREL_NOW=$(python3 -c 'import json, sys; print(json.load(open(sys.argv[1])).get("now", ""))' "$ex") \
+        "$wine" cscript //nologo "$(win "$work/$n.vbs")" "$(win "$work/$n.vbs.out")" 2>/dev/null | tr -d '\r' |
+        grep -q "^END OF FILE$" || fail "$arch: $n: the script did not run to its end"
+      iconv -f UTF-16 -t ISO-8859-1 "$work/$n.vbs.out" | tr -d '\r' | cmp -s - "$work/$n.want" ||
+        fail "$arch: $n: from a script, the file differs"
     done
     echo "com-test: $arch: $(ls examples/*.json | wc -l) example files and protocols identical to tamrel generate's," \
-      "from the client's objects and from TamrelObj26's"
+      "from the client's objects and from TamrelObj26's, and the files from VBScript"
     python3 tests/com/replay.py build/tamrel "$work" "$wine" "$work/com_client.exe" || fail "$arch: replay failed"
     if [[ -n ${COM_BENCH:-} ]]; then
       for mode in bench bench-objects; do
