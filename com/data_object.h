@@ -28,6 +28,8 @@
 #include "com/dispatch_reader.h"
 #include "core/indexed.h"
 #include "core/property_table.h"
+#include "json/json_binding.h"
+#include "readback/object_paths.h"
 
 namespace tamrel::com {
 
@@ -75,6 +77,8 @@ bool take(const VARIANT& v, std::int64_t& out);
 void give(const std::string& v, VARIANT& out);
 void give(bool v, VARIANT& out);
 void give(std::int64_t v, VARIANT& out);
+// A failed call with its reason, for the host's error (DISP_E_EXCEPTION).
+HRESULT raise(EXCEPINFO* excep, std::string_view source, std::string_view description);
 
 template <class M>
 constexpr bool is_vector = false;
@@ -84,6 +88,10 @@ template <class M>
 constexpr bool is_indexed = false;
 template <class M>
 constexpr bool is_indexed<Indexed<M>> = true;
+
+// The object as a report of the job format, read and written.
+constexpr DISPID kLoadJson = 9001;
+constexpr DISPID kToJson = 9002;
 
 // The extra names of a repeating group, after the table's properties.
 enum Extra : DISPID { kCount = 0, kAdd = 1, kClear = 2 };
@@ -167,8 +175,8 @@ public:
         });
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
-                                     EXCEPINFO*, UINT* arg_err) override {
-        return no_throw([&] { return invoke(id, flags, params, result, arg_err); });
+                                     EXCEPINFO* excep, UINT* arg_err) override {
+        return no_throw([&] { return invoke(id, flags, params, result, excep, arg_err); });
     }
 
     // ITamrelData
@@ -194,9 +202,10 @@ private:
         }
     }
 
-    HRESULT invoke(DISPID id, WORD flags, DISPPARAMS* params, VARIANT* result, UINT* arg_err) {
+    HRESULT invoke(DISPID id, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO* excep, UINT* arg_err) {
         if (!params) return E_POINTER;
         if (arg_err) *arg_err = 0;
+        if (id == objects::kToJson || id == objects::kLoadJson) return json_method(id, *params, result, excep);
         const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
         // A put's value comes first; the index arguments follow, last one first.
         const UINT given = params->cArgs;
@@ -307,6 +316,8 @@ private:
 
     static DISPID id_of(const wchar_t* name) {
         const std::wstring_view n(name);
+        if (objects::same_name(n, "LoadJson")) return objects::kLoadJson;
+        if (objects::same_name(n, "ToJson")) return objects::kToJson;
         DISPID found = DISPID_UNKNOWN;
         each_field([&](std::size_t k, const auto& e) {
             if constexpr (requires { e.prefix; }) {
@@ -385,6 +396,61 @@ private:
         }
     }
 
+    // ToJson() gives the object as a report of the job format; LoadJson(text)
+    // takes one, in place of all the object held (its sub-objects stay the
+    // same objects). A text that is no such report raises its reason.
+    HRESULT json_method(DISPID id, const DISPPARAMS& params, VARIANT* result, EXCEPINFO* excep) {
+        if (id == objects::kToJson) {
+            if (params.cArgs != 0) return DISP_E_BADPARAMCOUNT;
+            if (result) objects::give(readback::to_json(current()), *result);
+            return S_OK;
+        }
+        std::string text;
+        if (params.cArgs != 1) return DISP_E_BADPARAMCOUNT;
+        if (!objects::take(deref(params.rgvarg[0]), text)) return DISP_E_TYPEMISMATCH;
+        try {
+            const nlohmann::json j = nlohmann::json::parse(text);
+            T fresh{};
+            json_binding::read(json_binding::NlohmannValue{j}, fresh, json_binding::Path{nullptr, "LoadJson"});
+            assign(fresh, j);
+        } catch (const std::bad_alloc&) {
+            throw;
+        } catch (const std::exception& e) {
+            return objects::raise(excep, "LoadJson", e.what());
+        }
+        return S_OK;
+    }
+
+public:
+    // Takes `v` as the object's data; `j` says which properties were given
+    // (for the derivation of what was not).
+    void assign(const T& v, const nlohmann::json& j) {
+        data_ = v;
+        each_field([&](std::size_t k, const auto& e) {
+            if constexpr (requires { e.name; }) put_[k] = j.is_object() && j.contains(std::string(e.name));
+        });
+        each([&](std::size_t k, const auto& f) {
+            using M = std::remove_reference_t<decltype(data_.*(f.member))>;
+            const std::string name(f.name);
+            const nlohmann::json& given = j.is_object() && j.contains(name) ? j[name] : nlohmann::json();
+            if constexpr (properties::Bound<M>) {
+                static_cast<DataObject<M>*>(children_[k])->assign(v.*(f.member), given);
+            } else if constexpr (objects::is_vector<M>) {
+                using Item = typename M::value_type;
+                for (IDispatch* c : items_[k]) c->Release();
+                items_[k].clear();
+                const M& items = v.*(f.member);
+                for (std::size_t i = 0; i < items.size(); ++i) {
+                    auto* item = new DataObject<Item>();
+                    items_[k].push_back(item);
+                    item->assign(items[i], given.is_array() && i < given.size() ? given[i] : nlohmann::json());
+                }
+            }
+        });
+        stamp_ = objects::next_stamp();
+    }
+
+private:
     HRESULT group_extra(std::size_t k, objects::Extra e, bool put, VARIANT& out) {
         HRESULT hr = DISP_E_MEMBERNOTFOUND;
         each([&](std::size_t i, const auto& f) {

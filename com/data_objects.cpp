@@ -74,6 +74,15 @@ void give(std::int64_t v, VARIANT& out) {
     V_I4(&out) = static_cast<LONG>(v);
 }
 
+HRESULT raise(EXCEPINFO* excep, std::string_view source, std::string_view description) {
+    if (!excep) return E_INVALIDARG;
+    *excep = EXCEPINFO{};
+    excep->bstrSource = bstr(source);
+    excep->bstrDescription = bstr(description);
+    excep->scode = E_INVALIDARG;
+    return DISP_E_EXCEPTION;
+}
+
 }  // namespace objects
 
 namespace {

@@ -6,7 +6,15 @@
 #include <cstring>
 #include <utility>
 
+// simdjson's validator where the build has it; the Windows server, which
+// links no simdjson, takes the text helpers' own.
+#if __has_include(<simdjson.h>)
 #include <simdjson.h>
+#define TAMREL_VALID_UTF8(p, n) simdjson::validate_utf8(p, n)
+#else
+#include "core/text.h"
+#define TAMREL_VALID_UTF8(p, n) tamrel::text::is_valid_utf8(std::string_view(p, n))
+#endif
 
 #include "json/cpu_features.h"
 
@@ -158,7 +166,7 @@ bool append_json_string(std::string& out, std::string_view s) {
         const auto c = static_cast<unsigned char>(s[i]);
         if (c >= 0x80) {
             // What came before is ASCII, so the rest is checked once, from here.
-            if (!simdjson::validate_utf8(s.data() + i, s.size() - i)) return false;
+            if (!TAMREL_VALID_UTF8(s.data() + i, s.size() - i)) return false;
             utf8_checked = true;
             continue;
         }

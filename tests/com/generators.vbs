@@ -153,6 +153,20 @@ v2.Familienname = "Zweiter"
 r = p.CreateProtoMeld(m, False, "")
 Check InStr(r, "Zweiter") > 0, "a sub-object changed after a use, through another reference: " & r
 
+' A data object as a report of the job format: LoadJson and ToJson.
+Dim jm
+Set jm = CreateObject("TamrelObj26.Meldung")
+jm.LoadJson "{""Laufnummer"":5,""Vorgang"":{""Familienname"":""Muster"",""Arbeitgeber"":{""Betriebsnummer"":""98765432""}},""KsZeileA"":[""DE""]}"
+CheckEqual jm.Vorgang.Arbeitgeber.Betriebsnummer, "98765432", "LoadJson fills the sub-objects"
+CheckEqual jm.ToJson(), "{""Laufnummer"":5,""KsZeileA"":[""DE""],""KsLetzter"":1,""Vorgang"":{""Familienname"":""Muster"",""Arbeitgeber"":{""Betriebsnummer"":""98765432""}}}", "ToJson"
+On Error Resume Next
+Err.Clear
+jm.LoadJson "{""Unbekannt"":1}"
+CheckEqual Err.Description, "LoadJson.Unbekannt: unknown property", "LoadJson names what it cannot take"
+Err.Clear
+On Error GoTo 0
+CheckEqual jm.Laufnummer, 5, "a report LoadJson refuses leaves the object as it was"
+
 ' A whole file from a script: the structures given as TamrelObj26 objects
 ' where the methods take them (frames.ndjson's lines 6 to 8).
 Dim k, dd, m2, gm, gb

@@ -5,7 +5,10 @@ report a TamrelObj26 data object, the structures TamrelObj26.DSKOData and
 TamrelObj26.DatensatzData objects, every call late bound. The file is
 written as UTF-16 to the path given to the script.
 
-    job_to_vbs.py JOB.json > JOB.vbs     (Windows-1252, as wine's cscript reads a script)
+    job_to_vbs.py JOB.json [--json] > JOB.vbs     (Windows-1252, as wine's cscript reads a script)
+
+With --json each data object takes its report's JSON by LoadJson, and the
+report is built from a second object that took the first one's ToJson().
 """
 import json
 import sys
@@ -60,7 +63,7 @@ def main():
     stamp = ", stamp" if date else ""
     xml = cls == "clsGenAsyl"
     L = ["Option Explicit",
-         "Dim fso, out, g, stamp, datum, kom, satz, o, item0, item1, item2",
+         "Dim fso, out, g, stamp, datum, kom, satz, o, copy, item0, item1, item2",
          'Set fso = CreateObject("Scripting.FileSystemObject")',
          "Set out = fso.CreateTextFile(WScript.Arguments(0), True, True)",
          f'Set g = CreateObject("TamrelFile26.{cls}")',
@@ -81,9 +84,16 @@ def main():
         enm = f", {verf}" if cls == "clsGenBeitrNachw" else ""
         L.append(f"out.WriteLine g.GenDSKO(kom{enm}{stamp})")
     dd = job.get("udtDatensatzData", {})
+    by_json = "--json" in sys.argv[2:]
     for report in job["reports"]:
         L.append(f'Set o = CreateObject("TamrelObj26.{obj}")')
-        fill("o", report, L)
+        if by_json:
+            L += [f"o.LoadJson {lit(json.dumps(report, ensure_ascii=False))}",
+                  f'Set copy = CreateObject("TamrelObj26.{obj}")',
+                  "copy.LoadJson o.ToJson()",
+                  "Set o = copy"]
+        else:
+            fill("o", report, L)
         if cls == "clsGenBeitrNachw":
             args = ", ".join(lit(dd.get(k, "")) for k in ("strBNRAb", "strBNRSt", "strVersion", "strMicroseconds"))
             L.append(f"out.WriteLine g.GenData(o, {args}{stamp})")
