@@ -106,22 +106,30 @@ T read_structure(const Com& d) {
     return out;
 }
 
+// Members equal to `before` (what was read from `out`) are left as they
+// are: a call that changes nothing allocates nothing.
 template <class T, class Com>
-void write_structure(const T& d, Com& out) {
+void write_structure(const T& d, Com& out, const T* before) {
     BSTR* m = members<Com, T>(out);
     std::size_t k = 0;
-    std::apply(
-        [&](const auto&... f) {
-            BSTR b = nullptr;  // made before the old one is freed: a failure leaves the member intact
-            ((b = bstr(d.*(f.member)), SysFreeString(m[k]), m[k] = b, ++k), ...);
-        },
-        properties::Binding<T>::fields);
+    auto one = [&](const std::string& value, const std::string* was) {
+        if (!was || *was != value) {
+            BSTR b = bstr(value);  // made before the old one is freed: a failure leaves the member intact
+            SysFreeString(m[k]);
+            m[k] = b;
+        }
+        ++k;
+    };
+    std::apply([&](const auto&... f) { (one(d.*(f.member), before ? &(before->*(f.member)) : nullptr), ...); },
+               properties::Binding<T>::fields);
 }
 }  // namespace
 
 DSKOData from_com(const ::DSKOData& d) { return read_structure<DSKOData>(d); }
 DatensatzData from_com(const ::DatensatzData& d) { return read_structure<DatensatzData>(d); }
-void to_com(const DSKOData& d, ::DSKOData& out) { write_structure(d, out); }
-void to_com(const DatensatzData& d, ::DatensatzData& out) { write_structure(d, out); }
+void to_com(const DSKOData& d, ::DSKOData& out, const DSKOData* before) { write_structure(d, out, before); }
+void to_com(const DatensatzData& d, ::DatensatzData& out, const DatensatzData* before) {
+    write_structure(d, out, before);
+}
 
 }  // namespace tamrel::com

@@ -37,8 +37,9 @@ void set_text_arg(VARIANT* v, std::string_view text);
 
 DSKOData from_com(const ::DSKOData& d);
 DatensatzData from_com(const ::DatensatzData& d);
-// Writes the members back into the caller's structure (in/out parameters).
-void to_com(const DSKOData& d, ::DSKOData& out);
-void to_com(const DatensatzData& d, ::DatensatzData& out);
+// Writes the members back into the caller's structure (in/out parameters);
+// with `before` (what was read from it), only the members that changed.
+void to_com(const DSKOData& d, ::DSKOData& out, const DSKOData* before = nullptr);
+void to_com(const DatensatzData& d, ::DatensatzData& out, const DatensatzData* before = nullptr);
 
 }  // namespace tamrel::com

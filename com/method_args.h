@@ -62,9 +62,10 @@ std::string vosz(const Gen& g, BSTR a, BSTR e, BSTR f, BSTR firma, long enm, VAR
 template <class Gen, class... Extra>
 std::string dsko(const Gen& g, ::DSKOData* udt, const VARIANT& date, Extra... extra) {
     if (!udt) fail_with(E_POINTER);
-    DSKOData d = from_com(*udt);
+    const DSKOData before = from_com(*udt);
+    DSKOData d = before;
     std::string r = g.GenDSKO(d, extra..., date_arg(date));
-    to_com(d, *udt);
+    to_com(d, *udt, &before);
     return r;
 }
 template <class Gen>
@@ -77,10 +78,11 @@ template <class Obj, class Gen, class... Extra>
 std::string data(Gen& g, IDispatch* object, const char* name, ::DatensatzData* udt, const VARIANT& date,
                  Extra... extra) {
     if (!udt) fail_with(E_POINTER);
-    DatensatzData dd = from_com(*udt);
+    const DatensatzData before = from_com(*udt);
+    DatensatzData dd = before;
     std::string r =
         with_data_object<Obj>(object, name, [&](const Obj& o) { return g.GenData(o, dd, extra..., date_arg(date)); });
-    to_com(dd, *udt);
+    to_com(dd, *udt, &before);
     return r;
 }
 
