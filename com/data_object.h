@@ -25,7 +25,9 @@
 #include <vector>
 
 #include "com/com_text.h"
+#include "com/data_object_values.h"
 #include "com/dispatch_reader.h"
+#include "com/own_data.h"
 #include "core/indexed.h"
 #include "core/property_table.h"
 #include "json/json_binding.h"
@@ -34,84 +36,6 @@
 namespace tamrel::com {
 
 extern std::atomic<long> g_live;
-
-// The private interface of the data objects: the record library's object
-// behind one, current with its sub-objects; nullptr for another type.
-extern const IID IID_ITamrelData;
-class ITamrelData : public IUnknown {
-public:
-    virtual const void* STDMETHODCALLTYPE data(const std::type_info& type) = 0;
-    // Takes `value` (a `type`) as the object's data: a structure written
-    // back after a call.
-    virtual void STDMETHODCALLTYPE replace(const std::type_info& type, const void* value) = 0;
-};
-
-// The record library's object behind `object` where it is one of these
-// data objects of type `T`, else nullptr.
-template <class T>
-const T* own_data(IDispatch* object) {
-    ITamrelData* own = nullptr;
-    if (!object || FAILED(object->QueryInterface(IID_ITamrelData, reinterpret_cast<void**>(&own)))) return nullptr;
-    const void* d = own->data(typeid(T));
-    own->Release();
-    return static_cast<const T*>(d);
-}
-
-// Writes `value` into `object`, one of these data objects of type `T`.
-template <class T>
-void replace_data(IDispatch* object, const T& value) {
-    ITamrelData* own = nullptr;
-    if (!object || FAILED(object->QueryInterface(IID_ITamrelData, reinterpret_cast<void**>(&own)))) return;
-    own->replace(typeid(T), &value);
-    own->Release();
-}
-
-namespace objects {
-
-bool same_name(std::wstring_view a, std::string_view b);
-// The Variant as a text, flag or number of the property's type; false where
-// it cannot be one.
-bool take(const VARIANT& v, std::string& out);
-bool take(const VARIANT& v, bool& out);
-bool take(const VARIANT& v, std::int64_t& out);
-void give(const std::string& v, VARIANT& out);
-void give(bool v, VARIANT& out);
-void give(std::int64_t v, VARIANT& out);
-// A failed call with its reason, for the host's error (DISP_E_EXCEPTION).
-HRESULT raise(EXCEPINFO* excep, std::string_view source, std::string_view description);
-
-template <class M>
-constexpr bool is_vector = false;
-template <class M>
-constexpr bool is_vector<std::vector<M>> = true;
-template <class M>
-constexpr bool is_indexed = false;
-template <class M>
-constexpr bool is_indexed<Indexed<M>> = true;
-
-// The object as a report of the job format, read and written.
-constexpr DISPID kLoadJson = 9001;
-constexpr DISPID kToJson = 9002;
-
-// The extra names of a repeating group, after the table's properties.
-enum Extra : DISPID { kCount = 0, kAdd = 1, kClear = 2 };
-constexpr DISPID kExtraBase = 10000;
-// A property spelt with a prefix ("AngFmna"): its group's field and its
-// place in the nested type's table.
-constexpr DISPID kPrefixBase = 100000;
-constexpr DISPID prefixed_id(std::size_t field, std::size_t inner) {
-    return kPrefixBase + static_cast<DISPID>(field) * 256 + static_cast<DISPID>(inner);
-}
-constexpr DISPID extra_id(std::size_t field, Extra e) { return kExtraBase + static_cast<DISPID>(field) * 3 + e; }
-
-// When a data object was last changed: a count over all of them, so that an
-// object knows whether its copy of its sub-objects is still current.
-inline std::uint64_t next_stamp() {
-    static std::atomic<std::uint64_t> stamps{0};
-    return ++stamps;
-}
-
-}  // namespace objects
 
 template <properties::Bound T>
 class DataObject final : public IDispatch, public ITamrelData {

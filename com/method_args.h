@@ -7,8 +7,8 @@
 
 #include "com/com_error.h"
 #include "com/com_text.h"
-#include "com/data_object.h"
 #include "com/dispatch_reader.h"
+#include "com/own_data.h"
 #include "com/server_host.h"
 #include "core/error.h"
 #include "core/routine.h"

@@ -4,7 +4,7 @@
 
 #include "com/com_object.h"
 #include "com/com_text.h"
-#include "com/data_object.h"
+#include "com/own_data.h"
 
 namespace tamrel::com {
 namespace {
