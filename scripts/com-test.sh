@@ -2,8 +2,9 @@
 # Builds TamrelFile26.dll and the vtable test client for x86_64 and i686 with
 # Debian's mingw-w64 (-posix) compilers and tests each under wine of its own
 # width: registration, the scripting host's view of every class
-# (tests/com/generators.vbs, and examples/com/deuev-registration.vbs with a
-# VBScript class as its data object), every example's whole file and protocol through the
+# and of TamrelObj26's data objects (tests/com/generators.vbs, and
+# examples/com/deuev-registration.vbs, a whole DEUEV file), every example's
+# whole file and protocol through the
 # client compared byte for byte with `tamrel generate` (with the client's own
 # data objects, and with TamrelObj26's), every example's file from a VBScript
 # with TamrelObj26's objects (tests/com/job_to_vbs.py), error and test-answer
