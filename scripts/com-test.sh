@@ -1,18 +1,19 @@
 #!/usr/bin/env bash
 # Builds TamrelFile26.dll and the vtable test client for x86_64 and i686 with
 # Debian's mingw-w64 (-posix) compilers and tests each under wine of its own
-# width: registration, the scripting host's view of every class
-# and of TamrelObj26's data objects (tests/com/generators.vbs, and
-# examples/com/deuev-registration.vbs, a whole DEUEV file), every example's
-# whole file and protocol through the
-# client compared byte for byte with `tamrel generate` (with the client's own
-# data objects, and with TamrelObj26's), every example's file from a VBScript
-# with TamrelObj26's objects (tests/com/job_to_vbs.py), error and test-answer
-# replays against `tamrel call` (tests/com/replay.py), the log file, and
-# unregistration. Each run uses its own WINEPREFIX under build-com/ and ends
-# only its own wineserver. 32-bit wine is unpacked privately (never by
-# enabling the i386 architecture). Needs the Release build's tamrel.
-# COM_BENCH=N also times N DEUEV registrations through the client.
+# width: registration; the scripting host's view of every class and of
+# TamrelObj26's data objects (tests/com/generators.vbs, and
+# examples/com/deuev-registration.vbs, a whole DEUEV file); every example's
+# whole file and protocol through the client, compared byte for byte with
+# `tamrel generate` (with the client's own data objects, and with
+# TamrelObj26's); every example's file from a VBScript with TamrelObj26's
+# objects (tests/com/job_to_vbs.py); error and test-answer replays against
+# `tamrel call` (tests/com/replay.py); the log file; and unregistration.
+# Each run uses its own WINEPREFIX under build-com/ and ends only its own
+# wineserver. 32-bit wine is unpacked privately (never by enabling the i386
+# architecture). Needs the Release build's tamrel.
+# COM_BENCH=N also times N DEUEV registrations through the client, with its
+# own data object and with a TamrelObj26 one.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 missing=()
