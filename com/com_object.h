@@ -1,4 +1,4 @@
-// An object of the server: reference counting, IDispatch answered from the
+// A generator object of the server: IDispatch answered from the
 // embedded type library (so late-bound callers reach the same vtable as
 // early-bound ones), and ISupportErrorInfo.
 #pragma once
@@ -6,47 +6,20 @@
 
 #include <oaidl.h>
 
-#include <atomic>
 #include <new>
 
 #include "TamrelFile26.h"
+#include "com/com_base.h"
 #include "com/structure_args.h"
 
 namespace tamrel::com {
-
-// Objects and locks alive in the process (DllCanUnloadNow).
-extern std::atomic<long> g_live;
 
 // The type information of an interface of the type library (cached).
 ITypeInfo* type_info(REFIID iid);
 
 template <class Itf>
-class Dual : public Itf, public ISupportErrorInfo {
+class Dual : public ComBase<Itf, ISupportErrorInfo, IID_ISupportErrorInfo> {
 public:
-    Dual() { ++g_live; }
-    virtual ~Dual() { --g_live; }
-
-    // IUnknown
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-        if (!out) return E_POINTER;
-        if (iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Itf)) {
-            *out = static_cast<Itf*>(this);
-        } else if (iid == IID_ISupportErrorInfo) {
-            *out = static_cast<ISupportErrorInfo*>(this);
-        } else {
-            *out = nullptr;
-            return E_NOINTERFACE;
-        }
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG n = --refs_;
-        if (n == 0) delete this;
-        return n;
-    }
-
     // IDispatch
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* n) override {
         if (!n) return E_POINTER;
@@ -85,9 +58,6 @@ public:
     HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) override {
         return iid == __uuidof(Itf) ? S_OK : S_FALSE;
     }
-
-private:
-    std::atomic<ULONG> refs_{1};
 };
 
 }  // namespace tamrel::com

@@ -24,6 +24,7 @@
 #include <typeinfo>
 #include <vector>
 
+#include "com/com_base.h"
 #include "com/com_text.h"
 #include "com/data_object_values.h"
 #include "com/dispatch_reader.h"
@@ -35,16 +36,13 @@
 
 namespace tamrel::com {
 
-extern std::atomic<long> g_live;
-
 template <properties::Bound T>
-class DataObject final : public IDispatch, public ITamrelData {
+class DataObject final : public ComBase<IDispatch, ITamrelData, IID_ITamrelData> {
     using Fields = decltype(properties::Binding<T>::fields);
     static constexpr std::size_t kFields = std::tuple_size_v<Fields>;
 
 public:
     DataObject() : stamp_(objects::next_stamp()) {
-        ++g_live;
         each([&](std::size_t k, const auto& f) {
             using M = std::remove_reference_t<decltype(data_.*(f.member))>;
             if constexpr (properties::Bound<M>) children_[k] = new DataObject<M>();
@@ -55,28 +53,6 @@ public:
             if (c) c->Release();
         for (auto& list : items_)
             for (IDispatch* c : list) c->Release();
-        --g_live;
-    }
-
-    // IUnknown
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
-        if (!out) return E_POINTER;
-        if (iid == IID_IUnknown || iid == IID_IDispatch) {
-            *out = static_cast<IDispatch*>(this);
-        } else if (iid == IID_ITamrelData) {
-            *out = static_cast<ITamrelData*>(this);
-        } else {
-            *out = nullptr;
-            return E_NOINTERFACE;
-        }
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG n = --refs_;
-        if (n == 0) delete this;
-        return n;
     }
 
     // IDispatch: late binding only (no type information yet).
@@ -433,7 +409,6 @@ private:
     std::bitset<kFields> put_;                     // the properties the host set
     std::uint64_t stamp_;                          // the host's last change to the object itself
     std::uint64_t synced_ = 0;                     // the newest change data_ holds
-    std::atomic<ULONG> refs_{1};
 };
 
 }  // namespace tamrel::com

@@ -34,29 +34,31 @@ bool same_name(std::wstring_view a, std::string_view b) {
     return true;
 }
 
-bool take(const VARIANT& v, std::string& out) {
+namespace {
+
+// Calls `read` with the Variant changed to `type`; false where it cannot be.
+template <class Read>
+bool changed(const VARIANT& v, VARTYPE type, Read&& read) {
     VARIANT t;
     VariantInit(&t);
-    if (FAILED(VariantChangeType(&t, const_cast<VARIANT*>(&v), 0, VT_BSTR))) return false;
-    out = utf8(V_BSTR(&t));
-    VariantClear(&t);
+    if (FAILED(VariantChangeType(&t, const_cast<VARIANT*>(&v), 0, type))) return false;
+    const Value held(t);
+    read(held.v);
     return true;
+}
+
+}  // namespace
+
+bool take(const VARIANT& v, std::string& out) {
+    return changed(v, VT_BSTR, [&](const VARIANT& t) { out = utf8(V_BSTR(&t)); });
 }
 
 bool take(const VARIANT& v, bool& out) {
-    VARIANT t;
-    VariantInit(&t);
-    if (FAILED(VariantChangeType(&t, const_cast<VARIANT*>(&v), 0, VT_BOOL))) return false;
-    out = V_BOOL(&t) != VARIANT_FALSE;
-    return true;
+    return changed(v, VT_BOOL, [&](const VARIANT& t) { out = V_BOOL(&t) != VARIANT_FALSE; });
 }
 
 bool take(const VARIANT& v, std::int64_t& out) {
-    VARIANT t;
-    VariantInit(&t);
-    if (FAILED(VariantChangeType(&t, const_cast<VARIANT*>(&v), 0, VT_I4))) return false;
-    out = V_I4(&t);
-    return true;
+    return changed(v, VT_I4, [&](const VARIANT& t) { out = V_I4(&t); });
 }
 
 void give(const std::string& v, VARIANT& out) {

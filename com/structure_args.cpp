@@ -4,6 +4,7 @@
 
 #include "com/com_object.h"
 #include "com/com_text.h"
+#include "com/data_object_values.h"
 #include "com/own_data.h"
 
 namespace tamrel::com {
@@ -143,10 +144,9 @@ HRESULT StructureArgs::call(ITypeInfo* dispatch_view, void* self, DISPID id, VAR
     LONG number = 0;
     if (with_number) {
         const VARIANT* n = arg(static_cast<SHORT>(first + 1));
-        VARIANT t;
-        VariantInit(&t);
-        if (!n || FAILED(VariantChangeType(&t, const_cast<VARIANT*>(n), 0, VT_I4))) return DISP_E_TYPEMISMATCH;
-        number = V_I4(&t);
+        std::int64_t x = 0;
+        if (!n || !objects::take(*n, x)) return DISP_E_TYPEMISMATCH;
+        number = static_cast<LONG>(x);
     }
     BSTR out = nullptr;
     HRESULT hr;
