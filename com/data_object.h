@@ -126,7 +126,7 @@ private:
             each_field([&](std::size_t i, const auto& e) {
                 if constexpr (requires { e.prefix; }) {
                     if (i != k) return;
-                    auto& nested = data_.*(e.member);
+                    auto& nested = (put ? data_ : built()).*(e.member);
                     std::size_t n = 0;
                     std::apply(
                         [&](const auto&... g) {
@@ -141,10 +141,10 @@ private:
             const auto e = static_cast<objects::Extra>((id - objects::kExtraBase) % 3);
             hr = group_extra(k, e, put, out);
         } else if (id >= 1 && static_cast<std::size_t>(id) <= kFields) {
-            if (!put) current();  // a derived bound or count reads as it is derived
+            T& from = put ? data_ : built();  // a derived bound or count reads as it is derived
             each([&](std::size_t k, const auto& f) {
                 if (k + 1 == static_cast<std::size_t>(id))
-                    hr = member(k, data_.*(f.member), put, value, indices, index, out);
+                    hr = member(k, from.*(f.member), put, value, indices, index, out);
             });
             if (put && SUCCEEDED(hr)) put_[static_cast<std::size_t>(id - 1)] = true;
         }
@@ -157,26 +157,7 @@ public:
     // The object with what its sub-objects and items hold now, and what a
     // report's JSON leaves to be derived (bounds, counts) derived the same
     // way where the host did not set it.
-    const T& current() {
-        const std::uint64_t now = newest();
-        if (now == synced_) return data_;  // a filled object passed again and again is copied once
-        synced_ = now;
-        each([&](std::size_t k, const auto& f) {
-            auto& m = data_.*(f.member);
-            using M = std::remove_reference_t<decltype(m)>;
-            if constexpr (properties::Bound<M>) {
-                m = static_cast<DataObject<M>*>(children_[k])->current();
-            } else if constexpr (objects::is_vector<M>) {
-                using Item = typename M::value_type;
-                m.resize(items_[k].size());
-                for (std::size_t i = 0; i < m.size(); ++i)
-                    m[i] = static_cast<DataObject<Item>*>(items_[k][i])->current();
-            }
-        });
-        if constexpr (requires { properties::Binding<T>::finish(data_, *this); })
-            properties::Binding<T>::finish(data_, *this);
-        return data_;
-    }
+    const T& current() { return built(); }
     // The newest change to the object, its sub-objects and its items.
     std::uint64_t newest() {
         std::uint64_t n = stamp_;
@@ -202,6 +183,28 @@ public:
     }
 
 private:
+    T& built() {
+        const std::uint64_t now = newest();
+        if (now == synced_) return built_;  // a filled object passed again and again is copied once
+        synced_ = now;
+        built_ = data_;
+        each([&](std::size_t k, const auto& f) {
+            auto& m = built_.*(f.member);
+            using M = std::remove_reference_t<decltype(m)>;
+            if constexpr (properties::Bound<M>) {
+                m = static_cast<DataObject<M>*>(children_[k])->current();
+            } else if constexpr (objects::is_vector<M>) {
+                using Item = typename M::value_type;
+                m.resize(items_[k].size());
+                for (std::size_t i = 0; i < m.size(); ++i)
+                    m[i] = static_cast<DataObject<Item>*>(items_[k][i])->current();
+            }
+        });
+        if constexpr (requires { properties::Binding<T>::finish(built_, *this); })
+            properties::Binding<T>::finish(built_, *this);
+        return built_;
+    }
+
     template <class F>
     static void each_field(F&& f) {
         std::size_t k = 0;
@@ -302,7 +305,11 @@ private:
     HRESULT json_method(DISPID id, const DISPPARAMS& params, VARIANT* result, EXCEPINFO* excep) {
         if (id == objects::kToJson) {
             if (params.cArgs != 0) return DISP_E_BADPARAMCOUNT;
-            if (result) objects::give(readback::to_json(current()), *result);
+            if (result) {
+                std::string json = "{";
+                append_json(json);
+                objects::give(json + '}', *result);
+            }
             return S_OK;
         }
         std::string text;
@@ -325,15 +332,18 @@ public:
     // Takes `v` as the object's data; `j` says which properties were given
     // (for the derivation of what was not).
     void assign(const T& v, const nlohmann::json& j) {
+        static const T fresh{};
         data_ = v;
-        each_field([&](std::size_t k, const auto& e) {
-            if constexpr (requires { e.name; }) put_[k] = j.is_object() && j.contains(std::string(e.name));
-        });
         each([&](std::size_t k, const auto& f) {
             using M = std::remove_reference_t<decltype(data_.*(f.member))>;
             const std::string name(f.name);
-            const nlohmann::json& given = j.is_object() && j.contains(name) ? j[name] : nlohmann::json();
-            if constexpr (properties::Bound<M>) {
+            put_[k] = j.is_object() && j.contains(name);
+            const nlohmann::json& given = put_[k] ? j[name] : nlohmann::json();
+            if constexpr (!properties::Bound<M> && !objects::is_vector<M>) {
+                // What was not given holds what the reader derived: the
+                // object keeps what the host gave, and derives when built.
+                if (!put_[k]) data_.*(f.member) = fresh.*(f.member);
+            } else if constexpr (properties::Bound<M>) {
                 static_cast<DataObject<M>*>(children_[k])->assign(v.*(f.member), given);
             } else if constexpr (objects::is_vector<M>) {
                 using Item = typename M::value_type;
@@ -348,6 +358,42 @@ public:
             }
         });
         stamp_ = objects::next_stamp();
+    }
+
+    // The members as a report of the job format shows them: what the host
+    // set (a default value too) and what differs from a fresh object, with
+    // nothing derived.
+    void append_json(std::string& out) const {
+        static const T fresh{};
+        each_field([&](std::size_t k, const auto& e) {
+            if constexpr (requires { e.prefix; }) {
+                readback::append_members(out, data_.*(e.member), e.prefix);
+            } else {
+                using M = std::remove_cvref_t<decltype(data_.*(e.member))>;
+                const M& m = data_.*(e.member);
+                const std::size_t before = out.size();
+                readback::detail::key(out, {}, e.name);
+                if constexpr (properties::Bound<M>) {
+                    out += '{';
+                    static_cast<const DataObject<M>*>(children_[k])->append_json(out);
+                    out += '}';
+                    if (!put_[k] && out.ends_with(":{}")) out.resize(before);
+                } else if constexpr (objects::is_vector<M>) {
+                    if (!put_[k] && items_[k].empty()) return out.resize(before);
+                    out += '[';
+                    for (const IDispatch* item : items_[k]) {
+                        if (out.back() != '[') out += ',';
+                        out += '{';
+                        static_cast<const DataObject<typename M::value_type>*>(item)->append_json(out);
+                        out += '}';
+                    }
+                    out += ']';
+                } else {
+                    if (!put_[k] && readback::detail::is_default(m, fresh.*(e.member))) return out.resize(before);
+                    readback::detail::append_value(out, m);
+                }
+            }
+        });
     }
 
 private:
@@ -403,12 +449,13 @@ private:
         }
     }
 
-    T data_{};
+    T data_{};   // what the host set, without what is derived
+    T built_{};  // data_ with its sub-objects, items and what is derived, as of synced_
     IDispatch* children_[kFields] = {};            // the sub-objects, by field
     std::vector<IDispatch*> items_[kFields] = {};  // the items of the repeating groups, by field
     std::bitset<kFields> put_;                     // the properties the host set
     std::uint64_t stamp_;                          // the host's last change to the object itself
-    std::uint64_t synced_ = 0;                     // the newest change data_ holds
+    std::uint64_t synced_ = 0;                     // the newest change built_ holds
 };
 
 }  // namespace tamrel::com

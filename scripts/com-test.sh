@@ -149,19 +149,23 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       cmp -s "$work/$n.obj.proto" "$work/$n.want-proto" || fail "$arch: $n: with data objects, the protocol differs"
       # The whole file again from a script with no class of its own, every call
       # late bound: the objects filled property by property, and by LoadJson
-      # of the report with a round trip through ToJson.
+      # of the report with a round trip through ToJson. Each object's ToJson()
+      # is its report.
       local how
       for how in "" --json; do
         python3 tests/com/job_to_vbs.py "$ex" $how >"$work/$n.vbs"
         TAMREL_NOW=$(python3 -c 'import json, sys; print(json.load(open(sys.argv[1])).get("now", ""))' "$ex") \
-          "$wine" cscript //nologo "$(win "$work/$n.vbs")" "$(win "$work/$n.vbs.out")" 2>/dev/null | tr -d '\r' |
+          "$wine" cscript //nologo "$(win "$work/$n.vbs")" "$(win "$work/$n.vbs.out")" "$(win "$work/$n.vbs.json")" \
+          2>/dev/null | tr -d '\r' |
           grep -q "^END OF FILE$" || fail "$arch: $n: the script (${how:-properties}) did not run to its end"
         iconv -f UTF-16 -t ISO-8859-1 "$work/$n.vbs.out" | tr -d '\r' | cmp -s - "$work/$n.want" ||
           fail "$arch: $n: from a script (${how:-properties}), the file differs"
+        python3 tests/com/same_reports.py "$ex" "$work/$n.vbs.json" ||
+          fail "$arch: $n: from a script (${how:-properties}), ToJson() is not the report"
       done
     done
     echo "com-test: $arch: $(ls examples/*.json | wc -l) example files and protocols identical to tamrel generate's," \
-      "from the client's objects and from TamrelObj26's, and the files from VBScript"
+      "from the client's objects and from TamrelObj26's, and the files from VBScript with each ToJson() its report"
     python3 tests/com/replay.py build/tamrel "$work" "$wine" "$work/com_client.exe" || fail "$arch: replay failed"
     if [[ -n ${COM_BENCH:-} ]]; then
       for mode in bench bench-objects; do

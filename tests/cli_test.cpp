@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -50,7 +51,7 @@ protected:
                   {"Arbeitgeber", {{"Betriebsnummer", tamrel::testing::kSenderBnr}}}}},
                 {"Empfaenger", {{"Betriebsnummer", tamrel::testing::kReceiverBnr}}}};
     }
-    json job(json reports) const {
+    json job(std::vector<json> reports) const {
         return {{"class", "clsGenMeldung"},
                 {"strBNRAb", tamrel::testing::kSenderBnr},
                 {"strBNREm", tamrel::testing::kReceiverBnr},

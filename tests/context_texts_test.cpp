@@ -114,10 +114,10 @@ TEST(ContextTexts, EveryPublicMethodNamesItsArguments) {
          },
          "clsGenArbeitsBesch.GetData"},
     };
-    for (const auto& [run, context] : cases) {
+    for (const auto& c : cases) {
         RecordingHost host;
-        expect_error([&] { run(host.host); });
-        EXPECT_EQ(last_context(host.lines), context);
+        expect_error([&] { c.first(host.host); });
+        EXPECT_EQ(last_context(host.lines), c.second);
     }
 }
 

@@ -122,8 +122,8 @@ TEST(Layouts, AgreeWithTheFrameBuilders) {
                            "Müller & Söhne GmbH",
                            "ABC",
                            "1",
-                           "a very long name of a firm that "
-                           "does not fit its field at all"};
+                           ("a very long name of a firm that "
+                           "does not fit its field at all")};
     auto pick = [&] { return std::string(texts[random() % std::size(texts)]); };
     const Date date{2024, 3, 1, 10, 11, 12};
     for (int round = 0; round < 200; ++round) {

@@ -3,7 +3,8 @@
 TamrelFile26.dll as a scripting host would, with no class of its own: each
 report a TamrelObj26 data object, the structures TamrelObj26.DSKOData and
 TamrelObj26.DatensatzData objects, every call late bound. The file is
-written as UTF-16 to the path given to the script.
+written as UTF-16 to the first path given to the script, and each report's
+ToJson() after its GenData, a line each, to the second.
 
     job_to_vbs.py JOB.json [--json] > JOB.vbs     (Windows-1252, as wine's cscript reads a script)
 
@@ -63,9 +64,10 @@ def main():
     stamp = ", stamp" if date else ""
     xml = cls == "clsGenAsyl"
     L = ["Option Explicit",
-         "Dim fso, out, g, stamp, datum, kom, satz, o, copy, item0, item1, item2",
+         "Dim fso, out, js, g, stamp, datum, kom, satz, o, copy, item0, item1, item2",
          'Set fso = CreateObject("Scripting.FileSystemObject")',
          "Set out = fso.CreateTextFile(WScript.Arguments(0), True, True)",
+         "Set js = fso.CreateTextFile(WScript.Arguments(1), True, True)",
          f'Set g = CreateObject("TamrelFile26.{cls}")',
          f"datum = {lit(job.get('strDatum', ''))}"]
     if date:
@@ -101,12 +103,13 @@ def main():
             structure("satz", "DatensatzData", dd, L)  # each report from the job's values
             enm = f", {verf}" if cls == "clsGenMeldung" else ""
             L.append(f"out.WriteLine g.GenData(o, satz{enm}{stamp})")
+        L.append("js.WriteLine o.ToJson()")
     count = len(job["reports"]) + (0 if xml else 1)
     enm = f", {verf}" if cls in ("clsGenMeldung", "clsGenBeitrNachw") else ""
     L.append(f'out.WriteLine g.GenNCSZ({a}, {e}, {f}, "{count}"{enm}{stamp})')
     if xml:
         L.append('out.WriteLine "</kotkv>"')
-    L += ["out.Close", 'WScript.Echo "END OF FILE"']
+    L += ["out.Close", "js.Close", 'WScript.Echo "END OF FILE"']
     sys.stdout.buffer.write(("\r\n".join(L) + "\r\n").encode("cp1252"))
 
 
