@@ -1,7 +1,7 @@
 // What every object of the server shares: its reference count, the count
 // of objects alive in the process (DllCanUnloadNow), and QueryInterface for
 // its two interfaces: `Main` (IDispatch, or an interface built on it) and
-// `Second`, reached by `SecondIid`.
+// `Second`, reached by `SecondIid`, and any further one the object names.
 #pragma once
 #include <windows.h>  // first: the other system headers build on it
 
@@ -26,6 +26,8 @@ public:
             *out = static_cast<Main*>(this);
         } else if (iid == SecondIid) {
             *out = static_cast<Second*>(this);
+        } else if (void* more = interface_for(iid)) {
+            *out = more;
         } else {
             *out = nullptr;
             return E_NOINTERFACE;
@@ -39,6 +41,10 @@ public:
         if (n == 0) delete this;
         return n;
     }
+
+protected:
+    // A further interface the object answers to (nullptr: none).
+    virtual void* interface_for(REFIID) { return nullptr; }
 
 private:
     std::atomic<ULONG> refs_{1};

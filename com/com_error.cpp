@@ -21,7 +21,6 @@ void fail_with(HRESULT hr) {
     raise(static_cast<std::int32_t>(hr), "TamrelFile26", std::move(description));
 }
 
-namespace {
 void set_error_info(const std::string& source, const std::string& description) {
     ICreateErrorInfo* create = nullptr;
     if (FAILED(CreateErrorInfo(&create))) return;
@@ -35,7 +34,6 @@ void set_error_info(const std::string& source, const std::string& description) {
     }
     create->Release();
 }
-}  // namespace
 
 HRESULT current_error_as_hresult() noexcept {
     try {

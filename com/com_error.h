@@ -16,6 +16,9 @@ inline void throw_if_failed(HRESULT hr) {
     if (FAILED(hr)) fail_with(hr);
 }
 
+// Sets the thread's IErrorInfo, as a failing method leaves it.
+void set_error_info(const std::string& source, const std::string& description);
+
 // The error in flight as the method's result, its IErrorInfo set. Called in
 // a catch block.
 HRESULT current_error_as_hresult() noexcept;

@@ -27,7 +27,9 @@
 #include "com/com_base.h"
 #include "com/com_text.h"
 #include "com/data_object_values.h"
+#include "com/data_objects.h"
 #include "com/dispatch_reader.h"
+#include "com/dual_view.h"
 #include "com/own_data.h"
 #include "core/indexed.h"
 #include "core/property_table.h"
@@ -55,15 +57,18 @@ public:
             for (IDispatch* c : list) c->Release();
     }
 
-    // IDispatch: late binding only (no type information yet).
+    // IDispatch, described by the dual interface of the type library.
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* n) override {
         if (!n) return E_POINTER;
-        *n = 0;
+        *n = klass().info ? 1 : 0;
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** out) override {
-        if (out) *out = nullptr;
-        return DISP_E_BADINDEX;
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT i, LCID, ITypeInfo** out) override {
+        if (!out) return E_POINTER;
+        *out = i == 0 ? klass().info : nullptr;
+        if (!*out) return DISP_E_BADINDEX;
+        (*out)->AddRef();
+        return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
         if (!names || !ids) return E_POINTER;
@@ -89,8 +94,20 @@ public:
         data_ = *static_cast<const T*>(value);  // sub-objects and items stay what their objects hold
         stamp_ = objects::next_stamp();
     }
+    IDispatch* STDMETHODCALLTYPE dual() override {
+        AddRef();
+        return reinterpret_cast<IDispatch*>(&view_);
+    }
+
+protected:
+    void* interface_for(REFIID iid) override { return klass().info && iid == klass().iid ? &view_ : nullptr; }
 
 private:
+    static const DataClassEntry& klass() {
+        static const DataClassEntry& c = data_class(typeid(T));
+        return c;
+    }
+
     // Nothing thrown crosses to the host: a text or object that cannot be
     // made is E_OUTOFMEMORY.
     template <class F>
@@ -217,42 +234,15 @@ private:
         });
     }
 
+    // The id of a member of the interface, its name in any case.
     static DISPID id_of(const wchar_t* name) {
         const std::wstring_view n(name);
-        if (objects::same_name(n, "LoadJson")) return objects::kLoadJson;
-        if (objects::same_name(n, "ToJson")) return objects::kToJson;
-        DISPID found = DISPID_UNKNOWN;
-        each_field([&](std::size_t k, const auto& e) {
-            if constexpr (requires { e.prefix; }) {
-                using M = std::remove_reference_t<decltype(std::declval<T&>().*(e.member))>;
-                if (found != DISPID_UNKNOWN || n.size() < e.prefix.size() ||
-                    !objects::same_name(n.substr(0, e.prefix.size()), e.prefix))
-                    return;
-                std::size_t j = 0;
-                std::apply(
-                    [&](const auto&... g) {
-                        ((objects::same_name(n.substr(e.prefix.size()), g.name)
-                              ? void(found = objects::prefixed_id(k, j))
-                              : void(),
-                          ++j),
-                         ...);
-                    },
-                    properties::Binding<M>::fields);
-            } else {
-                using M = std::remove_reference_t<decltype(std::declval<T&>().*(e.member))>;
-                if (found != DISPID_UNKNOWN) return;
-                if (objects::same_name(n, e.name)) found = static_cast<DISPID>(k + 1);
-                if constexpr (objects::is_vector<M>) {
-                    if (objects::same_name(n, reading::count_name(e.name)))
-                        found = objects::extra_id(k, objects::kCount);
-                    else if (objects::same_name(n, "Add" + std::string(e.name)))
-                        found = objects::extra_id(k, objects::kAdd);
-                    else if (objects::same_name(n, "Clear" + std::string(e.name)))
-                        found = objects::extra_id(k, objects::kClear);
-                }
-            }
-        });
-        return found;
+        for (const members::Member& m : members::Members<T>::list.m)
+            if (n.size() == m.name.first.size() + m.name.second.size() &&
+                objects::same_name(n.substr(0, m.name.first.size()), m.name.first) &&
+                objects::same_name(n.substr(m.name.first.size()), m.name.second))
+                return m.id;
+        return DISPID_UNKNOWN;
     }
 
     template <class M>
@@ -449,9 +439,10 @@ private:
         }
     }
 
-    T data_{};   // what the host set, without what is derived
-    T built_{};  // data_ with its sub-objects, items and what is derived, as of synced_
-    IDispatch* children_[kFields] = {};            // the sub-objects, by field
+    DualView<DataObject> view_{dual_table<DataObject, T>(), this};  // the dual interface
+    T data_{};                                                      // what the host set, without what is derived
+    T built_{};                          // data_ with its sub-objects, items and what is derived, as of synced_
+    IDispatch* children_[kFields] = {};  // the sub-objects, by field
     std::vector<IDispatch*> items_[kFields] = {};  // the items of the repeating groups, by field
     std::bitset<kFields> put_;                     // the properties the host set
     std::uint64_t stamp_;                          // the host's last change to the object itself

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/indexed.h"
+#include "com/object_members.h"
 
 namespace tamrel::com {
 
@@ -30,29 +30,19 @@ void give(std::int64_t v, VARIANT& out);
 // A failed call with its reason, for the host's error (DISP_E_EXCEPTION).
 HRESULT raise(EXCEPINFO* excep, std::string_view source, std::string_view description);
 
-template <class M>
-constexpr bool is_vector = false;
-template <class M>
-constexpr bool is_vector<std::vector<M>> = true;
-template <class M>
-constexpr bool is_indexed = false;
-template <class M>
-constexpr bool is_indexed<Indexed<M>> = true;
-
-// The object as a report of the job format, read and written.
-constexpr DISPID kLoadJson = 9001;
-constexpr DISPID kToJson = 9002;
-
-// The extra names of a repeating group, after the table's properties.
-enum Extra : DISPID { kCount = 0, kAdd = 1, kClear = 2 };
-constexpr DISPID kExtraBase = 10000;
-// A property spelt with a prefix ("AngFmna"): its group's field and its
-// place in the nested type's table.
-constexpr DISPID kPrefixBase = 100000;
-constexpr DISPID prefixed_id(std::size_t field, std::size_t inner) {
-    return kPrefixBase + static_cast<DISPID>(field) * 256 + static_cast<DISPID>(inner);
-}
-constexpr DISPID extra_id(std::size_t field, Extra e) { return kExtraBase + static_cast<DISPID>(field) * 3 + e; }
+// The dispatch ids and kinds of members, as the interfaces list them.
+using members::Extra;
+using members::extra_id;
+using members::is_indexed;
+using members::is_vector;
+using members::kAdd;
+using members::kClear;
+using members::kCount;
+using members::kExtraBase;
+using members::kLoadJson;
+using members::kPrefixBase;
+using members::kToJson;
+using members::prefixed_id;
 
 // When a data object was last changed: a count over all of them, so that an
 // object knows whether its copy of its sub-objects is still current.

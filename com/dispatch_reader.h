@@ -17,6 +17,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "com/object_members.h"
 #include "core/indexed.h"
 #include "core/property_table.h"
 
@@ -68,11 +69,7 @@ namespace reading {
 
 // The count of a repeating group: the object's own count property, which
 // the property table binds too where the record writes it.
-inline std::string count_name(std::string_view group) {
-    if (group == "Position") return "AnzahlPositionen";
-    if (group == "Vorerkrankungen") return "ANZAHLAU";
-    return "Anzahl" + std::string(group);
-}
+inline std::string count_name(std::string_view group) { return members::count_name(group).text(); }
 
 template <class M>
 void read_value(const HostObject& o, std::string_view name, M& out, long index = 0) {

@@ -19,6 +19,8 @@ public:
     // Takes `value` (a `type`) as the object's data: a structure written
     // back after a call.
     virtual void STDMETHODCALLTYPE replace(const std::type_info& type, const void* value) = 0;
+    // The object's dual interface (added a reference).
+    virtual IDispatch* STDMETHODCALLTYPE dual() = 0;
 };
 
 // The record library's object behind `object` where it is one of these

@@ -29,13 +29,9 @@ std::wstring module_path() {
     return std::wstring(buffer, n);
 }
 
-ITypeLib* type_library() {
-    static ITypeLib* lib = [] {
-        ITypeLib* l = nullptr;
-        LoadTypeLibEx(module_path().c_str(), REGKIND_NONE, &l);
-        return l;
-    }();
-    return lib;
+// The type library resource `index` of the DLL ("path\\2" for the second).
+std::wstring library_path(int index) {
+    return index > 1 ? module_path() + L"\\" + std::to_wstring(index) : module_path();
 }
 
 std::wstring guid_text(const GUID& g) {
@@ -56,6 +52,31 @@ bool set_value(HKEY root, const std::wstring& key, const wchar_t* name, const st
 
 std::wstring progid(const ClassEntry& c) { return L"TamrelFile26." + utf16(c.name); }
 std::wstring progid(const DataClassEntry& c) { return L"TamrelObj26." + utf16(c.name); }
+
+// Registers the type library and gives its identifier.
+HRESULT register_library(int index, std::wstring& libid) {
+    ITypeLib* lib = type_library(index);
+    if (!lib) return TYPE_E_CANTLOADLIBRARY;
+    std::wstring path = library_path(index);
+    const HRESULT hr = RegisterTypeLib(lib, const_cast<wchar_t*>(path.c_str()), nullptr);
+    if (FAILED(hr)) return hr;
+    TLIBATTR* attr = nullptr;
+    lib->GetLibAttr(&attr);
+    libid = guid_text(attr->guid);
+    lib->ReleaseTLibAttr(attr);
+    return S_OK;
+}
+
+// Removes the type library's key and its interfaces' keys.
+HRESULT unregister_library(int index) {
+    ITypeLib* lib = type_library(index);
+    if (!lib) return TYPE_E_CANTLOADLIBRARY;
+    TLIBATTR* attr = nullptr;
+    lib->GetLibAttr(&attr);
+    const HRESULT hr = UnRegisterTypeLib(attr->guid, attr->wMajorVerNum, attr->wMinorVerNum, attr->lcid, attr->syskind);
+    lib->ReleaseTLibAttr(attr);
+    return hr == TYPE_E_REGISTRYACCESS ? S_OK : hr;
+}
 
 HRESULT class_object(IUnknown* (*create)(), REFIID iid, void** out) {
     auto* f = new (std::nothrow) ClassFactory(create, &g_live);
@@ -85,12 +106,22 @@ void unregister_class(const CLSID& clsid, const std::wstring& prog) {
 
 }  // namespace
 
+ITypeLib* type_library(int index) {
+    auto load = [](int i) {
+        ITypeLib* l = nullptr;
+        LoadTypeLibEx(library_path(i).c_str(), REGKIND_NONE, &l);
+        return l;
+    };
+    static ITypeLib* const libs[2] = {load(1), load(2)};
+    return index == 1 || index == 2 ? libs[index - 1] : nullptr;
+}
+
 ITypeInfo* type_info(REFIID iid) {
     // One ITypeInfo per interface, kept for the life of the process.
     static ITypeInfo* cache[32] = {};
     for (std::size_t i = 0; i < kClassCount; ++i) {
         if (kClasses[i].iid != iid) continue;
-        if (!cache[i] && type_library()) type_library()->GetTypeInfoOfGuid(iid, &cache[i]);
+        if (!cache[i] && type_library(1)) type_library(1)->GetTypeInfoOfGuid(iid, &cache[i]);
         return cache[i];
     }
     return nullptr;
@@ -113,8 +144,8 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
     *out = nullptr;
     for (std::size_t i = 0; i < kClassCount; ++i)
         if (kClasses[i].clsid == clsid && kClasses[i].create) return class_object(kClasses[i].create, iid, out);
-    for (std::size_t i = 0; i < kDataClassCount; ++i)
-        if (kDataClasses[i].clsid == clsid) return class_object(kDataClasses[i].create, iid, out);
+    for (const DataClassEntry& c : data_classes())
+        if (c.clsid == clsid) return class_object(c.create, iid, out);
     return CLASS_E_CLASSNOTAVAILABLE;
 }
 
@@ -122,21 +153,17 @@ STDAPI DllCanUnloadNow() { return g_live == 0 ? S_OK : S_FALSE; }
 
 STDAPI DllRegisterServer() {
     const std::wstring path = module_path();
-    ITypeLib* lib = type_library();
-    if (!lib) return TYPE_E_CANTLOADLIBRARY;
-    HRESULT hr = RegisterTypeLib(lib, const_cast<wchar_t*>(path.c_str()), nullptr);
+    std::wstring libid, objects_libid;
+    HRESULT hr = register_library(1, libid);
+    if (SUCCEEDED(hr)) hr = register_library(2, objects_libid);
     if (FAILED(hr)) return hr;
-    TLIBATTR* attr = nullptr;
-    lib->GetLibAttr(&attr);
-    const std::wstring libid = guid_text(attr->guid);
-    lib->ReleaseTLibAttr(attr);
     for (std::size_t i = 0; i < kClassCount; ++i) {
         const ClassEntry& c = kClasses[i];
         if (!c.create) continue;  // clsGenDef: described by the type library, not creatable
         if (!register_class(c.clsid, progid(c), path, &libid)) return SELFREG_E_CLASS;
     }
-    for (std::size_t i = 0; i < kDataClassCount; ++i)
-        if (!register_class(kDataClasses[i].clsid, progid(kDataClasses[i]), path, nullptr)) return SELFREG_E_CLASS;
+    for (const DataClassEntry& c : data_classes())
+        if (!register_class(c.clsid, progid(c), path, &objects_libid)) return SELFREG_E_CLASS;
     return S_OK;
 }
 
@@ -145,13 +172,8 @@ STDAPI DllUnregisterServer() {
         const ClassEntry& c = kClasses[i];
         if (c.create) unregister_class(c.clsid, progid(c));
     }
-    for (std::size_t i = 0; i < kDataClassCount; ++i) unregister_class(kDataClasses[i].clsid, progid(kDataClasses[i]));
-    ITypeLib* lib = type_library();
-    if (!lib) return TYPE_E_CANTLOADLIBRARY;
-    TLIBATTR* attr = nullptr;
-    lib->GetLibAttr(&attr);
-    // Removes the type library's key and its interfaces' keys.
-    const HRESULT hr = UnRegisterTypeLib(attr->guid, attr->wMajorVerNum, attr->wMinorVerNum, attr->lcid, attr->syskind);
-    lib->ReleaseTLibAttr(attr);
-    return hr == TYPE_E_REGISTRYACCESS ? S_OK : hr;
+    for (const DataClassEntry& c : data_classes()) unregister_class(c.clsid, progid(c));
+    const HRESULT hr = unregister_library(1);
+    const HRESULT objects = unregister_library(2);
+    return FAILED(hr) ? hr : objects;
 }

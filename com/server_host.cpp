@@ -37,14 +37,17 @@ void append_log_line(std::string_view line) {
 }
 
 // TAMREL_NOW ("YYYY-MM-DDTHH:MM:SS") fixes the clock, for files that come
-// out the same on every run.
+// out the same on every run. Read once, when the clock is first asked: the
+// environment is the process's from its start.
 Date clock_now() {
-    wchar_t buffer[64];
-    const DWORD n = GetEnvironmentVariableW(L"TAMREL_NOW", buffer, 64);
-    if (n == 0 || n >= 64) return system_now();
-    const std::string text = utf8(buffer, n);
-    if (const std::optional<Date> d = parse_iso_date(text); d && !d->is_empty()) return *d;
-    raise(E_INVALIDARG, "TamrelFile26", "TAMREL_NOW \"" + text + "\": expected YYYY-MM-DDTHH:MM:SS");
+    static const std::string fixed = [] {
+        wchar_t buffer[64];
+        const DWORD n = GetEnvironmentVariableW(L"TAMREL_NOW", buffer, 64);
+        return n == 0 || n >= 64 ? std::string() : utf8(buffer, n);
+    }();
+    if (fixed.empty()) return system_now();
+    if (const std::optional<Date> d = parse_iso_date(fixed); d && !d->is_empty()) return *d;
+    raise(E_INVALIDARG, "TamrelFile26", "TAMREL_NOW \"" + fixed + "\": expected YYYY-MM-DDTHH:MM:SS");
 }
 
 using TestObject = std::shared_ptr<IDispatch>;

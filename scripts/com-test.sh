@@ -105,11 +105,15 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       "$wine" regedit /E "$(win "$work/classes.reg")" HKEY_CLASSES_ROOT 2>/dev/null
       iconv -f UTF-16 -t UTF-8 "$work/classes.reg" | grep '^\[' |
         grep -i -F -e TamrelFile26 -e TamrelObj26 $(grep -o -i -E '[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}' \
-          com/TamrelFile26.idl com/data_objects.cpp | sed 's/^[^:]*://; s/^/-e /') || true
+          com/TamrelFile26.idl com/TamrelObj26.idl | sed 's/^[^:]*://; s/^/-e /') || true
     }
     registered=$(ours | wc -l)
-    # The generator classes (14) and the data objects (17), with their ProgIDs.
-    ((registered >= 14 * 3 + 3 + 17 * 6)) || fail "$arch: only $registered keys registered"
+    # The generator classes (14) and the data objects (49), with their ProgIDs.
+    ((registered >= 14 * 3 + 3 + 49 * 6)) || fail "$arch: only $registered keys registered"
+    # Every member of every data object's dual interface against late binding.
+    "$wine" "$work/com_client.exe" interfaces 2>/dev/null | tr -d '\r' | tee "$work/interfaces.out" |
+      grep -q "^[0-9]* properties of 49 classes set through their interfaces and read back by name$" ||
+      fail "$arch: the data objects' interfaces differ from their late binding: $(cat "$work/interfaces.out")"
     export TAMREL_LOG
     TAMREL_LOG=$(win "$work/tamrel.log")
     "$wine" cscript //nologo "$(win "$PWD/tests/com/generators.vbs")" "$(win "$work/expected.txt")" 2>/dev/null |
@@ -147,6 +151,10 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
         "$(win "$work/$n.obj.proto")" || fail "$arch: $n: the client failed with data objects"
       cmp -s "$work/$n.obj.txt" "$work/$n.want" || fail "$arch: $n: with data objects, the file differs"
       cmp -s "$work/$n.obj.proto" "$work/$n.want-proto" || fail "$arch: $n: with data objects, the protocol differs"
+      # The same, the data objects filled through their dual interfaces.
+      "$wine" "$work/com_client.exe" objects-early "$(win "$PWD/$ex")" "$(win "$work/$n.early.txt")" \
+        "$(win "$work/$n.early.proto")" || fail "$arch: $n: the client failed filling data objects early bound"
+      cmp -s "$work/$n.early.txt" "$work/$n.want" || fail "$arch: $n: with early-bound data objects, the file differs"
       # The whole file again from a script with no class of its own, every call
       # late bound: the objects filled property by property, and by LoadJson
       # of the report with a round trip through ToJson. Each object's ToJson()
@@ -165,7 +173,8 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       done
     done
     echo "com-test: $arch: $(ls examples/*.json | wc -l) example files and protocols identical to tamrel generate's," \
-      "from the client's objects and from TamrelObj26's, and the files from VBScript with each ToJson() its report"
+      "from the client's objects and from TamrelObj26's (late and early bound), and the files from VBScript with each" \
+      "ToJson() its report"
     python3 tests/com/replay.py build/tamrel "$work" "$wine" "$work/com_client.exe" || fail "$arch: replay failed"
     if [[ -n ${COM_BENCH:-} ]]; then
       for mode in bench bench-objects; do

@@ -158,7 +158,8 @@ Dim jm
 Set jm = CreateObject("TamrelObj26.Meldung")
 jm.LoadJson "{""Laufnummer"":5,""Vorgang"":{""Familienname"":""Muster"",""Arbeitgeber"":{""Betriebsnummer"":""98765432""}},""KsZeileA"":[""DE""]}"
 CheckEqual jm.Vorgang.Arbeitgeber.Betriebsnummer, "98765432", "LoadJson fills the sub-objects"
-CheckEqual jm.ToJson(), "{""Laufnummer"":5,""KsZeileA"":[""DE""],""KsLetzter"":1,""Vorgang"":{""Familienname"":""Muster"",""Arbeitgeber"":{""Betriebsnummer"":""98765432""}}}", "ToJson"
+CheckEqual jm.ToJson(), "{""Laufnummer"":5,""KsZeileA"":[""DE""],""Vorgang"":{""Familienname"":""Muster"",""Arbeitgeber"":{""Betriebsnummer"":""98765432""}}}", "ToJson: what was given, nothing derived"
+CheckEqual jm.KsLetzter, 1, "a derived bound reads as derived"
 On Error Resume Next
 Err.Clear
 jm.LoadJson "{""Unbekannt"":1}"

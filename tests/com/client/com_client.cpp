@@ -7,6 +7,12 @@
 //                                         line: result, or error and log lines
 //   com_client objects JOB OUT PROTOCOL   as generate, with each report in a
 //                                         data object of TamrelObj26
+//   com_client objects-early JOB OUT PROTOCOL
+//                                         the same, the data objects filled
+//                                         through their dual interfaces
+//   com_client interfaces                 every property of every data object
+//                                         set through its dual interface and
+//                                         read back by name
 //   com_client bench JOB N                N calls of GenData with the first
 //                                         report, as reports per second
 //   com_client bench-objects JOB N        the same with a data object of
@@ -271,14 +277,16 @@ void write_lines(const std::string& path, const std::vector<std::string>& lines)
 struct Object {
     IDispatch* d;
     explicit Object(const json& report) : d(new JsonObject(report)) {}
-    Object(const json& report, const std::string& cls) : d(own_object(cls.substr(6), report)) {}
+    Object(const json& report, const std::string& cls, Binding how = Binding::Late)
+        : d(own_object(cls.substr(6), report, how)) {}
     ~Object() { d->Release(); }
     Object(const Object&) = delete;
     Object& operator=(const Object&) = delete;
 };
 
 template <class Itf>
-void generate(const json& job, const std::string& cls, const std::string& out, const std::string& proto, bool own) {
+void generate(const json& job, const std::string& cls, const std::string& out, const std::string& proto, bool own,
+              Binding how) {
     Generator<Itf> g(job, cls);
     const bool xml = cls == "clsGenAsyl";
     std::vector<std::string> file, protocol;
@@ -291,7 +299,7 @@ void generate(const json& job, const std::string& cls, const std::string& out, c
     const auto method = kProto.find(cls);
     _clsProtoEntry* p = method == kProto.end() ? nullptr : create<_clsProtoEntry>("clsProtoEntry");
     for (const json& report : job.at("reports")) {
-        const Object obj = own ? Object(report, cls) : Object(report);
+        const Object obj = own ? Object(report, cls, how) : Object(report);
         file.push_back(g.data(obj.d));
         if (!p) continue;
         Text none(""), line;
@@ -359,8 +367,8 @@ void bench(const json& job, const std::string& cls, const std::string& count, bo
 template <class Itf>
 void run(const std::string& mode, const json& job, const std::string& cls, const std::vector<std::string>& args) {
     const std::string a = args.size() > 2 ? args[2] : "", b = args.size() > 3 ? args[3] : "";
-    if (mode == "generate" || mode == "objects")
-        generate<Itf>(job, cls, a, b, mode == "objects");
+    if (mode == "generate" || mode == "objects" || mode == "objects-early")
+        generate<Itf>(job, cls, a, b, mode != "generate", mode == "objects-early" ? Binding::Early : Binding::Late);
     else if (mode == "data")
         data<Itf>(job, cls);
     else
@@ -392,14 +400,22 @@ json read_json(const std::string& path) {
 
 int main(int argc, char** argv) {
     const std::vector<std::string> args(argv + 1, argv + argc);
-    if (args.size() < 2) {
-        std::fprintf(stderr,
-                     "usage: com_client generate|objects JOB OUT PROTOCOL | data JOB | bench|bench-objects JOB N\n");
+    const bool interfaces = args.size() == 1 && args[0] == "interfaces";
+    if (args.size() < 2 && !interfaces) {
+        std::fprintf(
+            stderr,
+            "usage: com_client generate|objects|objects-early JOB OUT PROTOCOL | data JOB | bench|bench-objects "
+            "JOB N | interfaces\n");
         return 2;
     }
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     int status = 0;
     try {
+        if (interfaces) {
+            std::printf("%s\n", check_interfaces().c_str());
+            CoUninitialize();
+            return 0;
+        }
         const json job = read_json(args[1]);
         if (job.contains("now")) SetEnvironmentVariableW(L"TAMREL_NOW", utf16(job["now"].get<std::string>()).c_str());
         static const json none;
