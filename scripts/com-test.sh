@@ -13,7 +13,8 @@
 # wineserver. 32-bit wine is unpacked privately (never by enabling the i386
 # architecture). Needs the Release build's tamrel.
 # COM_BENCH=N also times N DEUEV registrations through the client, with its
-# own data object and with a TamrelObj26 one.
+# own data object and with a TamrelObj26 one, and the cost of creating and
+# filling a TamrelObj26 object from VBScript (tests/com/fill_cost.vbs).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 missing=()
@@ -180,6 +181,7 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       for mode in bench bench-objects; do
         "$wine" "$work/com_client.exe" $mode "$(win "$PWD/examples/deuev-registration.json")" "$COM_BENCH" 2>/dev/null
       done
+      "$wine" cscript //nologo "$(win "$PWD/tests/com/fill_cost.vbs")" 3000 2>/dev/null | tr -d '\r'
     fi
 
     "$wine" regsvr32 /s /u "$(win "$work/TamrelFile26.dll")" 2>/dev/null || fail "$arch: regsvr32 /u failed"
