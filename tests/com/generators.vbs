@@ -158,6 +158,10 @@ Dim jm
 Set jm = CreateObject("TamrelObj26.Meldung")
 jm.LoadJson "{""Laufnummer"":5,""Vorgang"":{""Familienname"":""Muster"",""Arbeitgeber"":{""Betriebsnummer"":""98765432""}},""KsZeileA"":[""DE""]}"
 CheckEqual jm.Vorgang.Arbeitgeber.Betriebsnummer, "98765432", "LoadJson fills the sub-objects"
+Dim tv
+Set tv = CreateObject("TamrelObj26.Vorgang")
+tv.Titel = "Dr" & ChrW(&HFC) & ChrW(&H20AC) & ChrW(&HD83D) & ChrW(&HDE00) & "x"
+CheckEqual tv.Titel, "Dr" & ChrW(&HFC) & ChrW(&H20AC) & ChrW(&HD83D) & ChrW(&HDE00) & "x", "texts of two, three and four UTF-8 bytes come back"
 CheckEqual jm.ToJson(), "{""Laufnummer"":5,""KsZeileA"":[""DE""],""Vorgang"":{""Familienname"":""Muster"",""Arbeitgeber"":{""Betriebsnummer"":""98765432""}}}", "ToJson: what was given, nothing derived"
 CheckEqual jm.KsLetzter, 1, "a derived bound reads as derived"
 On Error Resume Next
