@@ -100,7 +100,10 @@ public:
     }
 
 protected:
-    void* interface_for(REFIID iid) override { return klass().info && iid == klass().iid ? &view_ : nullptr; }
+    void* interface_for(REFIID iid) override {
+        if (iid == IID_ISupportErrorInfo) return &errors_;
+        return klass().info && iid == klass().iid ? &view_ : nullptr;
+    }
 
 private:
     static const DataClassEntry& klass() {
@@ -439,8 +442,9 @@ private:
         }
     }
 
-    DualView<DataObject> view_{dual_table<DataObject, T>(), this};  // the dual interface
-    T data_{};                                                      // what the host set, without what is derived
+    DualView<DataObject> view_{dual_table<DataObject, T>(), this};       // the dual interface
+    DualView<DataObject> errors_{error_info_table<DataObject>(), this};  // ISupportErrorInfo
+    T data_{};                                                           // what the host set, without what is derived
     T built_{};                          // data_ with its sub-objects, items and what is derived, as of synced_
     IDispatch* children_[kFields] = {};  // the sub-objects, by field
     std::vector<IDispatch*> items_[kFields] = {};  // the items of the repeating groups, by field

@@ -222,7 +222,23 @@ HRESULT STDMETHODCALLTYPE invoke(DualView<Owner>* v, DISPID id, REFIID iid, LCID
     return v->owner->Invoke(id, iid, lcid, flags, p, result, e, arg_err);
 }
 
+// ISupportErrorInfo: every failure of the dual interface sets IErrorInfo.
+template <class Owner>
+HRESULT STDMETHODCALLTYPE supports_error_info(DualView<Owner>*, REFIID) {
+    return S_OK;
+}
+
 }  // namespace dual
+
+// The table of ISupportErrorInfo for objects of type Owner, so that an
+// early-bound host (VB6, VBA) shows the description a failure carries.
+template <class Owner>
+const TableEntry* error_info_table() {
+    using namespace dual;
+    static const std::array<TableEntry, 4> table{entry_of(&query<Owner>), entry_of(&add_ref<Owner>),
+                                                 entry_of(&release<Owner>), entry_of(&supports_error_info<Owner>)};
+    return table.data();
+}
 
 // The table of T's dual interface for objects of type Owner.
 template <class Owner, class T>

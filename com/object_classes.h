@@ -55,6 +55,10 @@ inline constexpr auto kTopClasses =
                     Top<DSKOData>{"DSKOData", "492EB28F-2B0B-45C0-91ED-DB27F1698AC1"},
                     Top<DatensatzData>{"DatensatzData", "9C4DE04A-D4AF-49C8-8C11-4004E01B10F0"});
 
+// The data object type of an entry of kTopClasses.
+template <class Entry>
+using TypeOf = typename std::remove_cvref_t<Entry>::type;
+
 template <class M>
 struct HeldBy {
     using type = M;
@@ -128,10 +132,8 @@ void each_class(Visit&& visit) {
     std::vector<const std::type_info*> seen;
     std::apply(
         [&](const auto&... t) {
-            ((seen.push_back(&typeid(typename std::remove_cvref_t<decltype(t)>::type)),
-              found.push_back({seen.back(), t.name, ""})),
-             ...);
-            (each_held<typename std::remove_cvref_t<decltype(t)>::type>(detail::Collect{found, seen, t.name}), ...);
+            ((seen.push_back(&typeid(TypeOf<decltype(t)>)), found.push_back({seen.back(), t.name, ""})), ...);
+            (each_held<TypeOf<decltype(t)>>(detail::Collect{found, seen, t.name}), ...);
         },
         kTopClasses);
     auto name_of = [&](const std::type_info& type) {
@@ -147,10 +149,10 @@ void each_class(Visit&& visit) {
     seen.clear();
     std::apply(
         [&](const auto&... t) {
-            ((seen.push_back(&typeid(typename std::remove_cvref_t<decltype(t)>::type)),
-              visit.template operator()<typename std::remove_cvref_t<decltype(t)>::type>(std::string(t.name), t.clsid)),
+            ((seen.push_back(&typeid(TypeOf<decltype(t)>)),
+              visit.template operator()<TypeOf<decltype(t)>>(std::string(t.name), t.clsid)),
              ...);
-            (each_held<typename std::remove_cvref_t<decltype(t)>::type>(
+            (each_held<TypeOf<decltype(t)>>(
                  detail::Announce<std::remove_reference_t<Visit>, decltype(name_of)>{visit, name_of, seen}),
              ...);
         },

@@ -12,7 +12,8 @@
 //                                         through their dual interfaces
 //   com_client interfaces                 every property of every data object
 //                                         set through its dual interface and
-//                                         read back by name
+//                                         read back by name; typed calls as a
+//                                         compiled host makes them
 //   com_client bench JOB N                N calls of GenData with the first
 //                                         report, as reports per second
 //   com_client bench-objects JOB N        the same with a data object of
@@ -27,6 +28,7 @@
 
 #include "TamrelFile26.h"
 #include "com/com_text.h"
+#include "early_bound.h"
 #include "json_object.h"
 #include "own_object.h"
 
@@ -412,7 +414,7 @@ int main(int argc, char** argv) {
     int status = 0;
     try {
         if (interfaces) {
-            std::printf("%s\n", check_interfaces().c_str());
+            std::printf("%s\n%s\n", check_interfaces().c_str(), check_early_bound().c_str());
             CoUninitialize();
             return 0;
         }
