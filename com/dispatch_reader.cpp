@@ -1,5 +1,10 @@
 #include "com/dispatch_reader.h"
 
+#include <memory>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
 #include "com/com_error.h"
 #include "com/com_text.h"
 #include "core/error.h"
@@ -31,11 +36,41 @@ constexpr HRESULT kNoSuchProperty = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTRO
     raise(DISP_E_TYPEMISMATCH, o.path(), "Typen unvertr\xC3\xA4glich: " + std::string(name));
 }
 
+// The dispatch ids of the classes met on this thread, by the identifier of
+// the interface their type information describes: a class's names mean
+// the same ids in every object of it, so each is looked up once. A thread
+// of its own: apartment objects are called on their thread, and no lock is
+// taken on the way.
+using ClassIds = std::unordered_map<std::string, DISPID, NameHash, std::equal_to<>>;
+ClassIds* ids_of_class(IDispatch* object) {
+    thread_local std::vector<std::pair<GUID, std::unique_ptr<ClassIds>>> classes;
+    UINT count = 0;
+    ITypeInfo* info = nullptr;
+    if (FAILED(object->GetTypeInfoCount(&count)) || count == 0 ||
+        FAILED(object->GetTypeInfo(0, LOCALE_USER_DEFAULT, &info)) || !info)
+        return nullptr;
+    TYPEATTR* attr = nullptr;
+    GUID guid = GUID_NULL;
+    if (SUCCEEDED(info->GetTypeAttr(&attr))) {
+        guid = attr->guid;
+        info->ReleaseTypeAttr(attr);
+    }
+    info->Release();
+    if (guid == GUID_NULL) return nullptr;  // no class to know it by
+    for (auto& [g, ids] : classes)
+        if (g == guid) return ids.get();
+    classes.emplace_back(guid, std::make_unique<ClassIds>());
+    return classes.back().second.get();
+}
+
 }  // namespace
+
+std::size_t NameHash::operator()(std::string_view name) const { return std::hash<std::string_view>{}(name); }
 
 HostObject::HostObject(IDispatch* object, std::string path) : object_(object), path_(std::move(path)) {
     // Scripting hosts' objects may answer only IDispatchEx, and by any case.
     if (FAILED(object_->QueryInterface(__uuidof(IDispatchEx), reinterpret_cast<void**>(&ex_)))) ex_ = nullptr;
+    if (!ex_) class_ids_ = ids_of_class(object_);
 }
 
 HostObject::~HostObject() {
@@ -43,6 +78,9 @@ HostObject::~HostObject() {
 }
 
 DISPID HostObject::id_of(std::string_view name) const {
+    if (class_ids_) {
+        if (const auto known = class_ids_->find(name); known != class_ids_->end()) return known->second;
+    }
     // Property names are short and ASCII: widened on the stack.
     wchar_t wide[64];
     std::wstring long_name;
@@ -63,6 +101,7 @@ DISPID HostObject::id_of(std::string_view name) const {
     }
     if (FAILED(hr)) hr = object_->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
     if (FAILED(hr)) no_such_property(*this, name);
+    if (class_ids_) class_ids_->emplace(name, id);
     return id;
 }
 

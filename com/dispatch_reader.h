@@ -10,11 +10,13 @@
 #include <dispex.h>
 #include <oleauto.h>
 
+#include <functional>
 #include <limits>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <unordered_map>
 #include <vector>
 
 #include "com/object_members.h"
@@ -25,6 +27,13 @@ namespace tamrel::com {
 
 // One object of the host, named by its path ("objMeldung.Vorgang") for the
 // log line of a failing read.
+// Names hashed as they are given (a class's names are asked the same way
+// each time).
+struct NameHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view name) const;
+};
+
 class HostObject {
 public:
     HostObject(IDispatch* object, std::string path);
@@ -43,6 +52,9 @@ private:
     VARIANT invoke(std::string_view name, VARIANT* argument) const;
     IDispatch* object_;
     IDispatchEx* ex_ = nullptr;  // the scripting hosts' interface, when the object has it
+    // The ids of the object's class, where its type information names the
+    // class: each name looked up once a thread.
+    std::unordered_map<std::string, DISPID, NameHash, std::equal_to<>>* class_ids_ = nullptr;
     std::string path_;
 };
 

@@ -13,7 +13,8 @@
 # wineserver. 32-bit wine is unpacked privately (never by enabling the i386
 # architecture). Needs the Release build's tamrel.
 # COM_BENCH=N also times N DEUEV registrations through the client, with its
-# own data object and with a TamrelObj26 one, and the cost of creating and
+# own data object (of no class, and of a class with type information) and
+# with a TamrelObj26 one, and the cost of creating and
 # filling a TamrelObj26 object from VBScript (tests/com/fill_cost.vbs).
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -118,6 +119,12 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       "$work/interfaces.out" || fail "$arch: the data objects' interfaces: $(cat "$work/interfaces.out")"
     grep -q "^typed calls through .*, as a compiled host sees them$" "$work/interfaces.out" ||
       fail "$arch: typed calls through the data objects' interfaces: $(cat "$work/interfaces.out")"
+    # A host's objects of a class with type information: each name asked once.
+    "$wine" "$work/com_client.exe" lookups "$(win "$PWD/examples/deuev-registration.json")" 2>&1 | tr -d '\r' \
+      >"$work/lookups.out" || true
+    local once="[1-9][0-9]* for the first of a class, 0 for 10 more"
+    grep -q "^name lookups: [1-9][0-9]* for 10 reports of objects of no class, $once$" "$work/lookups.out" ||
+      fail "$arch: dispatch ids are not kept by class: $(cat "$work/lookups.out")"
     export TAMREL_LOG
     TAMREL_LOG=$(win "$work/tamrel.log")
     "$wine" cscript //nologo "$(win "$PWD/tests/com/generators.vbs")" "$(win "$work/expected.txt")" 2>/dev/null |
@@ -181,7 +188,7 @@ sys.stdout.buffer.write(("\ufeff" + "\r\n".join(lines) + "\r\n").encode("utf-16-
       "ToJson() its report"
     python3 tests/com/replay.py build/tamrel "$work" "$wine" "$work/com_client.exe" || fail "$arch: replay failed"
     if [[ -n ${COM_BENCH:-} ]]; then
-      for mode in bench bench-objects; do
+      for mode in bench bench-typed bench-objects; do
         "$wine" "$work/com_client.exe" $mode "$(win "$PWD/examples/deuev-registration.json")" "$COM_BENCH" 2>/dev/null
       done
       "$wine" cscript //nologo "$(win "$PWD/tests/com/fill_cost.vbs")" 3000 2>/dev/null | tr -d '\r'

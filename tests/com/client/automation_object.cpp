@@ -1,5 +1,7 @@
 #include "automation_object.h"
 
+#include <map>
+
 #include "com/com_text.h"
 
 using tamrel::com::utf8;
@@ -30,13 +32,46 @@ ULONG AutomationObject::Release() {
     return n;
 }
 
+std::atomic<long> AutomationObject::lookups{0};
+
+ITypeInfo* class_info(const std::string& name) {
+    static std::map<std::string, ITypeInfo*> made;  // kept for the process
+    ITypeInfo*& info = made[name];
+    if (info) return info;
+#ifdef _WIN64
+    constexpr SYSKIND kind = SYS_WIN64;
+#else
+    constexpr SYSKIND kind = SYS_WIN32;
+#endif
+    ICreateTypeLib2* lib = nullptr;
+    ICreateTypeInfo* type = nullptr;
+    std::wstring wide(name.begin(), name.end());
+    GUID guid;
+    if (FAILED(CoCreateGuid(&guid)) || FAILED(CreateTypeLib2(kind, L"host.tlb", &lib))) return nullptr;
+    if (SUCCEEDED(lib->CreateTypeInfo(wide.data(), TKIND_DISPATCH, &type))) {
+        type->SetGuid(guid);
+        type->QueryInterface(IID_ITypeInfo, reinterpret_cast<void**>(&info));
+        type->Release();
+    }
+    return info;  // the library stays with its type information
+}
+
 HRESULT AutomationObject::GetTypeInfoCount(UINT* n) {
     if (!n) return E_POINTER;
-    *n = 0;
+    *n = class_ ? 1 : 0;
+    return S_OK;
+}
+
+HRESULT AutomationObject::GetTypeInfo(UINT i, LCID, ITypeInfo** out) {
+    if (!out) return E_POINTER;
+    *out = i == 0 ? class_ : nullptr;
+    if (!*out) return DISP_E_BADINDEX;
+    (*out)->AddRef();
     return S_OK;
 }
 
 HRESULT AutomationObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
+    ++lookups;
     HRESULT hr = S_OK;
     for (UINT i = 0; i < count; ++i) {
         // Names are ASCII as a rule: narrowed on the stack.

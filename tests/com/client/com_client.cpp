@@ -18,6 +18,10 @@
 //                                         report, as reports per second
 //   com_client bench-objects JOB N        the same with a data object of
 //                                         TamrelObj26, filled once
+//   com_client bench-typed JOB N          the same with the client's object
+//                                         as a class with type information
+//   com_client lookups JOB                how often the server asks for a
+//                                         name, with and without a class
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -279,6 +283,7 @@ void write_lines(const std::string& path, const std::vector<std::string>& lines)
 struct Object {
     IDispatch* d;
     explicit Object(const json& report) : d(new JsonObject(report)) {}
+    explicit Object(IDispatch* made) : d(made) {}
     Object(const json& report, const std::string& cls, Binding how = Binding::Late)
         : d(own_object(cls.substr(6), report, how)) {}
     ~Object() { d->Release(); }
@@ -350,11 +355,13 @@ void data(const json& job, const std::string& cls) {
     }
 }
 
+// N calls with the first report: the client's object (as a class of its
+// own with type information when `typed`), or a TamrelObj26 one.
 template <class Itf>
-void bench(const json& job, const std::string& cls, const std::string& count, bool own) {
+void bench(const json& job, const std::string& cls, const std::string& count, bool own, bool typed) {
     Generator<Itf> g(job, cls);
     const json& report = job.at("reports").at(0);
-    const Object obj = own ? Object(report, cls) : Object(report);
+    const Object obj = own ? Object(report, cls) : typed ? Object(new JsonObject(report, "Report")) : Object(report);
     const long n = std::stol(count);
     LARGE_INTEGER f, t0, t1;
     QueryPerformanceFrequency(&f);
@@ -365,6 +372,26 @@ void bench(const json& job, const std::string& cls, const std::string& count, bo
     std::printf("%s: %ld reports in %.3f s: %.0f reports/s\n", cls.c_str(), n, seconds, n / seconds);
 }
 
+// How often the server asks the host's objects for a name: objects of no
+// class ask each time, objects of a class (with type information) once.
+template <class Itf>
+void lookups(const json& job, const std::string& cls) {
+    Generator<Itf> g(job, cls);
+    const json& report = job.at("reports").at(0);
+    auto count = [&](int n, bool typed) {
+        const long before = AutomationObject::lookups;
+        for (int i = 0; i < n; ++i) {
+            const Object obj = typed ? Object(new JsonObject(report, "Report")) : Object(report);
+            g.data(obj.d);
+        }
+        return AutomationObject::lookups - before;
+    };
+    const long untyped = count(10, false), first = count(1, true), then = count(10, true);
+    std::printf(
+        "name lookups: %ld for 10 reports of objects of no class, %ld for the first of a class, %ld for 10 more\n",
+        untyped, first, then);
+}
+
 // Runs a mode for a generator class, through its default interface.
 template <class Itf>
 void run(const std::string& mode, const json& job, const std::string& cls, const std::vector<std::string>& args) {
@@ -373,8 +400,10 @@ void run(const std::string& mode, const json& job, const std::string& cls, const
         generate<Itf>(job, cls, a, b, mode != "generate", mode == "objects-early" ? Binding::Early : Binding::Late);
     else if (mode == "data")
         data<Itf>(job, cls);
+    else if (mode == "lookups")
+        lookups<Itf>(job, cls);
     else
-        bench<Itf>(job, cls, a, mode == "bench-objects");
+        bench<Itf>(job, cls, a, mode == "bench-objects", mode == "bench-typed");
 }
 using Runner = void (*)(const std::string&, const json&, const std::string&, const std::vector<std::string>&);
 const std::map<std::string, Runner> kRunners = {
@@ -404,10 +433,9 @@ int main(int argc, char** argv) {
     const std::vector<std::string> args(argv + 1, argv + argc);
     const bool interfaces = args.size() == 1 && args[0] == "interfaces";
     if (args.size() < 2 && !interfaces) {
-        std::fprintf(
-            stderr,
-            "usage: com_client generate|objects|objects-early JOB OUT PROTOCOL | data JOB | bench|bench-objects "
-            "JOB N | interfaces\n");
+        std::fprintf(stderr,
+                     "usage: com_client generate|objects|objects-early JOB OUT PROTOCOL | data|lookups JOB | "
+                     "bench|bench-objects|bench-typed JOB N | interfaces\n");
         return 2;
     }
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);

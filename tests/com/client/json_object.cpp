@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 
 #include "com/class_factory.h"
 #include "com/com_text.h"
@@ -50,7 +51,8 @@ const json* entry(const json& v, long index) {
     return nullptr;
 }
 
-HRESULT to_variant(const json* v, VARIANT& out) {
+// An object (a group's item) is made of the class `cls`.
+HRESULT to_variant(const json* v, VARIANT& out, const std::string& cls = {}) {
     if (!v || v->is_null()) return S_OK;
     if (v->is_string()) {
         V_VT(&out) = VT_BSTR;
@@ -72,7 +74,7 @@ HRESULT to_variant(const json* v, VARIANT& out) {
         V_R8(&out) = v->get<double>();
     } else if (v->is_object()) {
         V_VT(&out) = VT_DISPATCH;
-        V_DISPATCH(&out) = new JsonObject(*v);
+        V_DISPATCH(&out) = new JsonObject(*v, cls);
     }
     return S_OK;
 }
@@ -100,6 +102,40 @@ std::size_t JsonObject::NameHash::operator()(std::string_view name) const {
     std::uint64_t h = 14695981039346656037ull;  // FNV-1a over the name in lower case
     for (char c : name) h = (h ^ static_cast<unsigned char>(c | 0x20)) * 1099511628211ull;
     return static_cast<std::size_t>(h);
+}
+
+namespace {
+
+// The names of a class of the host's, in the order first met: their ids,
+// the same in every object of the class, as a compiled class's are.
+std::vector<std::string>& class_names(const std::string& cls) {
+    static std::map<std::string, std::vector<std::string>> names;
+    return names[cls];
+}
+
+const json* key_of(const json& v, std::string_view name) {
+    if (v.is_object())
+        for (const auto& [k, x] : v.items())
+            if (same_name(k, name)) return &x;
+    return nullptr;
+}
+
+}  // namespace
+
+JsonObject::JsonObject(const json& value, std::string cls) : value_(value), class_name_(std::move(cls)) {
+    if (class_name_.empty()) return;
+    class_ = class_info(class_name_);
+    std::vector<std::string>& names = class_names(class_name_);
+    if (value.is_object())
+        for (const auto& [k, v] : value.items())
+            if (std::none_of(names.begin(), names.end(), [&](const std::string& n) { return same_name(n, k); }))
+                names.push_back(k);
+    for (const std::string& n : names) {
+        slots_.push_back({n, key_of(value, n), false, 0, {}, nullptr});
+        ids_.emplace(n, static_cast<DISPID>(slots_.size()));
+    }
+    for (Slot& slot : slots_)
+        if (!slot.value) slot.has_derived = derived(slot.name, slot.derived);
 }
 
 JsonObject::JsonObject(const json& value) : value_(value) {
@@ -149,11 +185,25 @@ bool JsonObject::derived(std::string_view name, long& out) const {
 
 DISPID JsonObject::id_of(std::string_view name) {
     if (const auto it = ids_.find(name); it != ids_.end()) return it->second;
-    Slot slot{std::string(name), nullptr, false, 0, {}, nullptr};
-    slot.has_derived = derived(name, slot.derived);
+    if (!class_name_.empty()) {
+        catch_up();
+        if (const auto it = ids_.find(name); it != ids_.end()) return it->second;
+        class_names(class_name_).emplace_back(name);  // the class's next id
+    }
+    return add(name);
+}
+
+DISPID JsonObject::add(std::string_view name) {
+    Slot slot{std::string(name), key_of(value_, name), false, 0, {}, nullptr};
+    if (!slot.value) slot.has_derived = derived(name, slot.derived);
     slots_.push_back(std::move(slot));
     ids_.emplace(std::string(name), static_cast<DISPID>(slots_.size()));
     return static_cast<DISPID>(slots_.size());
+}
+
+void JsonObject::catch_up() {
+    for (const std::vector<std::string>& names = class_names(class_name_); slots_.size() < names.size();)
+        add(names[slots_.size()]);
 }
 
 // A property read without an index: texts kept in UTF-16, sub-objects kept.
@@ -167,7 +217,7 @@ HRESULT JsonObject::whole(Slot& slot, VARIANT& result) {
         return S_OK;
     }
     if (v.is_object()) {
-        if (!slot.child) slot.child = new JsonObject(v);
+        if (!slot.child) slot.child = new JsonObject(v, class_name_.empty() ? "" : class_name_ + "_" + slot.name);
         slot.child->AddRef();
         V_VT(&result) = VT_DISPATCH;
         V_DISPATCH(&result) = slot.child;
@@ -177,6 +227,7 @@ HRESULT JsonObject::whole(Slot& slot, VARIANT& result) {
 }
 
 HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result, EXCEPINFO* error) {
+    if (!class_name_.empty()) catch_up();  // an id another object of the class was asked for first
     if (id < 1 || static_cast<std::size_t>(id) > slots_.size()) return DISP_E_MEMBERNOTFOUND;
     Slot& slot = slots_[static_cast<std::size_t>(id - 1)];
     const long index = index_argument(params);
@@ -189,7 +240,7 @@ HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result,
     }
     if (slot.value->is_object() && slot.value->contains("$raise")) return raise(slot.value->at("$raise"), error);
     if (index == 0) return whole(slot, result);
-    return to_variant(entry(*slot.value, index), result);
+    return to_variant(entry(*slot.value, index), result, class_name_.empty() ? "" : class_name_ + "_" + slot.name);
 }
 
 namespace {

@@ -20,6 +20,9 @@ using nlohmann::json;
 class JsonObject : public AutomationObject {
 public:
     explicit JsonObject(const json& value);  // `value` outlives the object
+    // The same as an object of the host's class `cls` (with type
+    // information), its sub-objects and items of classes named after it.
+    JsonObject(const json& value, std::string cls);
 
 protected:
     DISPID id_of(std::string_view name) override;
@@ -47,11 +50,14 @@ private:
     };
     ~JsonObject() override;
     const json* member(std::string_view name) const;
+    DISPID add(std::string_view name);  // a new slot, its id
+    void catch_up();                    // slots for the names its class knows
     bool derived(std::string_view name, long& out) const;
     HRESULT whole(Slot& slot, VARIANT& result);
     std::vector<Slot> slots_;  // by DISPID - 1
     std::unordered_map<std::string, DISPID, NameHash, NameEqual> ids_;
     const json& value_;
+    std::string class_name_;  // empty: no class
 };
 
 // The host program's test object: NameTest, EmpfBknTest1 and EmpfBknTest2
