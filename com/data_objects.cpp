@@ -79,7 +79,7 @@ HRESULT raise(EXCEPINFO* excep, std::string_view source, std::string_view descri
 namespace {
 
 template <class T>
-IUnknown* make() {
+IUnknown* make_data_object() {
     return static_cast<IDispatch*>(new DataObject<T>());
 }
 
@@ -116,7 +116,7 @@ const std::vector<DataClassEntry>& data_classes() {
     static const std::vector<DataClassEntry> classes = [] {
         std::vector<DataClassEntry> out;
         members::each_class([&]<class T>(const std::string& name, const char*) {
-            out.push_back({name, &typeid(T), &make<T>, CLSID{}, IID{}, nullptr});
+            out.push_back({name, &typeid(T), &make_data_object<T>, CLSID{}, IID{}, nullptr});
         });
         identify(out, type_library(2));
         return out;

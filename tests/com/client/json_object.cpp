@@ -123,7 +123,10 @@ const json* key_of(const json& v, std::string_view name) {
 }  // namespace
 
 JsonObject::JsonObject(const json& value, std::string cls) : value_(value), class_name_(std::move(cls)) {
-    if (class_name_.empty()) return;
+    if (class_name_.empty()) {
+        init_keys();
+        return;
+    }
     class_ = class_info(class_name_);
     std::vector<std::string>& names = class_names(class_name_);
     if (value.is_object())
@@ -138,9 +141,11 @@ JsonObject::JsonObject(const json& value, std::string cls) : value_(value), clas
         if (!slot.value) slot.has_derived = derived(slot.name, slot.derived);
 }
 
-JsonObject::JsonObject(const json& value) : value_(value) {
-    if (!value.is_object()) return;
-    for (const auto& [k, v] : value.items()) {
+JsonObject::JsonObject(const json& value) : value_(value) { init_keys(); }
+
+void JsonObject::init_keys() {
+    if (!value_.is_object()) return;
+    for (const auto& [k, v] : value_.items()) {
         slots_.push_back({k, &v, false, 0, {}, nullptr});
         ids_.emplace(k, static_cast<DISPID>(slots_.size()));
     }

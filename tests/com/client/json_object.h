@@ -50,6 +50,7 @@ private:
     };
     ~JsonObject() override;
     const json* member(std::string_view name) const;
+    void init_keys();                   // a slot for each key, in the JSON's order
     DISPID add(std::string_view name);  // a new slot, its id
     void catch_up();                    // slots for the names its class knows
     bool derived(std::string_view name, long& out) const;
