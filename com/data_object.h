@@ -30,6 +30,7 @@
 #include "com/data_objects.h"
 #include "com/dispatch_reader.h"
 #include "com/dual_view.h"
+#include "com/object_members.h"
 #include "com/own_data.h"
 #include "core/indexed.h"
 #include "core/property_table.h"
@@ -125,7 +126,7 @@ private:
     HRESULT invoke(DISPID id, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO* excep, UINT* arg_err) {
         if (!params) return E_POINTER;
         if (arg_err) *arg_err = 0;
-        if (id == objects::kToJson || id == objects::kLoadJson) return json_method(id, *params, result, excep);
+        if (id == members::kToJson || id == members::kLoadJson) return json_method(id, *params, result, excep);
         const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
         // A put's value comes first; the index arguments follow, last one first.
         const UINT given = params->cArgs;
@@ -140,9 +141,9 @@ private:
         VARIANT& out = result ? *result : ignored;
         VariantInit(&out);
         HRESULT hr = DISP_E_MEMBERNOTFOUND;
-        if (id >= objects::kPrefixBase) {
-            const auto k = static_cast<std::size_t>((id - objects::kPrefixBase) / 256);
-            const auto j = static_cast<std::size_t>((id - objects::kPrefixBase) % 256);
+        if (id >= members::kPrefixBase) {
+            const auto k = static_cast<std::size_t>((id - members::kPrefixBase) / 256);
+            const auto j = static_cast<std::size_t>((id - members::kPrefixBase) % 256);
             each_field([&](std::size_t i, const auto& e) {
                 if constexpr (requires { e.prefix; }) {
                     if (i != k) return;
@@ -156,9 +157,9 @@ private:
                         properties::Binding<std::remove_reference_t<decltype(nested)>>::fields);
                 }
             });
-        } else if (id >= objects::kExtraBase) {
-            const auto k = static_cast<std::size_t>((id - objects::kExtraBase) / 3);
-            const auto e = static_cast<objects::Extra>((id - objects::kExtraBase) % 3);
+        } else if (id >= members::kExtraBase) {
+            const auto k = static_cast<std::size_t>((id - members::kExtraBase) / 3);
+            const auto e = static_cast<members::Extra>((id - members::kExtraBase) % 3);
             hr = group_extra(k, e, put, out);
         } else if (id >= 1 && static_cast<std::size_t>(id) <= kFields) {
             T& from = put ? data_ : built();  // a derived bound or count reads as it is derived
@@ -169,7 +170,7 @@ private:
             if (put && SUCCEEDED(hr)) put_[static_cast<std::size_t>(id - 1)] = true;
         }
         VariantClear(&ignored);
-        if (SUCCEEDED(hr) && (put || id >= objects::kExtraBase)) stamp_ = objects::next_stamp();
+        if (SUCCEEDED(hr) && (put || id >= members::kExtraBase)) stamp_ = objects::next_stamp();
         return hr;
     }
 
@@ -185,7 +186,7 @@ public:
             using M = std::remove_reference_t<decltype(data_.*(f.member))>;
             if constexpr (properties::Bound<M>) {
                 n = std::max(n, static_cast<DataObject<M>*>(children_[k])->newest());
-            } else if constexpr (objects::is_vector<M>) {
+            } else if constexpr (members::is_vector<M>) {
                 for (IDispatch* item : items_[k])
                     n = std::max(n, static_cast<DataObject<typename M::value_type>*>(item)->newest());
             }
@@ -213,7 +214,7 @@ private:
             using M = std::remove_reference_t<decltype(m)>;
             if constexpr (properties::Bound<M>) {
                 m = static_cast<DataObject<M>*>(children_[k])->current();
-            } else if constexpr (objects::is_vector<M>) {
+            } else if constexpr (members::is_vector<M>) {
                 using Item = typename M::value_type;
                 m.resize(items_[k].size());
                 for (std::size_t i = 0; i < m.size(); ++i)
@@ -266,7 +267,7 @@ private:
             children_[k]->Release();
             children_[k] = other;
             return S_OK;
-        } else if constexpr (objects::is_vector<M>) {
+        } else if constexpr (members::is_vector<M>) {
             if (put || indices != 1) return DISP_E_BADPARAMCOUNT;
             if (index < 1 || static_cast<std::size_t>(index) > items_[k].size()) return DISP_E_BADINDEX;
             IDispatch* item = items_[k][static_cast<std::size_t>(index - 1)];
@@ -274,7 +275,7 @@ private:
             V_VT(&out) = VT_DISPATCH;
             V_DISPATCH(&out) = item;
             return S_OK;
-        } else if constexpr (objects::is_indexed<M>) {
+        } else if constexpr (members::is_indexed<M>) {
             if (indices != 1) return DISP_E_BADPARAMCOUNT;
             if (index < std::numeric_limits<std::int16_t>::min() || index > std::numeric_limits<std::int16_t>::max())
                 return DISP_E_BADINDEX;
@@ -296,7 +297,7 @@ private:
     // takes one, in place of all the object held (its sub-objects stay the
     // same objects). A text that is no such report raises its reason.
     HRESULT json_method(DISPID id, const DISPPARAMS& params, VARIANT* result, EXCEPINFO* excep) {
-        if (id == objects::kToJson) {
+        if (id == members::kToJson) {
             if (params.cArgs != 0) return DISP_E_BADPARAMCOUNT;
             if (result) {
                 std::string json = "{";
@@ -332,13 +333,13 @@ public:
             const std::string name(f.name);
             put_[k] = j.is_object() && j.contains(name);
             const nlohmann::json& given = put_[k] ? j[name] : nlohmann::json();
-            if constexpr (!properties::Bound<M> && !objects::is_vector<M>) {
+            if constexpr (!properties::Bound<M> && !members::is_vector<M>) {
                 // What was not given holds what the reader derived: the
                 // object keeps what the host gave, and derives when built.
                 if (!put_[k]) data_.*(f.member) = fresh.*(f.member);
             } else if constexpr (properties::Bound<M>) {
                 static_cast<DataObject<M>*>(children_[k])->assign(v.*(f.member), given);
-            } else if constexpr (objects::is_vector<M>) {
+            } else if constexpr (members::is_vector<M>) {
                 using Item = typename M::value_type;
                 for (IDispatch* c : items_[k]) c->Release();
                 items_[k].clear();
@@ -371,7 +372,7 @@ public:
                     static_cast<const DataObject<M>*>(children_[k])->append_json(out);
                     out += '}';
                     if (!put_[k] && out.ends_with(":{}")) out.resize(before);
-                } else if constexpr (objects::is_vector<M>) {
+                } else if constexpr (members::is_vector<M>) {
                     if (!put_[k] && items_[k].empty()) return out.resize(before);
                     out += '[';
                     for (const IDispatch* item : items_[k]) {
@@ -390,17 +391,17 @@ public:
     }
 
 private:
-    HRESULT group_extra(std::size_t k, objects::Extra e, bool put, VARIANT& out) {
+    HRESULT group_extra(std::size_t k, members::Extra e, bool put, VARIANT& out) {
         HRESULT hr = DISP_E_MEMBERNOTFOUND;
         each([&](std::size_t i, const auto& f) {
             using M = std::remove_reference_t<decltype(data_.*(f.member))>;
-            if constexpr (objects::is_vector<M>) {
+            if constexpr (members::is_vector<M>) {
                 if (i != k) return;
                 using Item = typename M::value_type;
                 auto& list = items_[k];
-                if (e == objects::kCount) {
+                if (e == members::kCount) {
                     hr = put ? DISP_E_MEMBERNOTFOUND : give_value(static_cast<std::int64_t>(list.size()), out);
-                } else if (e == objects::kAdd) {
+                } else if (e == members::kAdd) {
                     list.push_back(new DataObject<Item>());
                     list.back()->AddRef();
                     V_VT(&out) = VT_DISPATCH;

@@ -1,6 +1,6 @@
 // The names and values of TamrelObj26's data objects: names in any case,
-// Variants as the properties' texts, flags and numbers, the dispatch ids
-// beyond the property table's, and the stamps that tell a change.
+// Variants as the properties' texts, flags and numbers, and the stamps that
+// tell a change. The dispatch ids are the interface's (com/object_members.h).
 #pragma once
 #include <windows.h>  // first: the other system headers build on it
 
@@ -10,9 +10,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
-
-#include "com/object_members.h"
 
 namespace tamrel::com {
 
@@ -29,20 +26,6 @@ void give(bool v, VARIANT& out);
 void give(std::int64_t v, VARIANT& out);
 // A failed call with its reason, for the host's error (DISP_E_EXCEPTION).
 HRESULT raise(EXCEPINFO* excep, std::string_view source, std::string_view description);
-
-// The dispatch ids and kinds of members, as the interfaces list them.
-using members::Extra;
-using members::extra_id;
-using members::is_indexed;
-using members::is_vector;
-using members::kAdd;
-using members::kClear;
-using members::kCount;
-using members::kExtraBase;
-using members::kLoadJson;
-using members::kPrefixBase;
-using members::kToJson;
-using members::prefixed_id;
 
 // When a data object was last changed: a count over all of them, so that an
 // object knows whether its copy of its sub-objects is still current.

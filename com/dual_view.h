@@ -12,6 +12,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <tuple>
 #include <utility>
 
 #include "com/com_error.h"
@@ -35,30 +36,10 @@ using members::Index;
 using members::Role;
 using members::Type;
 
-template <Type>
-struct Com {
-    using type = void;
-};
-template <>
-struct Com<Type::Text> {
-    using type = BSTR;
-};
-template <>
-struct Com<Type::Long> {
-    using type = LONG;
-};
-template <>
-struct Com<Type::Integer> {
-    using type = SHORT;
-};
-template <>
-struct Com<Type::Boolean> {
-    using type = VARIANT_BOOL;
-};
-template <>
-struct Com<Type::Object> {
-    using type = IDispatch*;
-};
+// The C++ type of a member's value in the interface, by its Type.
+template <Type T>
+using Com =
+    std::tuple_element_t<static_cast<std::size_t>(T), std::tuple<void, BSTR, LONG, SHORT, VARIANT_BOOL, IDispatch*>>;
 
 // A Variant that borrows the argument (nothing to clear).
 inline void borrow(VARIANT& v, BSTR x) { V_VT(&v) = VT_BSTR, V_BSTR(&v) = x; }
@@ -81,7 +62,7 @@ inline IDispatch* dual_of(IDispatch* d) {
 
 // The result as the interface's type; the Variant is left empty.
 template <Type T>
-HRESULT take(VARIANT& v, typename Com<T>::type* out) {
+HRESULT take(VARIANT& v, Com<T>* out) {
     if constexpr (T == Type::Object) {
         *out = V_VT(&v) == VT_DISPATCH ? dual_of(V_DISPATCH(&v)) : nullptr;
         const bool object = V_VT(&v) == VT_DISPATCH;
@@ -126,7 +107,7 @@ HRESULT call_owner(DualView<Owner>* view, std::int32_t id, WORD flags, DISPPARAM
 
 // A property's get or a method with a result.
 template <class Owner, std::int32_t Id, Role R, Type T, class... Ix>
-HRESULT STDMETHODCALLTYPE get(DualView<Owner>* view, Ix... index, typename Com<T>::type* out) {
+HRESULT STDMETHODCALLTYPE get(DualView<Owner>* view, Ix... index, Com<T>* out) {
     if (!out) return E_POINTER;
     VARIANT args[1];
     DISPPARAMS params{args, nullptr, sizeof...(Ix), 0};
@@ -140,7 +121,7 @@ HRESULT STDMETHODCALLTYPE get(DualView<Owner>* view, Ix... index, typename Com<T
 
 // A property's put (or put by `Set`), or a method with an argument.
 template <class Owner, std::int32_t Id, Role R, Type T, class... Ix>
-HRESULT STDMETHODCALLTYPE put(DualView<Owner>* view, Ix... index, typename Com<T>::type value) {
+HRESULT STDMETHODCALLTYPE put(DualView<Owner>* view, Ix... index, Com<T> value) {
     VARIANT args[1 + sizeof...(Ix)];  // the value first, then the index
     if constexpr (T == Type::Boolean)
         borrow_flag(args[0], value);
