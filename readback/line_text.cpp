@@ -1,33 +1,60 @@
+#include <bit>
 #include <cstring>
 
 #include "readback/report_reading.h"
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace tamrel::readback {
+
+namespace {
+
+constexpr std::size_t kStep = 16;
+
+// Sixteen characters narrowed to their low bytes; the bits of the result
+// mark those of more than seven bits.
+unsigned narrow_step(const char32_t* in, char* out) {
+#if defined(__SSE2__)
+    // Saturating packs keep 0..0xFF as they are and make any larger
+    // character (at most 0x10FFFF) 0xFF: the bytes' high bits are the wide
+    // characters.
+    auto load = [&](int k) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(in) + k); };
+    const __m128i lo = _mm_packs_epi32(load(0), load(1)), hi = _mm_packs_epi32(load(2), load(3));
+    const __m128i bytes = _mm_packus_epi16(lo, hi);
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes);
+    return static_cast<unsigned>(_mm_movemask_epi8(bytes));
+#else
+    unsigned wide = 0;
+    for (std::size_t i = 0; i < kStep; ++i) {
+        out[i] = static_cast<char>(in[i]);
+        wide |= static_cast<unsigned>(in[i] >= 0x80) << i;
+    }
+    return wide;
+#endif
+}
+
+}  // namespace
 
 const LineText& line_text(std::u32string_view line) {
     thread_local LineText text;
     text.chars = line.size();
     text.wide.clear();
-    // Narrowed sixteen characters a step, in a loop the compiler
-    // vectorises; a step that holds a wide character notes where.
+    // Narrowed sixteen characters a step; a step that holds a wide
+    // character notes where.
     text.utf8.resize(line.size());
     char* const narrow = text.utf8.data();
-    constexpr std::size_t kStep = 16;
-    auto note_wide = [&](std::size_t from, std::size_t to) {
-        for (std::size_t i = from; i < to; ++i)
-            if (line[i] >= 0x80) text.wide.push_back({static_cast<std::uint32_t>(i), 0});
-    };
+    auto note = [&](std::size_t i) { text.wide.push_back({static_cast<std::uint32_t>(i), 0}); };
     std::size_t b = 0;
     for (; b + kStep <= line.size(); b += kStep) {
-        char32_t any = 0;
-        for (std::size_t i = 0; i < kStep; ++i) {
-            any |= line[b + i];
-            narrow[b + i] = static_cast<char>(line[b + i]);
-        }
-        if (any >= 0x80) note_wide(b, b + kStep);
+        const unsigned wide = narrow_step(line.data() + b, narrow + b);
+        for (unsigned m = wide; m != 0; m &= m - 1) note(b + static_cast<std::size_t>(std::countr_zero(m)));
     }
-    for (std::size_t i = b; i < line.size(); ++i) narrow[i] = static_cast<char>(line[i]);
-    note_wide(b, line.size());
+    for (std::size_t i = b; i < line.size(); ++i) {
+        narrow[i] = static_cast<char>(line[i]);
+        if (line[i] >= 0x80) note(i);
+    }
     if (text.wide.empty()) return text;
     // The wide characters written as UTF-8, from the end backwards, in place.
     std::uint32_t extra = 0;

@@ -15,7 +15,7 @@
 
 #include "core/indexed.h"
 #include "core/property_table.h"
-#include "json/json_escape.h"
+#include "readback/json_text.h"
 
 namespace tamrel::readback {
 
@@ -50,15 +50,80 @@ bool convert(std::string_view text, M& out) {
 }
 
 // A property reached by its path, found once in the property tables: sets
-// it from a field's value (false where the value does not suit it).
+// it from a field's value (false where the value does not suit it). A
+// property that lies inside the object (through its sub-objects, not
+// through a list of items) is kept as its offset and a plain function of
+// its type, so that setting it is one direct call; an item of a repeating
+// block is reached through a general function that finds the item.
 template <class T>
-using Setter = std::function<bool(T&, const Place&, std::string_view)>;
+class Setter {
+public:
+    using Member = bool (*)(void* member, const Place& at, std::int16_t fixed, std::string_view value);
+    using General = std::function<bool(T&, const Place&, std::string_view)>;
+
+    Setter() = default;
+    Setter(Member set, std::size_t offset, std::int16_t fixed) : set_(set), offset_(offset), fixed_(fixed) {}
+    explicit Setter(General general) : general_(std::move(general)) {}
+
+    explicit operator bool() const { return set_ || general_; }
+    bool operator()(T& obj, const Place& at, std::string_view value) const {
+        if (set_) return set_(reinterpret_cast<char*>(&obj) + offset_, at, fixed_, value);
+        return general_ && general_(obj, at, value);
+    }
+
+    // This setter seen from an object that holds T at `offset`.
+    template <class Outer>
+    Setter<Outer> within(std::size_t offset) const {
+        if (set_) return {set_, offset + offset_, fixed_};
+        if (!general_) return {};
+        return Setter<Outer>(typename Setter<Outer>::General(
+            [offset, inner = general_](Outer& o, const Place& at, std::string_view value) {
+                return inner(*reinterpret_cast<T*>(reinterpret_cast<char*>(&o) + offset), at, value);
+            }));
+    }
+
+private:
+    Member set_ = nullptr;
+    std::size_t offset_ = 0;
+    std::int16_t fixed_ = 0;
+    General general_;
+};
 
 // The setter of the property at `path`; empty where the path names none.
 template <Bound T>
 Setter<T> resolve(std::string_view path);
 
 namespace detail {
+
+// Where a member lies in its object, measured once on an object of the type.
+template <class T, class O, class M>
+std::size_t offset_of(M O::*member) {
+    static const T probe{};
+    return static_cast<std::size_t>(reinterpret_cast<const char*>(&(probe.*member)) -
+                                    reinterpret_cast<const char*>(&probe));
+}
+
+// The entry "(i)" (fixed < 0: the entry of the list the field stands in)
+// or "(3)" of an indexed property.
+template <class M>
+bool set_entry(void* member, const Place& at, std::int16_t fixed, std::string_view value) {
+    M& m = *static_cast<M*>(member);
+    const std::int16_t i = fixed < 0 ? static_cast<std::int16_t>(at.entry) : fixed;
+    using Stored = std::remove_reference_t<decltype(m.slot(i))>;
+    if constexpr (std::is_same_v<Stored, std::string>) {
+        m.slot(i).assign(value);
+    } else {
+        bool b = false;
+        if (!convert(value, b)) return false;
+        m.slot(i) = b;
+    }
+    return true;
+}
+
+template <class M>
+bool set_plain(void* member, const Place&, std::int16_t, std::string_view value) {
+    return convert(value, *static_cast<M*>(member));
+}
 
 template <class M>
 Setter<M> resolve_member(std::string_view rest) {
@@ -72,11 +137,11 @@ Setter<M> resolve_member(std::string_view rest) {
             if (rest.size() < 2 || rest[0] != '.') return {};
             Setter<Item> inner = resolve<Item>(rest.substr(1));
             if (!inner) return {};
-            return [inner](M& m, const Place& at, std::string_view value) {
+            return Setter<M>(typename Setter<M>::General([inner](M& m, const Place& at, std::string_view value) {
                 if (at.item == 0) return false;
                 if (m.size() < at.item) m.resize(at.item);
                 return inner(m[at.item - 1], at, value);
-            };
+            }));
         } else {
             return {};
         }
@@ -84,24 +149,14 @@ Setter<M> resolve_member(std::string_view rest) {
         // "(i)": the entry of the list; "(3)": the third.
         if (rest.size() < 3 || rest.front() != '(' || rest.back() != ')') return {};
         const std::string_view index = rest.substr(1, rest.size() - 2);
-        const bool by_entry = index == "i";
-        std::int16_t fixed = 0;
-        if (!by_entry && std::from_chars(index.data(), index.data() + index.size(), fixed).ec != std::errc{}) return {};
-        return [by_entry, fixed](M& m, const Place& at, std::string_view value) {
-            const std::int16_t i = by_entry ? static_cast<std::int16_t>(at.entry) : fixed;
-            using Stored = std::remove_reference_t<decltype(m.slot(i))>;
-            if constexpr (std::is_same_v<Stored, std::string>) {
-                m.slot(i).assign(value);
-            } else {
-                bool b = false;
-                if (!convert(value, b)) return false;
-                m.slot(i) = b;
-            }
-            return true;
-        };
+        std::int16_t fixed = -1;
+        if (index != "i" &&
+            (std::from_chars(index.data(), index.data() + index.size(), fixed).ec != std::errc{} || fixed < 0))
+            return {};
+        return {&set_entry<M>, 0, fixed};
     } else {
         if (!rest.empty()) return {};
-        return [](M& m, const Place&, std::string_view value) { return convert(value, m); };
+        return {&set_plain<M>, 0, 0};
     }
 }
 
@@ -111,21 +166,13 @@ void try_entry(const properties::Field<O, M>& f, std::string_view path, Setter<T
     if (found || path.substr(0, f.name.size()) != f.name) return;
     const std::string_view rest = path.substr(f.name.size());
     if (!rest.empty() && rest[0] != '.' && rest[0] != '(') return;
-    Setter<M> inner = resolve_member<M>(rest);
-    if (inner)
-        found = [member = f.member, inner](T& obj, const Place& at, std::string_view value) {
-            return inner(obj.*member, at, value);
-        };
+    found = resolve_member<M>(rest).template within<T>(offset_of<T>(f.member));
 }
 
 template <class T, class O, class M>
 void try_entry(const properties::Prefixed<O, M>& f, std::string_view path, Setter<T>& found) {
     if (found || path.substr(0, f.prefix.size()) != f.prefix) return;
-    Setter<M> inner = resolve<M>(path.substr(f.prefix.size()));
-    if (inner)
-        found = [member = f.member, inner](T& obj, const Place& at, std::string_view value) {
-            return inner(obj.*member, at, value);
-        };
+    found = resolve<M>(path.substr(f.prefix.size())).template within<T>(offset_of<T>(f.member));
 }
 
 }  // namespace detail
@@ -148,66 +195,62 @@ bool assign(T& obj, std::string_view path, const Place& at, std::string_view val
 // The object's properties that differ from a new object's, as the members
 // of a JSON object (without braces; empty when none differs).
 template <Bound T>
-void append_members(std::string& out, const T& obj, std::string_view prefix = {});
+void append_members(JsonText& out, const T& obj, std::string_view prefix = {});
+template <Bound T>
+void append_members(std::string& out, const T& obj, std::string_view prefix = {}) {
+    JsonText text(out);
+    append_members(text, obj, prefix);
+}
 
 namespace detail {
 
-inline void key(std::string& out, std::string_view prefix, std::string_view name) {
-    const bool comma = !out.empty() && out.back() != '{' && out.back() != '[';
-    // One append for the whole key: names are short, and each append is a call.
-    char buf[64];
-    const std::size_t n = comma + 1 + prefix.size() + name.size() + 2;
-    if (n > sizeof buf) {
-        if (comma) out += ',';
-        ((((out += '"') += prefix) += name) += "\":");
-        return;
-    }
-    char* p = buf;
-    if (comma) *p++ = ',';
-    *p++ = '"';
-    p = std::copy(prefix.begin(), prefix.end(), p);
-    p = std::copy(name.begin(), name.end(), p);
-    *p++ = '"';
-    *p++ = ':';
-    out.append(buf, n);
-}
-
 template <class M>
-void append_value(std::string& out, const M& m) {
+void append_value(JsonText& out, const M& m) {
     if constexpr (std::is_same_v<M, std::string>) {
-        append_json_string(out, m);
+        out.put_string(m);
     } else if constexpr (std::is_same_v<M, bool>) {
-        out += m ? "true" : "false";
+        out.put(m ? std::string_view("true") : std::string_view("false"));
     } else if constexpr (std::is_integral_v<M>) {
-        out += std::to_string(m);
+        out.put_number(m);
     } else if constexpr (Bound<M>) {
-        out += '{';
+        out.put('{');
         append_members(out, m);
-        out += '}';
+        out.put('}');
     } else if constexpr (requires { m.view(); }) {
         // An indexed property: from index 1 an array of every entry (its
         // bounds are the list's), else its entries that hold anything.
         const bool from_one = m.smallest() == 1;
-        out += from_one ? '[' : '{';
+        out.put(from_one ? '[' : '{');
+        const auto entries = m.view();
         for (std::int32_t i = m.smallest(); i <= m.largest(); ++i) {
-            const auto& v = m(static_cast<std::int16_t>(i));
+            const auto& v = entries(static_cast<std::int16_t>(i));
             if (from_one) {
-                if (i > 1) out += ',';
+                if (i > 1) out.put(',');
             } else {
                 if (v == std::remove_cvref_t<decltype(v)>{}) continue;
-                key(out, {}, std::to_string(i));
+                out.put_key(i);
             }
             append_value(out, v);
         }
-        out += from_one ? ']' : '}';
+        out.put(from_one ? ']' : '}');
     } else {
-        out += '[';
+        out.put('[');
         for (const auto& item : m) {
-            if (out.back() != '[') out += ',';
+            if (out.back() != '[') out.put(',');
             append_value(out, item);
         }
-        out += ']';
+        out.put(']');
     }
+}
+template <class M>
+void append_value(std::string& out, const M& m) {
+    JsonText text(out);
+    append_value(text, m);
+}
+
+inline void key(std::string& out, std::string_view prefix, std::string_view name) {
+    JsonText text(out);
+    text.put_key(prefix, name);
 }
 
 template <class M>
@@ -216,6 +259,8 @@ bool is_default(const M& m, const M& fresh) {
         return m.empty();
     else if constexpr (Bound<M>)
         return false;  // written, and taken back when it holds nothing
+    else if constexpr (std::is_same_v<M, std::string>)
+        return m.size() == fresh.size() && (m.empty() || m == fresh);
     else
         return m == fresh;
 }
@@ -223,7 +268,7 @@ bool is_default(const M& m, const M& fresh) {
 }  // namespace detail
 
 template <Bound T>
-void append_members(std::string& out, const T& obj, std::string_view prefix) {
+void append_members(JsonText& out, const T& obj, std::string_view prefix) {
     static const T fresh{};
     std::apply(
         [&](const auto&... f) {
@@ -233,9 +278,9 @@ void append_members(std::string& out, const T& obj, std::string_view prefix) {
                 } else {
                     if (detail::is_default(obj.*e.member, fresh.*e.member)) return;
                     const std::size_t before = out.size();
-                    detail::key(out, prefix, e.name);
+                    out.put_key(prefix, e.name);
                     detail::append_value(out, obj.*e.member);
-                    if (out.ends_with(":{}")) out.resize(before);  // a sub-object that holds nothing
+                    if (out.ends_with(":{}")) out.cut(before);  // a sub-object that holds nothing
                 }
             };
             (one(f), ...);
@@ -246,9 +291,13 @@ void append_members(std::string& out, const T& obj, std::string_view prefix) {
 // The object as one JSON object.
 template <Bound T>
 std::string to_json(const T& obj) {
-    std::string out = "{";
-    append_members(out, obj);
-    out += '}';
+    std::string out;
+    {
+        JsonText text(out);
+        text.put('{');
+        append_members(text, obj);
+        text.put('}');
+    }
     return out;
 }
 

@@ -53,53 +53,67 @@ inline bool derived(const FieldLayout& f) {
 }
 
 // How each field of a layout is read, found once a layout (the layouts are
-// static) and kept for the thread's later records.
+// static) and kept for the thread's later records: the fields to read, in
+// their order, each with what takes its value.
 enum class FieldRole : std::uint8_t {
-    Skip,     // derived: a fixed text, a flag, a reserve
     Count,    // a count of blocks: the property "Anzahl<block>", where there is one
     Created,  // the record's time stamp
     Record,   // a member of the record identification (DatensatzData)
     Object,   // a property of the data object
 };
 template <Bound T>
-struct LayoutPlan {
-    std::vector<FieldRole> roles;
-    std::vector<bool> remarked;  // a remark in brackets: given to the procedure's own reading too
-    std::vector<Setter<T>> own;
-    std::vector<Setter<DatensatzData>> record;
+struct FieldStep {
+    const FieldLayout* field;
+    FieldRole role;
+    bool remarked;  // a remark in brackets: given to the procedure's own reading too
+    Setter<T> own;
+    Setter<DatensatzData> record;
 };
+template <Bound T>
+using LayoutPlan = std::vector<FieldStep<T>>;
 
 template <Bound T>
-const LayoutPlan<T>& layout_plan(const RecordLayout& layout) {
-    thread_local std::unordered_map<const RecordLayout*, LayoutPlan<T>> plans;
-    auto it = plans.find(&layout);
-    if (it != plans.end()) return it->second;
+LayoutPlan<T> make_plan(const RecordLayout& layout) {
     LayoutPlan<T> plan;
     constexpr std::string_view dd = "DatensatzData.";
     for (const FieldLayout& f : layout.fields) {
         const std::string_view path = property_path(f.name);
-        FieldRole role = FieldRole::Object;
-        Setter<T> own;
-        Setter<DatensatzData> record;
+        FieldStep<T> step{&f, FieldRole::Object, path.size() != f.name.size(), {}, {}};
         if (f.announce == Announce::Count) {
-            role = FieldRole::Count;
-            own = resolve<T>("Anzahl" + std::string(f.name));
+            step.role = FieldRole::Count;
+            step.own = resolve<T>("Anzahl" + std::string(f.name));
         } else if (derived(f)) {
-            role = FieldRole::Skip;
+            continue;  // a fixed text, a flag, a reserve
         } else if (f.kind == FieldKind::DateTime && f.name.starts_with("created")) {
-            role = FieldRole::Created;
+            step.role = FieldRole::Created;
         } else if (path.starts_with(dd)) {
-            role = FieldRole::Record;
-            record = resolve<DatensatzData>(path.substr(dd.size()));
+            step.role = FieldRole::Record;
+            step.record = resolve<DatensatzData>(path.substr(dd.size()));
         } else {
-            own = resolve<T>(path);
+            step.own = resolve<T>(path);
         }
-        plan.roles.push_back(role);
-        plan.remarked.push_back(path.size() != f.name.size());
-        plan.own.push_back(std::move(own));
-        plan.record.push_back(std::move(record));
+        plan.push_back(std::move(step));
     }
-    return plans.emplace(&layout, std::move(plan)).first->second;
+    return plan;
+}
+
+// The plan of a layout: the thread's last few are kept in a short list
+// (a record has a handful of layouts) in front of the map of all.
+template <Bound T>
+const LayoutPlan<T>& layout_plan(const RecordLayout& layout) {
+    struct Recent {
+        const RecordLayout* layout = nullptr;
+        const LayoutPlan<T>* plan = nullptr;
+    };
+    thread_local std::unordered_map<const RecordLayout*, LayoutPlan<T>> plans;
+    thread_local Recent recent[8];
+    thread_local std::size_t next = 0;
+    for (const Recent& r : recent)
+        if (r.layout == &layout) return *r.plan;
+    auto it = plans.find(&layout);
+    if (it == plans.end()) it = plans.emplace(&layout, make_plan<T>(layout)).first;
+    recent[next++ % std::size(recent)] = {&layout, &it->second};
+    return it->second;
 }
 
 // A line as UTF-8: its fields are sliced from it without a text of their
@@ -114,21 +128,30 @@ struct LineText {
         std::uint32_t extra;  // the bytes more than one of it and every wide character before it
     };
     std::vector<Wide> wide;
-    std::size_t byte_of(std::size_t ch) const {
-        std::size_t extra = 0;
-        for (const Wide& w : wide) {
-            if (w.at >= ch) break;
-            extra = w.extra;
+
+    // Slices fields in the order of their places: the wide characters
+    // before a field are counted on from the field before it.
+    class Slicer {
+    public:
+        explicit Slicer(const LineText& text) : text_(text) {}
+        std::string_view slice(std::size_t at, std::size_t len) {
+            const std::size_t end = std::min(at + len, text_.chars);
+            at = std::min(at, end);
+            if (text_.wide.empty()) return std::string_view(text_.utf8).substr(at, end - at);
+            const std::size_t from = byte_of(at);
+            return std::string_view(text_.utf8).substr(from, byte_of(end) - from);
         }
-        return ch + extra;
-    }
-    std::string_view slice(std::size_t at, std::size_t len) const {
-        const std::size_t end = std::min(at + len, chars);
-        at = std::min(at, end);
-        if (wide.empty()) return std::string_view(utf8).substr(at, end - at);
-        const std::size_t from = byte_of(at);
-        return std::string_view(utf8).substr(from, byte_of(end) - from);
-    }
+
+    private:
+        std::size_t byte_of(std::size_t ch) {
+            if (ch < last_) next_ = 0, extra_ = 0;  // a field before the last: counted again
+            last_ = ch;
+            for (; next_ < text_.wide.size() && text_.wide[next_].at < ch; ++next_) extra_ = text_.wide[next_].extra;
+            return ch + extra_;
+        }
+        const LineText& text_;
+        std::size_t next_ = 0, extra_ = 0, last_ = 0;
+    };
 };
 const LineText& line_text(std::u32string_view line);
 
@@ -139,15 +162,13 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
                    std::vector<ReadField>& left) {
     left.clear();
     std::string scratch;
+    LineText::Slicer slicer(text);
     for (const checks::Part& p : parts) {
         const Place at{p.entry, p.item};
-        const LayoutPlan<T>& plan = layout_plan<T>(*p.layout);
-        for (std::size_t k = 0; k < p.layout->fields.size(); ++k) {
-            const FieldRole role = plan.roles[k];
-            if (role == FieldRole::Skip) continue;
-            const FieldLayout& f = p.layout->fields[k];
-            const std::string_view raw = text.slice(p.at + f.pos - 1u, f.len);
-            if (role == FieldRole::Created) {
+        for (const FieldStep<T>& step : layout_plan<T>(*p.layout)) {
+            const FieldLayout& f = *step.field;
+            const std::string_view raw = slicer.slice(p.at + f.pos - 1u, f.len);
+            if (step.role == FieldRole::Created) {
                 frame.created = raw;
                 const std::size_t open = f.name.find('(');
                 if (open != std::string_view::npos)
@@ -157,15 +178,15 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
             const std::string_view value = field_value(raw, f, scratch);
             // A count of blocks is the property "Anzahl<block>" where the
             // object has one (its entries are read with the blocks).
-            if (role == FieldRole::Count) {
-                if (plan.own[k]) plan.own[k](obj, at, value);
+            if (step.role == FieldRole::Count) {
+                if (step.own) step.own(obj, at, value);
                 continue;
             }
-            const bool placed = role == FieldRole::Record ? plan.record[k] && plan.record[k](frame.datensatz, at, value)
-                                                          : plan.own[k] && plan.own[k](obj, at, value);
+            const bool placed = step.role == FieldRole::Record ? step.record && step.record(frame.datensatz, at, value)
+                                                               : step.own && step.own(obj, at, value);
             // A field with a remark ("Merkmal1 (1 or 0)") is placed as it
             // stands and still given to the procedure's own reading.
-            if (!placed || plan.remarked[k]) left.push_back({&f, &p, std::string(value)});
+            if (!placed || step.remarked) left.push_back({&f, &p, std::string(value)});
         }
     }
 }

@@ -1,0 +1,155 @@
+// A JSON text written into a string's buffer through a pointer. A report
+// read back is written as a few hundred short keys and values, and each of
+// the string's own appends is a call into the library; here a value is
+// stored with a few instructions, and the string keeps its size only
+// while the text is written (from the constructor to the destructor).
+#pragma once
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "core/short_bytes.h"
+#include "core/text.h"
+#include "json/json_escape.h"
+
+namespace tamrel::readback {
+
+class JsonText {
+public:
+    explicit JsonText(std::string& out) : out_(out), used_(out.size()) {
+        out_.resize(std::max(out_.capacity(), used_ + kRoom));
+    }
+    ~JsonText() { out_.resize(used_); }
+    JsonText(const JsonText&) = delete;
+    JsonText& operator=(const JsonText&) = delete;
+
+    std::size_t size() const { return used_; }
+    char back() const { return used_ ? out_[used_ - 1] : '\0'; }
+    bool ends_with(std::string_view tail) const {
+        return used_ >= tail.size() && std::string_view(out_.data() + used_ - tail.size(), tail.size()) == tail;
+    }
+    void cut(std::size_t size) { used_ = size; }
+
+    void put(char c) { *room(1) = c, ++used_; }
+    void put(std::string_view s) {
+        copy(room(s.size()), s);
+        used_ += s.size();
+    }
+    template <class Int>
+    void put_number(Int v) {
+        char* p = room(24);
+        used_ = static_cast<std::size_t>(std::to_chars(p, p + 24, v).ptr - out_.data());
+    }
+    // A key with its colon, after a comma where a member or an entry came before.
+    void put_key(std::string_view prefix, std::string_view name) {
+        char* p = open_key(prefix.size() + name.size());
+        copy(p, prefix);
+        copy(p + prefix.size(), name);
+        close_key(p + prefix.size() + name.size());
+    }
+    // An entry's index as a key.
+    void put_key(std::int32_t index) {
+        char* p = open_key(11);
+        close_key(std::to_chars(p, p + 11, index).ptr);
+    }
+    // A text, quoted; escaped (and checked as UTF-8) where it holds a
+    // character that needs an escape.
+    void put_string(std::string_view s) {
+        const Scan scan = scan_text(s);
+        if (scan == Scan::Plain || (scan == Scan::Wide && text::is_valid_utf8(s))) {
+            char* p = room(s.size() + 2);
+            *p = '"';
+            copy(p + 1, s);
+            p[s.size() + 1] = '"';
+            used_ += s.size() + 2;
+            return;
+        }
+        out_.resize(used_);
+        append_json_string(out_, s);
+        used_ = out_.size();
+        out_.resize(std::max(out_.capacity(), used_ + kRoom));
+    }
+
+private:
+    static constexpr std::size_t kRoom = 2048;
+
+    [[gnu::always_inline]] char* room(std::size_t n) {
+        if (out_.size() - used_ < n) [[unlikely]]
+            grow(n);
+        return out_.data() + used_;
+    }
+    [[gnu::noinline]] void grow(std::size_t n) { out_.resize(std::max(2 * out_.size(), used_ + n + kRoom)); }
+    char* open_key(std::size_t longest) {
+        const char last = back();
+        const bool comma = used_ && last != '{' && last != '[';
+        char* p = room(longest + 4);
+        if (comma) *p++ = ',';
+        *p++ = '"';
+        return p;
+    }
+    void close_key(char* p) {
+        *p++ = '"';
+        *p++ = ':';
+        used_ = static_cast<std::size_t>(p - out_.data());
+    }
+    // Short texts (most values) are copied without a call: two words or
+    // two half words that overlap.
+    static void copy(char* to, std::string_view s) {
+        const std::size_t n = s.size();
+        const char* from = s.data();
+        if (n > 16) {
+            std::memcpy(to, from, n);
+        } else if (n >= 8) {
+            const std::uint64_t head = bytes::load8(from), tail = bytes::load8(from + n - 8);
+            bytes::store8(to, head);
+            bytes::store8(to + n - 8, tail);
+        } else if (n >= 4) {
+            const std::uint64_t head = bytes::load4(from), tail = bytes::load4(from + n - 4);
+            bytes::store4(to, head);
+            bytes::store4(to + n - 4, tail);
+        } else if (n > 0) {
+            to[0] = from[0];
+            to[n / 2] = from[n / 2];
+            to[n - 1] = from[n - 1];
+        }
+    }
+    // Plain printable ASCII; with bytes of UTF-8 (still to be checked); or
+    // a character that needs an escape.
+    enum class Scan { Plain, Wide, Escape };
+    static Scan scan_text(std::string_view s) {
+        // Eight bytes at a time where there are eight: the high bit of a
+        // byte below 0x20, of '"' and of '\\' (a zero byte after the xor).
+        auto escapes = [](std::uint64_t x) {
+            auto zero = [](std::uint64_t y) { return (y - bytes::kOnes) & ~y & bytes::kHigh; };
+            return ((x - 0x20 * bytes::kOnes) & ~x & bytes::kHigh) | zero(x ^ ('"' * bytes::kOnes)) |
+                   zero(x ^ ('\\' * bytes::kOnes));
+        };
+        std::uint64_t hit = 0, high = 0;
+        const std::size_t n = s.size();
+        if (n >= 8) {
+            for (std::size_t i = 0; i + 8 < n; i += 8) {
+                const std::uint64_t x = bytes::load8(s.data() + i);
+                hit |= escapes(x), high |= x;
+            }
+            const std::uint64_t last = bytes::load8(s.data() + n - 8);
+            hit |= escapes(last), high |= last;
+        } else {
+            for (char ch : s) {
+                const auto c = static_cast<unsigned char>(ch);
+                if (c < 0x20 || c == '"' || c == '\\') return Scan::Escape;
+                high |= c;
+            }
+        }
+        if (hit) return Scan::Escape;
+        return (high & bytes::kHigh) ? Scan::Wide : Scan::Plain;
+    }
+
+    std::string& out_;
+    std::size_t used_;
+};
+
+}  // namespace tamrel::readback
