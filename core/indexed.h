@@ -53,6 +53,15 @@ public:
         if (k > values_.size()) values_.resize(k + 1);
         return values_[k];
     }
+    // Sets entry i from a value its type is made from (a text from a
+    // view): the entry after the largest is made from it at once.
+    template <class V>
+    void assign(std::int16_t i, const V& v) {
+        if (!values_.empty() && std::int32_t{i} - first_ == static_cast<std::int32_t>(values_.size()))
+            values_.emplace_back(v);
+        else
+            slot(i) = Stored(v);
+    }
     // The place of the entry after the largest given, entry 1 when none
     // is: an array's entries come in order, and need no search for their place.
     Stored& next_slot() {

@@ -1,6 +1,7 @@
 // What a field of a record says, as the value of the property it was
 // written from: the value that writes the same characters again.
 #pragma once
+#include <bit>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -37,7 +38,13 @@ inline bool all_of(std::string_view chars, char c) {
 inline std::string_view trim_blanks(std::string_view chars) {
     constexpr std::uint64_t blanks = bytes::kOnes * ' ';
     std::size_t n = chars.size();
-    while (n >= 8 && bytes::load8(chars.data() + n - 8) == blanks) n -= 8;
+    while (std::endian::native == std::endian::little && n >= 8) {
+        // The last eight bytes: the first that is not a blank, from the end,
+        // is the highest byte of the difference (the words are little-endian).
+        const std::uint64_t differ = bytes::load8(chars.data() + n - 8) ^ blanks;
+        if (differ != 0) return chars.substr(0, n - static_cast<std::size_t>(std::countl_zero(differ)) / 8);
+        n -= 8;
+    }
     while (n > 0 && chars[n - 1] == ' ') --n;
     return chars.substr(0, n);
 }
