@@ -300,9 +300,14 @@ private:
         if (id == members::kToJson) {
             if (params.cArgs != 0) return DISP_E_BADPARAMCOUNT;
             if (result) {
-                std::string json = "{";
-                append_json(json);
-                objects::give(json + '}', *result);
+                std::string json;
+                {
+                    readback::JsonText text(json);
+                    text.put('{');
+                    append_json(text);
+                    text.put('}');
+                }
+                objects::give(json, *result);
             }
             return S_OK;
         }
@@ -357,7 +362,7 @@ public:
     // The members as a report of the job format shows them: what the host
     // set (a default value too) and what differs from a fresh object, with
     // nothing derived.
-    void append_json(std::string& out) const {
+    void append_json(readback::JsonText& out) const {
         static const T fresh{};
         each_field([&](std::size_t k, const auto& e) {
             if constexpr (requires { e.prefix; }) {
@@ -366,24 +371,24 @@ public:
                 using M = std::remove_cvref_t<decltype(data_.*(e.member))>;
                 const M& m = data_.*(e.member);
                 const std::size_t before = out.size();
-                readback::detail::key(out, {}, e.name);
+                out.put_key({}, e.name);
                 if constexpr (properties::Bound<M>) {
-                    out += '{';
+                    out.put('{');
                     static_cast<const DataObject<M>*>(children_[k])->append_json(out);
-                    out += '}';
-                    if (!put_[k] && out.ends_with(":{}")) out.resize(before);
+                    out.put('}');
+                    if (!put_[k] && out.ends_with(":{}")) out.cut(before);
                 } else if constexpr (members::is_vector<M>) {
-                    if (!put_[k] && items_[k].empty()) return out.resize(before);
-                    out += '[';
+                    if (!put_[k] && items_[k].empty()) return out.cut(before);
+                    out.put('[');
                     for (const IDispatch* item : items_[k]) {
-                        if (out.back() != '[') out += ',';
-                        out += '{';
+                        if (out.back() != '[') out.put(',');
+                        out.put('{');
                         static_cast<const DataObject<typename M::value_type>*>(item)->append_json(out);
-                        out += '}';
+                        out.put('}');
                     }
-                    out += ']';
+                    out.put(']');
                 } else {
-                    if (!put_[k] && readback::detail::is_default(m, fresh.*(e.member))) return out.resize(before);
+                    if (!put_[k] && readback::detail::is_default(m, fresh.*(e.member))) return out.cut(before);
                     readback::detail::append_value(out, m);
                 }
             }

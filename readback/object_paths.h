@@ -196,11 +196,6 @@ bool assign(T& obj, std::string_view path, const Place& at, std::string_view val
 // of a JSON object (without braces; empty when none differs).
 template <Bound T>
 void append_members(JsonText& out, const T& obj, std::string_view prefix = {});
-template <Bound T>
-void append_members(std::string& out, const T& obj, std::string_view prefix = {}) {
-    JsonText text(out);
-    append_members(text, obj, prefix);
-}
 
 namespace detail {
 
@@ -241,16 +236,6 @@ void append_value(JsonText& out, const M& m) {
         }
         out.put(']');
     }
-}
-template <class M>
-void append_value(std::string& out, const M& m) {
-    JsonText text(out);
-    append_value(text, m);
-}
-
-inline void key(std::string& out, std::string_view prefix, std::string_view name) {
-    JsonText text(out);
-    text.put_key(prefix, name);
 }
 
 template <class M>

@@ -8,7 +8,8 @@
 #
 # The training: the micro-benchmarks (every procedure's GenData, the
 # encoders, the report readers, the calls) for a moment each, and generated
-# DEUEV reports through `tamrel generate`, `tamrel check` and `tamrel call`.
+# DEUEV reports through `tamrel generate`, `tamrel check`, `tamrel read` and
+# `tamrel call`.
 # Few processes, each doing much: the compiler takes code that ran in fewer
 # than one in twenty of the training's processes for cold, and optimizes it
 # for size.
@@ -34,6 +35,7 @@ trap 'rm -rf "$work"' EXIT
 "$training/bench/make_reports" "$n" "$work"
 "$training/tamrel" generate "$work/job.json" -o "$work/out.txt" 2>/dev/null
 "$training/tamrel" check "$work/out.txt" >/dev/null
+"$training/tamrel" read "$work/out.txt" --reports-out "$work/read.ndjson" -o "$work/read.json" 2>/dev/null
 # The same reports as GenData calls, as a payroll program sends them.
 sed -e 's/^/{"class":"clsGenMeldung","method":"GenData","now":"2024-03-01T10:11:12","args":{"objMeldung":/' \
     -e 's/$/,"udtDatensatzData":{"strBNRAb":"98765432","strVersion":"BENCH","strMicroseconds":"1","strProdID":"TAMREL1","strModID":"BENCH01"},"enmVerfahren":"vmNormal","datDate":"2024-03-01T10:11:12"}}/' \
