@@ -104,12 +104,35 @@ constexpr bool is_group<std::vector<T>> = true;
 template <class T>
 constexpr bool is_group<Indexed<T>> = true;
 
-// The bounds of an indexed property: its object's first and last entry.
+// The value of the object's 16-bit property `name` as the first pass read
+// it; false where the table binds no such property.
 template <class O>
-void bounds(const HostObject& o, const O&, std::string_view name, std::int16_t& first, std::int16_t& last) {
-    const std::string stem(name.substr(0, 2));  // "Ks…" and "Uv…" carry their own bounds
-    read_value(o, stem + "Erster", first);
-    read_value(o, stem + "Letzter", last);
+bool read_before(const O& out, std::string_view name, std::int16_t& value) {
+    bool found = false;
+    std::apply(
+        [&](const auto&... f) {
+            auto one = [&](const auto& e) {
+                if constexpr (requires { e.name; }) {
+                    using M = std::remove_cvref_t<decltype(out.*(e.member))>;
+                    if constexpr (std::is_same_v<M, std::int16_t>)
+                        if (!found && e.name == name) value = out.*(e.member), found = true;
+                }
+            };
+            (one(f), ...);
+        },
+        properties::Binding<O>::fields);
+    return found;
+}
+
+// The bounds of an indexed property: its object's first and last entry.
+// "Ks…" and "Uv…" carry their own, which the first pass read with the
+// object's other properties: each list takes them from there instead of
+// asking the object again.
+template <class O>
+void bounds(const HostObject& o, const O& out, std::string_view name, std::int16_t& first, std::int16_t& last) {
+    const std::string stem(name.substr(0, 2));
+    if (!read_before(out, stem + "Erster", first)) read_value(o, stem + "Erster", first);
+    if (!read_before(out, stem + "Letzter", last)) read_value(o, stem + "Letzter", last);
 }
 
 template <class O, class E>
