@@ -8,10 +8,13 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <random>
 #include <sstream>
 
 #include <nlohmann/json.hpp>
 
+#include "json/json_escape.h"
+#include "readback/json_text.h"
 #include "readback/report_reading.h"
 #include "readback/transfer_reading.h"
 #include "reader/transfer_file.h"
@@ -78,6 +81,51 @@ TEST(ReadBack, LineTextSlicesFieldsByCharacter) {
                 const std::u32string part = line.substr(std::min(at, line.size()), len);
                 EXPECT_EQ(slicer.slice(at, len), tamrel::checks::to_utf8(part)) << "at " << at << ", " << len;
             }
+    }
+}
+
+// The report's JSON writer stores plain texts itself and hands the rest to
+// the general escaper: every text comes out as that escaper writes it (a
+// text of invalid UTF-8 as far as it writes it), across the lengths where
+// the writer changes its way of copying and scanning.
+TEST(ReadBack, JsonTextWritesTextsAsTheGeneralEscaper) {
+    const std::string pieces[] = {"a",
+                                  "Z",
+                                  " ",
+                                  "0",
+                                  "\"",
+                                  "\\",
+                                  "/",
+                                  "\n",
+                                  "\t",
+                                  std::string(1, '\0'),
+                                  "\x1f",
+                                  "\x7f",
+                                  "\xc3\xa4",
+                                  "\xe2\x82\xac",
+                                  "\xf0\x9d\x84\x9e",
+                                  "\xff",
+                                  "\x80",
+                                  "\xc3"};
+    std::mt19937 random(7);
+    std::vector<std::string> texts = {"", "Muster", "M\xc3\xbcller", std::string(64, 'x'), std::string(65, 'x')};
+    for (int n = 0; n < 4000; ++n) {
+        std::string t;
+        const std::size_t length = random() % 80;
+        // Mostly plain letters, as values are; now and then any piece.
+        while (t.size() < length)
+            t += random() % 4 ? std::string(1, static_cast<char>('a' + random() % 26))
+                              : pieces[random() % std::size(pieces)];
+        texts.push_back(t);
+    }
+    for (const std::string& t : texts) {
+        std::string want = "[", got = "[";
+        tamrel::append_json_string(want, t);
+        {
+            tamrel::readback::JsonText text(got);
+            text.put_string(t);
+        }
+        ASSERT_EQ(got, want) << testing::PrintToString(t);
     }
 }
 
