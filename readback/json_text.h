@@ -68,10 +68,12 @@ public:
             used_ += s.size() + 2;
             return;
         }
-        out_.resize(used_);
-        append_json_string(out_, s);
-        used_ = out_.size();
-        out_.resize(std::max(out_.capacity(), used_ + kRoom));
+        // Escaped beside the text and copied in: the string keeps its size
+        // (resizing it would clear its whole spare room for each such text).
+        thread_local std::string escaped;
+        escaped.clear();
+        append_json_string(escaped, s);
+        put(escaped);
     }
 
 private:
