@@ -68,17 +68,20 @@ public:
             used_ += s.size() + 2;
             return;
         }
-        // Escaped beside the text and copied in: the string keeps its size
-        // (resizing it would clear its whole spare room for each such text).
-        thread_local std::string escaped;
-        escaped.clear();
-        append_json_string(escaped, s);
-        put(escaped);
+        put_escaped(s);
     }
 
 private:
     static constexpr std::size_t kRoom = 2048;
 
+    // Escaped beside the text and copied in: the string keeps its size
+    // (resizing it would clear its whole spare room for each such text).
+    [[gnu::noinline]] void put_escaped(std::string_view s) {
+        thread_local std::string escaped;
+        escaped.clear();
+        append_json_string(escaped, s);
+        put(escaped);
+    }
     [[gnu::always_inline]] char* room(std::size_t n) {
         if (out_.size() - used_ < n) [[unlikely]]
             grow(n);

@@ -105,11 +105,12 @@ const LayoutPlan<T>& layout_plan(const RecordLayout& layout) {
         const RecordLayout* layout = nullptr;
         const LayoutPlan<T>* plan = nullptr;
     };
-    thread_local std::unordered_map<const RecordLayout*, LayoutPlan<T>> plans;
     thread_local Recent recent[8];
     thread_local std::size_t next = 0;
     for (const Recent& r : recent)
         if (r.layout == &layout) return *r.plan;
+    // Past the short list: the map's guard is not passed for every part.
+    thread_local std::unordered_map<const RecordLayout*, LayoutPlan<T>> plans;
     auto it = plans.find(&layout);
     if (it == plans.end()) it = plans.emplace(&layout, make_plan<T>(layout)).first;
     recent[next++ % std::size(recent)] = {&layout, &it->second};
