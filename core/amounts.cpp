@@ -2,15 +2,10 @@
 
 #include "core/error.h"
 #include "core/routine.h"
+#include "core/text.h"
 
 namespace tamrel::mlGen {
 namespace {
-
-bool all_of(std::string_view s, char c) {
-    for (char x : s)
-        if (x != c) return false;
-    return true;
-}
 
 // The walk of the amount encoders: digits, signs, separators. Returns the
 // sign character seen last (0 when none).
@@ -47,7 +42,7 @@ void append_amount(std::string& out, std::string_view value, int intVor, int int
         line = 10;
         EnhanceVorNachk(vor, intVor, nach, intNach);
         line = 11;
-        if (!all_of(vor, '0') || !all_of(nach, '0')) filled = true;
+        if (!text::all_of(vor, '0') || !text::all_of(nach, '0')) filled = true;
         if (signed_) out += sign ? sign : '+';
         out += vor;
         out += nach;

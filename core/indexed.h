@@ -4,6 +4,7 @@
 #pragma once
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace tamrel {
@@ -37,7 +38,18 @@ public:
     View view() const { return {values_.data(), static_cast<std::uint32_t>(values_.size()), first_, &empty_}; }
 
     Read operator()(std::int16_t i) const { return view()(i); }
-    void set(std::int16_t i, T v) { slot(i) = Stored(std::move(v)); }
+    // Sets entry i from a value of T or one T is made from (a text from a
+    // view): the entry after the largest is made from it at once, without
+    // an empty one made first.
+    template <class V>
+    void set(std::int16_t i, V&& v) {
+        if (values_.empty() || std::int32_t{i} - first_ != static_cast<std::int32_t>(values_.size()))
+            slot(i) = made(std::forward<V>(v));
+        else if constexpr (std::is_same_v<T, bool>)
+            values_.push_back(static_cast<bool>(v));
+        else
+            values_.emplace_back(std::forward<V>(v));
+    }
     // The place of entry i, made (empty) when it is not there yet.
     Stored& slot(std::int16_t i) {
         if (values_.empty()) {
@@ -52,15 +64,6 @@ public:
         if (k == values_.size()) return values_.emplace_back();
         if (k > values_.size()) values_.resize(k + 1);
         return values_[k];
-    }
-    // Sets entry i from a value its type is made from (a text from a
-    // view): the entry after the largest is made from it at once.
-    template <class V>
-    void assign(std::int16_t i, const V& v) {
-        if (!values_.empty() && std::int32_t{i} - first_ == static_cast<std::int32_t>(values_.size()))
-            values_.emplace_back(v);
-        else
-            slot(i) = Stored(v);
     }
     // The place of the entry after the largest given, entry 1 when none
     // is: an array's entries come in order, and need no search for their place.
@@ -78,6 +81,14 @@ public:
     }
 
 private:
+    // A flag is taken as a flag before it is stored as a byte.
+    template <class V>
+    static Stored made(V&& v) {
+        if constexpr (std::is_same_v<T, bool>)
+            return static_cast<bool>(v);
+        else
+            return Stored(std::forward<V>(v));
+    }
     std::vector<Stored> values_;
     std::int16_t first_ = 0;
     Stored empty_{};

@@ -1,9 +1,13 @@
 // UTF-8 helpers. Record widths and positions count characters (code points),
 // never bytes; every helper here works on code points.
 #pragma once
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "core/short_bytes.h"
 
 namespace tamrel::text {
 
@@ -33,11 +37,36 @@ std::string_view left(std::string_view s, std::size_t n) noexcept;
 std::string_view right(std::string_view s, std::size_t n) noexcept;
 std::string_view mid(std::string_view s, std::size_t start, std::size_t len) noexcept;
 
+// Whether every byte of the text is `c` (true for an empty text), eight at a time.
+inline bool all_of(std::string_view s, char c) noexcept {
+    const std::uint64_t run = bytes::kOnes * static_cast<unsigned char>(c);
+    std::size_t i = 0;
+    for (; i + 8 <= s.size(); i += 8)
+        if (bytes::load8(s.data() + i) != run) return false;
+    for (; i < s.size(); ++i)
+        if (s[i] != c) return false;
+    return true;
+}
+
+// Trailing blanks removed, eight at a time where the text is long.
+inline std::string_view trim_trailing_blanks(std::string_view s) noexcept {
+    constexpr std::uint64_t blanks = bytes::kOnes * ' ';
+    std::size_t n = s.size();
+    while (std::endian::native == std::endian::little && n >= 8) {
+        // The last eight bytes: the first that is not a blank, from the end,
+        // is the highest byte of the difference (the words are little-endian).
+        const std::uint64_t differ = bytes::load8(s.data() + n - 8) ^ blanks;
+        if (differ != 0) return s.substr(0, n - static_cast<std::size_t>(std::countl_zero(differ)) / 8);
+        n -= 8;
+    }
+    while (n > 0 && s[n - 1] == ' ') --n;
+    return s.substr(0, n);
+}
+
 // Blanks removed on both ends (only the blank " ", like the Trim function).
 inline std::string_view trim_blanks(std::string_view s) noexcept {
     while (!s.empty() && s.front() == ' ') s.remove_prefix(1);
-    while (!s.empty() && s.back() == ' ') s.remove_suffix(1);
-    return s;
+    return trim_trailing_blanks(s);
 }
 
 // Invalid sequences replaced by U+FFFD, for texts that go into log lines.

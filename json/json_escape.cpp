@@ -1,6 +1,5 @@
 #include "json/json_escape.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -143,12 +142,9 @@ void append_escape(std::string& out, unsigned char c) {
 }  // namespace
 
 bool append_json_string(std::string& out, std::string_view s) {
-    // A short value (most properties) is looked at a byte at a time: less
-    // than what the wide search costs to set up.
-    if (s.size() <= 32 && std::all_of(s.begin(), s.end(), [](char ch) {
-            const auto c = static_cast<unsigned char>(ch);
-            return c >= 0x20 && c < 0x80 && c != '"' && c != '\\';
-        })) {
+    // A short value (most properties) is classified inline: less than what
+    // the wide search costs to set up.
+    if (s.size() <= 32 && json_text_kind(s) == JsonTextKind::Plain) {
         const std::size_t at = out.size();
         out.resize(at + s.size() + 2);
         char* p = out.data() + at;

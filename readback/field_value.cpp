@@ -10,7 +10,7 @@ std::string_view amount_value(std::string_view chars, const FieldLayout& f, std:
         if (chars[0] == '-') v = "-";
         chars.remove_prefix(1);
     }
-    if (detail::all_of(chars, '0')) return v.empty() ? std::string_view() : (v += '0', std::string_view(v));
+    if (text::all_of(chars, '0')) return v.empty() ? std::string_view() : (v += '0', std::string_view(v));
     const std::size_t places = chars.size() >= f.decimals ? chars.size() - f.decimals : 0;
     std::string_view whole = chars.substr(0, places);
     while (whole.size() > 1 && whole[0] == '0') whole.remove_prefix(1);

@@ -36,7 +36,7 @@ public:
 
     void put(char c) { *room(1) = c, ++used_; }
     void put(std::string_view s) {
-        copy(room(s.size()), s);
+        bytes::copy_short(room(s.size()), s.data(), s.size());
         used_ += s.size();
     }
     template <class Int>
@@ -47,8 +47,8 @@ public:
     // A key with its colon, after a comma where a member or an entry came before.
     void put_key(std::string_view prefix, std::string_view name) {
         char* p = open_key(prefix.size() + name.size());
-        copy(p, prefix);
-        copy(p + prefix.size(), name);
+        bytes::copy_short(p, prefix.data(), prefix.size());
+        bytes::copy_short(p + prefix.size(), name.data(), name.size());
         close_key(p + prefix.size() + name.size());
     }
     // An entry's index as a key.
@@ -59,11 +59,11 @@ public:
     // A text, quoted; escaped (and checked as UTF-8) where it holds a
     // character that needs an escape.
     void put_string(std::string_view s) {
-        const Scan scan = scan_text(s);
-        if (scan == Scan::Plain || (scan == Scan::Wide && text::is_valid_utf8(s))) {
+        const JsonTextKind kind = json_text_kind(s);
+        if (kind == JsonTextKind::Plain || (kind == JsonTextKind::Utf8 && text::is_valid_utf8(s))) {
             char* p = room(s.size() + 2);
             *p = '"';
-            copy(p + 1, s);
+            bytes::copy_short(p + 1, s.data(), s.size());
             p[s.size() + 1] = '"';
             used_ += s.size() + 2;
             return;
@@ -101,58 +101,6 @@ private:
         *p++ = ':';
         used_ = static_cast<std::size_t>(p - out_.data());
     }
-    // Short texts (most values) are copied without a call: two words or
-    // two half words that overlap.
-    static void copy(char* to, std::string_view s) {
-        const std::size_t n = s.size();
-        const char* from = s.data();
-        if (n > 16) {
-            std::memcpy(to, from, n);
-        } else if (n >= 8) {
-            const std::uint64_t head = bytes::load8(from), tail = bytes::load8(from + n - 8);
-            bytes::store8(to, head);
-            bytes::store8(to + n - 8, tail);
-        } else if (n >= 4) {
-            const std::uint64_t head = bytes::load4(from), tail = bytes::load4(from + n - 4);
-            bytes::store4(to, head);
-            bytes::store4(to + n - 4, tail);
-        } else if (n > 0) {
-            to[0] = from[0];
-            to[n / 2] = from[n / 2];
-            to[n - 1] = from[n - 1];
-        }
-    }
-    // Plain printable ASCII; with bytes of UTF-8 (still to be checked); or
-    // a character that needs an escape.
-    enum class Scan { Plain, Wide, Escape };
-    static Scan scan_text(std::string_view s) {
-        // Eight bytes at a time where there are eight: the high bit of a
-        // byte below 0x20, of '"' and of '\\' (a zero byte after the xor).
-        auto escapes = [](std::uint64_t x) {
-            auto zero = [](std::uint64_t y) { return (y - bytes::kOnes) & ~y & bytes::kHigh; };
-            return ((x - 0x20 * bytes::kOnes) & ~x & bytes::kHigh) | zero(x ^ ('"' * bytes::kOnes)) |
-                   zero(x ^ ('\\' * bytes::kOnes));
-        };
-        std::uint64_t hit = 0, high = 0;
-        const std::size_t n = s.size();
-        if (n >= 8) {
-            for (std::size_t i = 0; i + 8 < n; i += 8) {
-                const std::uint64_t x = bytes::load8(s.data() + i);
-                hit |= escapes(x), high |= x;
-            }
-            const std::uint64_t last = bytes::load8(s.data() + n - 8);
-            hit |= escapes(last), high |= last;
-        } else {
-            for (char ch : s) {
-                const auto c = static_cast<unsigned char>(ch);
-                if (c < 0x20 || c == '"' || c == '\\') return Scan::Escape;
-                high |= c;
-            }
-        }
-        if (hit) return Scan::Escape;
-        return (high & bytes::kHigh) ? Scan::Wide : Scan::Plain;
-    }
-
     std::string& out_;
     std::size_t used_;
 };

@@ -111,7 +111,7 @@ bool set_entry(void* member, const Place& at, std::int16_t fixed, std::string_vi
     const std::int16_t i = fixed < 0 ? static_cast<std::int16_t>(at.entry) : fixed;
     using Stored = std::remove_reference_t<decltype(m.slot(i))>;
     if constexpr (std::is_same_v<Stored, std::string>) {
-        m.assign(i, value);
+        m.set(i, value);
     } else {
         bool b = false;
         if (!convert(value, b)) return false;
