@@ -3,6 +3,7 @@
 // smallest index given, so a read is one bounds check.
 #pragma once
 #include <cstdint>
+#include <span>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -43,8 +44,8 @@ public:
     // an empty one made first.
     template <class V>
     void set(std::int16_t i, V&& v) {
-        if (values_.empty() || std::int32_t{i} - first_ != static_cast<std::int32_t>(values_.size()))
-            slot(i) = made(std::forward<V>(v));
+        if (values_.empty() || std::int32_t{i} - first_ != static_cast<std::int32_t>(values_.size())) [[unlikely]]
+            set_apart(i, std::forward<V>(v));
         else if constexpr (std::is_same_v<T, bool>)
             values_.push_back(static_cast<bool>(v));
         else
@@ -71,6 +72,8 @@ public:
         if (values_.empty()) first_ = 1;
         return values_.emplace_back();
     }
+    // The stored entries, from the smallest index on.
+    std::span<const Stored> stored() const { return values_; }
     void clear() { values_.clear(); }
     void reserve(std::size_t n) { values_.reserve(n); }
     bool empty() const { return values_.empty(); }
@@ -81,6 +84,12 @@ public:
     }
 
 private:
+    // An entry that is not the next after the largest: the first, or one
+    // out of order (out of line, the next entry's path stays short).
+    template <class V>
+    [[gnu::noinline]] void set_apart(std::int16_t i, V&& v) {
+        slot(i) = made(std::forward<V>(v));
+    }
     // A flag is taken as a flag before it is stored as a byte.
     template <class V>
     static Stored made(V&& v) {

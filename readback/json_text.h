@@ -20,29 +20,31 @@ namespace tamrel::readback {
 
 class JsonText {
 public:
-    explicit JsonText(std::string& out) : out_(out), used_(out.size()) {
-        out_.resize(std::max(out_.capacity(), used_ + kRoom));
+    explicit JsonText(std::string& out) : out_(out) {
+        const std::size_t used = out.size();
+        out_.resize(std::max(out_.capacity(), used + kRoom));
+        at(used);
     }
-    ~JsonText() { out_.resize(used_); }
+    ~JsonText() { out_.resize(size()); }
     JsonText(const JsonText&) = delete;
     JsonText& operator=(const JsonText&) = delete;
 
-    std::size_t size() const { return used_; }
-    char back() const { return used_ ? out_[used_ - 1] : '\0'; }
+    std::size_t size() const { return static_cast<std::size_t>(pos_ - out_.data()); }
+    char back() const { return pos_ != out_.data() ? pos_[-1] : '\0'; }
     bool ends_with(std::string_view tail) const {
-        return used_ >= tail.size() && std::string_view(out_.data() + used_ - tail.size(), tail.size()) == tail;
+        return size() >= tail.size() && std::string_view(pos_ - tail.size(), tail.size()) == tail;
     }
-    void cut(std::size_t size) { used_ = size; }
+    void cut(std::size_t size) { pos_ = out_.data() + size; }
 
-    void put(char c) { *room(1) = c, ++used_; }
+    void put(char c) { *room(1) = c, ++pos_; }
     void put(std::string_view s) {
         bytes::copy_short(room(s.size()), s.data(), s.size());
-        used_ += s.size();
+        pos_ += s.size();
     }
     template <class Int>
     void put_number(Int v) {
         char* p = room(24);
-        used_ = static_cast<std::size_t>(std::to_chars(p, p + 24, v).ptr - out_.data());
+        pos_ = std::to_chars(p, p + 24, v).ptr;
     }
     // A key with its colon, after a comma where a member or an entry came before.
     void put_key(std::string_view prefix, std::string_view name) {
@@ -59,13 +61,14 @@ public:
     // A text, quoted; escaped (and checked as UTF-8) where it holds a
     // character that needs an escape.
     void put_string(std::string_view s) {
+        if (s.empty()) return put(std::string_view("\"\""));
         const JsonTextKind kind = json_text_kind(s);
         if (kind == JsonTextKind::Plain || (kind == JsonTextKind::Utf8 && text::is_valid_utf8(s))) {
             char* p = room(s.size() + 2);
             *p = '"';
             bytes::copy_short(p + 1, s.data(), s.size());
             p[s.size() + 1] = '"';
-            used_ += s.size() + 2;
+            pos_ = p + s.size() + 2;
             return;
         }
         put_escaped(s);
@@ -82,15 +85,24 @@ private:
         append_json_string(escaped, s);
         put(escaped);
     }
+    // The text is written between pos_ and end_, the string's spare room;
+    // the string's own size is set only when it grows and at the end.
     [[gnu::always_inline]] char* room(std::size_t n) {
-        if (out_.size() - used_ < n) [[unlikely]]
+        if (static_cast<std::size_t>(end_ - pos_) < n) [[unlikely]]
             grow(n);
-        return out_.data() + used_;
+        return pos_;
     }
-    [[gnu::noinline]] void grow(std::size_t n) { out_.resize(std::max(2 * out_.size(), used_ + n + kRoom)); }
+    [[gnu::noinline]] void grow(std::size_t n) {
+        const std::size_t used = size();
+        out_.resize(std::max(2 * out_.size(), used + n + kRoom));
+        at(used);
+    }
+    void at(std::size_t used) {
+        pos_ = out_.data() + used;
+        end_ = out_.data() + out_.size();
+    }
     char* open_key(std::size_t longest) {
-        const char last = back();
-        const bool comma = used_ && last != '{' && last != '[';
+        const bool comma = pos_ != out_.data() && pos_[-1] != '{' && pos_[-1] != '[';
         char* p = room(longest + 4);
         if (comma) *p++ = ',';
         *p++ = '"';
@@ -99,10 +111,11 @@ private:
     void close_key(char* p) {
         *p++ = '"';
         *p++ = ':';
-        used_ = static_cast<std::size_t>(p - out_.data());
+        pos_ = p;
     }
     std::string& out_;
-    std::size_t used_;
+    char* pos_ = nullptr;
+    char* end_ = nullptr;
 };
 
 }  // namespace tamrel::readback

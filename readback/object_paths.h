@@ -30,11 +30,18 @@ struct Place {
     std::size_t item = 1;
 };
 
+// A text property set from a field's value: an append takes the library's
+// short path (no overlap to allow for), and keeps the property's buffer.
+inline void set_text(std::string& out, std::string_view text) {
+    out.clear();
+    out.append(text);
+}
+
 // A field's value as the property takes it: text, J/N, digits.
 template <class M>
 bool convert(std::string_view text, M& out) {
     if constexpr (std::is_same_v<M, std::string>) {
-        out.assign(text);
+        set_text(out, text);
         return true;
     } else if constexpr (std::is_same_v<M, bool>) {
         if (text != "J" && text != "N") return false;
@@ -66,6 +73,10 @@ public:
     explicit Setter(General general) : general_(std::move(general)) {}
 
     explicit operator bool() const { return set_ || general_; }
+    // Whether the property is set by `set` at offset(), with fixed() as its entry.
+    bool sets_with(Member set) const { return set_ == set; }
+    std::size_t offset() const { return offset_; }
+    std::int16_t fixed() const { return fixed_; }
     bool operator()(T& obj, const Place& at, std::string_view value) const {
         if (set_) return set_(reinterpret_cast<char*>(&obj) + offset_, at, fixed_, value);
         return general_ && general_(obj, at, value);
@@ -214,20 +225,27 @@ void append_value(JsonText& out, const M& m) {
     } else if constexpr (requires { m.view(); }) {
         // An indexed property: from index 1 an array of every entry (its
         // bounds are the list's), else its entries that hold anything.
-        const bool from_one = m.smallest() == 1;
-        out.put(from_one ? '[' : '{');
+        using Read = typename M::Read;
+        if (m.smallest() == 1) {
+            out.put('[');
+            bool first = true;
+            for (const auto& v : m.stored()) {
+                if (!first) out.put(',');
+                first = false;
+                append_value(out, static_cast<Read>(v));
+            }
+            out.put(']');
+            return;
+        }
+        out.put('{');
         const auto entries = m.view();
         for (std::int32_t i = m.smallest(); i <= m.largest(); ++i) {
             const auto& v = entries(static_cast<std::int16_t>(i));
-            if (from_one) {
-                if (i > 1) out.put(',');
-            } else {
-                if (v == std::remove_cvref_t<decltype(v)>{}) continue;
-                out.put_key(i);
-            }
+            if (v == std::remove_cvref_t<decltype(v)>{}) continue;
+            out.put_key(i);
             append_value(out, v);
         }
-        out.put(from_one ? ']' : '}');
+        out.put('}');
     } else {
         out.put('[');
         for (const auto& item : m) {
@@ -273,16 +291,19 @@ void append_members(JsonText& out, const T& obj, std::string_view prefix) {
         Binding<T>::fields);
 }
 
-// The object as one JSON object.
+// The object as one JSON object, written over `out` (its buffer kept).
+template <Bound T>
+void write_json(const T& obj, std::string& out) {
+    out.clear();
+    JsonText text(out);
+    text.put('{');
+    append_members(text, obj);
+    text.put('}');
+}
 template <Bound T>
 std::string to_json(const T& obj) {
     std::string out;
-    {
-        JsonText text(out);
-        text.put('{');
-        append_members(text, obj);
-        text.put('}');
-    }
+    write_json(obj, out);
     return out;
 }
 

@@ -38,7 +38,7 @@ void read_into(T& obj, const LineText& line, std::span<const checks::Part> parts
     read_own_forms(obj, std::span<const ReadField>(left), parts, out.frame);
     const std::string time = own_time(out.frame, file_created.empty() ? out.frame.created : file_created);
     if (!time.empty()) assign(obj, out.frame.createdFrom, {}, time);
-    out.json = to_json(obj);
+    write_json(obj, out.json);
 }
 
 template <class T>

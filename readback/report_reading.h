@@ -61,6 +61,9 @@ enum class FieldRole : std::uint8_t {
     Record,   // a member of the record identification (DatensatzData)
     Object,   // a property of the data object
 };
+// The two setters most fields of a record take, called in the walk itself
+// rather than through their function: a text, an entry of a list of texts.
+enum class Direct : std::uint8_t { None, Text, TextEntry };
 template <Bound T>
 struct FieldStep {
     const FieldLayout* field;
@@ -68,7 +71,15 @@ struct FieldStep {
     bool remarked;  // a remark in brackets: given to the procedure's own reading too
     Setter<T> own;
     Setter<DatensatzData> record;
+    Direct direct = Direct::None;
 };
+
+template <Bound T>
+Direct direct_of(const Setter<T>& set) {
+    if (set.sets_with(&detail::set_plain<std::string>)) return Direct::Text;
+    if (set.sets_with(&detail::set_entry<Indexed<std::string>>)) return Direct::TextEntry;
+    return Direct::None;
+}
 template <Bound T>
 using LayoutPlan = std::vector<FieldStep<T>>;
 
@@ -91,6 +102,7 @@ LayoutPlan<T> make_plan(const RecordLayout& layout) {
             step.record = resolve<DatensatzData>(path.substr(dd.size()));
         } else {
             step.own = resolve<T>(path);
+            step.direct = direct_of(step.own);
         }
         plan.push_back(std::move(step));
     }
@@ -156,6 +168,12 @@ struct LineText {
 };
 const LineText& line_text(std::u32string_view line);
 
+// The member of type M at `offset` in obj.
+template <class M, class T>
+M& member(T& obj, std::size_t offset) {
+    return *reinterpret_cast<M*>(reinterpret_cast<char*>(&obj) + offset);
+}
+
 // Sets what the declarations place and gives the fields they do not in
 // `left`. A value becomes a text of its own only there.
 template <Bound T>
@@ -164,9 +182,12 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
     left.clear();
     std::string scratch;
     LineText::Slicer slicer(text);
+    const RecordLayout* last = nullptr;  // the entries of a list come one after another
+    const LayoutPlan<T>* plan = nullptr;
     for (const checks::Part& p : parts) {
         const Place at{p.entry, p.item};
-        for (const FieldStep<T>& step : layout_plan<T>(*p.layout)) {
+        if (p.layout != last) last = p.layout, plan = &layout_plan<T>(*p.layout);
+        for (const FieldStep<T>& step : *plan) {
             const FieldLayout& f = *step.field;
             const std::string_view raw = slicer.slice(p.at + f.pos - 1u, f.len);
             if (step.role == FieldRole::Created) {
@@ -183,8 +204,17 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
                 if (step.own) step.own(obj, at, value);
                 continue;
             }
-            const bool placed = step.role == FieldRole::Record ? step.record && step.record(frame.datensatz, at, value)
-                                                               : step.own && step.own(obj, at, value);
+            bool placed = true;
+            if (step.direct == Direct::Text) {
+                set_text(member<std::string>(obj, step.own.offset()), value);
+            } else if (step.direct == Direct::TextEntry) {
+                const std::int16_t fixed = step.own.fixed();
+                member<Indexed<std::string>>(obj, step.own.offset())
+                    .set(fixed < 0 ? static_cast<std::int16_t>(at.entry) : fixed, value);
+            } else {
+                placed = step.role == FieldRole::Record ? step.record && step.record(frame.datensatz, at, value)
+                                                        : step.own && step.own(obj, at, value);
+            }
             // A field with a remark ("Merkmal1 (1 or 0)") is placed as it
             // stands and still given to the procedure's own reading.
             if (!placed || step.remarked) left.push_back({&f, &p, std::string(value)});

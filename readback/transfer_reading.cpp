@@ -53,7 +53,8 @@ void read_dsko(std::u32string_view line, Frame& f) {
 
 class FileReader {
 public:
-    FileReader(ReadResult& out, const std::function<void(const std::string&)>& report) : out_(out), report_(report) {}
+    FileReader(ReadResult& out, const std::function<void(const std::string&)>& report)
+        : out_(out), report_out_(report) {}
 
     void line(std::u32string_view line) {
         const std::size_t n = ++out_.records;
@@ -128,7 +129,9 @@ private:
                             (problem.at > 0 ? " at character " + std::to_string(problem.at + 1) : std::string()) +
                             ": " + std::string(problem.rule->english) +
                             (problem.value.empty() ? std::string() : " (" + problem.value + ")"));
-        ReadReport report;
+        // The report's text keeps its buffer from record to record.
+        ReadReport& report = report_;
+        report.frame = {};
         // The first record is read on its own, as it settles the frame; the
         // others straight into the runner that builds them again. The
         // line's text stays this line's until the next line is read.
@@ -153,7 +156,7 @@ private:
             const std::u32string& want = as_built(r, layout, built.record);
             if (built_chars_ != want) return skip(n, id, difference(want, built_chars_, parts_));
         }
-        report_(report.json);
+        report_out_(report.json);
         ++out_.reports;
         file_errors(n, id, r, layout, &report);
     }
@@ -210,7 +213,7 @@ private:
     }
 
     ReadResult& out_;
-    const std::function<void(const std::string&)>& report_;
+    const std::function<void(const std::string&)>& report_out_;
     Frame frame_;
     std::string cls_;
     std::unique_ptr<Prover> prover_;
@@ -218,6 +221,7 @@ private:
     std::string first_created_;
     bool header_unproven_ = false;
     std::u32string built_chars_, want_;
+    ReadReport report_;
     std::unordered_map<const RecordLayout*, std::vector<OpenField>> open_;
 };
 
