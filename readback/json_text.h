@@ -5,6 +5,7 @@
 // while the text is written (from the constructor to the destructor).
 #pragma once
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -52,6 +53,13 @@ public:
         bytes::copy_short(p, prefix.data(), prefix.size());
         bytes::copy_short(p + prefix.size(), name.data(), name.size());
         close_key(p + prefix.size() + name.size());
+    }
+    // A key made beforehand, quotes and colon included.
+    template <std::size_t N>
+    void put_key(const std::array<char, N>& key) {
+        char* p = after_comma(N + 1);
+        std::memcpy(p, key.data(), N);
+        pos_ = p + N;
     }
     // An entry's index as a key.
     void put_key(std::int32_t index) {
@@ -101,10 +109,15 @@ private:
         pos_ = out_.data() + used;
         end_ = out_.data() + out_.size();
     }
-    char* open_key(std::size_t longest) {
+    // Room for n bytes and a comma, and the comma where a member or an entry came before.
+    char* after_comma(std::size_t n) {
         const bool comma = pos_ != out_.data() && pos_[-1] != '{' && pos_[-1] != '[';
-        char* p = room(longest + 4);
+        char* p = room(n + 1);
         if (comma) *p++ = ',';
+        return p;
+    }
+    char* open_key(std::size_t longest) {
+        char* p = after_comma(longest + 3);
         *p++ = '"';
         return p;
     }

@@ -4,6 +4,7 @@
 // Both walk the property tables beside the data objects.
 #pragma once
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <functional>
@@ -11,6 +12,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "core/indexed.h"
@@ -270,25 +272,46 @@ bool is_default(const M& m, const M& fresh) {
 
 }  // namespace detail
 
+namespace detail {
+
+// A property's key as the JSON text writes it, quotes and colon included,
+// made when the program is compiled: the writer stores it with a few moves.
+template <class T, std::size_t I>
+inline constexpr auto key_text = [] {
+    constexpr std::string_view name = std::get<I>(Binding<T>::fields).name;
+    std::array<char, name.size() + 3> key{};
+    key[0] = '"';
+    for (std::size_t i = 0; i < name.size(); ++i) key[i + 1] = name[i];
+    key[name.size() + 1] = '"';
+    key[name.size() + 2] = ':';
+    return key;
+}();
+
+template <class T, std::size_t I>
+void append_member(JsonText& out, const T& obj, const T& fresh, std::string_view prefix) {
+    constexpr const auto& e = std::get<I>(Binding<T>::fields);
+    if constexpr (requires { e.prefix; }) {
+        append_members(out, obj.*e.member, e.prefix);
+    } else {
+        if (is_default(obj.*e.member, fresh.*e.member)) return;
+        const std::size_t before = out.size();
+        if (prefix.empty())
+            out.put_key(key_text<T, I>);
+        else
+            out.put_key(prefix, e.name);
+        append_value(out, obj.*e.member);
+        if (out.ends_with(":{}")) out.cut(before);  // a sub-object that holds nothing
+    }
+}
+
+}  // namespace detail
+
 template <Bound T>
 void append_members(JsonText& out, const T& obj, std::string_view prefix) {
     static const T fresh{};
-    std::apply(
-        [&](const auto&... f) {
-            auto one = [&](const auto& e) {
-                if constexpr (requires { e.prefix; }) {
-                    append_members(out, obj.*e.member, e.prefix);
-                } else {
-                    if (detail::is_default(obj.*e.member, fresh.*e.member)) return;
-                    const std::size_t before = out.size();
-                    out.put_key(prefix, e.name);
-                    detail::append_value(out, obj.*e.member);
-                    if (out.ends_with(":{}")) out.cut(before);  // a sub-object that holds nothing
-                }
-            };
-            (one(f), ...);
-        },
-        Binding<T>::fields);
+    constexpr std::size_t n = std::tuple_size_v<std::remove_cvref_t<decltype(Binding<T>::fields)>>;
+    [&]<std::size_t... I>(std::index_sequence<I...>) { (detail::append_member<T, I>(out, obj, fresh, prefix), ...); }
+    (std::make_index_sequence<n>{});
 }
 
 // The object as one JSON object, written over `out` (its buffer kept).
