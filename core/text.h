@@ -59,6 +59,12 @@ inline std::string_view trim_trailing_blanks(std::string_view s) noexcept {
         if (differ != 0) return s.substr(0, n - static_cast<std::size_t>(std::countl_zero(differ)) / 8);
         n -= 8;
     }
+    if (n >= 4) {
+        // The last four bytes as one word: most short fields end in blanks.
+        const auto differ = static_cast<std::uint32_t>(bytes::load4(s.data() + n - 4) ^ blanks);
+        if (differ != 0) return s.substr(0, n - static_cast<std::size_t>(std::countl_zero(differ)) / 8);
+        n -= 4;
+    }
     while (n > 0 && s[n - 1] == ' ') --n;
     return s.substr(0, n);
 }

@@ -72,6 +72,8 @@ struct FieldStep {
     Setter<T> own;
     Setter<DatensatzData> record;
     Direct direct = Direct::None;
+    // The field's place (from 0) and width, kept beside the step: read for every field.
+    std::uint16_t from = 0, len = 0;
 };
 
 template <Bound T>
@@ -90,6 +92,7 @@ LayoutPlan<T> make_plan(const RecordLayout& layout) {
     for (const FieldLayout& f : layout.fields) {
         const std::string_view path = property_path(f.name);
         FieldStep<T> step{&f, FieldRole::Object, path.size() != f.name.size(), {}, {}};
+        step.from = static_cast<std::uint16_t>(f.pos - 1u), step.len = f.len;
         if (f.announce == Announce::Count) {
             step.role = FieldRole::Count;
             step.own = resolve<T>("Anzahl" + std::string(f.name));
@@ -150,9 +153,10 @@ struct LineText {
         std::string_view slice(std::size_t at, std::size_t len) {
             const std::size_t end = std::min(at + len, text_.chars);
             at = std::min(at, end);
-            if (text_.wide.empty()) return std::string_view(text_.utf8).substr(at, end - at);
+            // Within the text: at <= end <= chars, whose bytes the text holds.
+            if (text_.wide.empty()) return {text_.utf8.data() + at, end - at};
             const std::size_t from = byte_of(at);
-            return std::string_view(text_.utf8).substr(from, byte_of(end) - from);
+            return {text_.utf8.data() + from, byte_of(end) - from};
         }
 
     private:
@@ -188,9 +192,9 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
         const Place at{p.entry, p.item};
         if (p.layout != last) last = p.layout, plan = &layout_plan<T>(*p.layout);
         for (const FieldStep<T>& step : *plan) {
+            const std::string_view raw = slicer.slice(p.at + step.from, step.len);
             const FieldLayout& f = *step.field;
-            const std::string_view raw = slicer.slice(p.at + f.pos - 1u, f.len);
-            if (step.role == FieldRole::Created) {
+            if (step.role == FieldRole::Created) [[unlikely]] {
                 frame.created = raw;
                 const std::size_t open = f.name.find('(');
                 if (open != std::string_view::npos)

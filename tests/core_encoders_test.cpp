@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -7,6 +8,7 @@
 #include "core/check_length.h"
 #include "core/date_fields.h"
 #include "core/establishment_number.h"
+#include "core/text.h"
 #include "core/text_fields.h"
 #include "core/writer.h"
 #include "core/xml_encoders.h"
@@ -113,6 +115,26 @@ struct AmountCase {
     const char* expected;
     bool filled;
 };
+
+// The word-at-a-time text helpers against a byte-by-byte reading, for every
+// length around their word sizes and every place of the last non-blank.
+TEST(TextHelpers, WordAtATimeHelpersReadAsTheBytes) {
+    std::mt19937 rng(7);
+    const std::string alphabet = " 0a\xC3\xBC";
+    for (std::size_t length = 0; length <= 40; ++length) {
+        for (int variant = 0; variant < 200; ++variant) {
+            std::string s;
+            for (std::size_t i = 0; i < length; ++i)
+                s += variant % 3 == 0 ? ' ' : variant % 3 == 1 ? '0' : alphabet[rng() % alphabet.size()];
+            if (length > 0 && variant % 7 == 3) s[rng() % length] = 'x';  // one other byte anywhere
+            std::size_t kept = s.size();
+            while (kept > 0 && s[kept - 1] == ' ') --kept;
+            EXPECT_EQ(tamrel::text::trim_trailing_blanks(s), s.substr(0, kept)) << '"' << s << '"';
+            for (const char c : {' ', '0'})
+                EXPECT_EQ(tamrel::text::all_of(s, c), s.find_first_not_of(c) == std::string::npos) << '"' << s << '"';
+        }
+    }
+}
 
 TEST(AmountEncoders, StrToPBLastSeparatorIsTheDecimalOne) {
     const AmountCase cases[] = {
