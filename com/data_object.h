@@ -376,7 +376,7 @@ public:
                     out.put('{');
                     static_cast<const DataObject<M>*>(children_[k])->append_json(out);
                     out.put('}');
-                    if (!put_[k] && out.ends_with(":{}")) out.cut(before);
+                    if (!put_[k] && out.ends_with_empty_object()) out.cut(before);
                 } else if constexpr (members::is_vector<M>) {
                     if (!put_[k] && items_[k].empty()) return out.cut(before);
                     out.put('[');

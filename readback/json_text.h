@@ -32,9 +32,8 @@ public:
 
     std::size_t size() const { return static_cast<std::size_t>(pos_ - out_.data()); }
     char back() const { return pos_ != out_.data() ? pos_[-1] : '\0'; }
-    bool ends_with(std::string_view tail) const {
-        return size() >= tail.size() && std::string_view(pos_ - tail.size(), tail.size()) == tail;
-    }
+    // Whether the text ends in a member whose value is an empty object.
+    bool ends_with_empty_object() const { return size() >= 3 && pos_[-1] == '}' && pos_[-2] == '{' && pos_[-3] == ':'; }
     void cut(std::size_t size) { pos_ = out_.data() + size; }
 
     void put(char c) { *room(1) = c, ++pos_; }

@@ -299,8 +299,11 @@ void append_member(JsonText& out, const T& obj, const T& fresh, std::string_view
             out.put_key(key_text<T, I>);
         else
             out.put_key(prefix, e.name);
+        using M = std::remove_cvref_t<decltype(obj.*e.member)>;
         append_value(out, obj.*e.member);
-        if (out.ends_with(":{}")) out.cut(before);  // a sub-object that holds nothing
+        // A sub-object (or a list by index) that holds nothing: only these end in braces.
+        if constexpr (Bound<M> || requires(const M& m) { m.view(); })
+            if (out.ends_with_empty_object()) out.cut(before);
     }
 }
 
