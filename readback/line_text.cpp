@@ -35,10 +35,64 @@ unsigned narrow_step(const char32_t* in, char* out) {
 #endif
 }
 
+// One a thread, kept from line to line.
+LineText& thread_text() {
+    thread_local LineText text;
+    return text;
+}
+
+// Sixteen bytes' high bits.
+unsigned high_bits(const char* in) {
+#if defined(__SSE2__)
+    return static_cast<unsigned>(_mm_movemask_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(in))));
+#else
+    unsigned high = 0;
+    for (std::size_t i = 0; i < kStep; ++i)
+        high |= static_cast<unsigned>(static_cast<unsigned char>(in[i]) >= 0x80) << i;
+    return high;
+#endif
+}
+
 }  // namespace
 
+const LineText& line_text(std::u32string_view record, std::string_view bytes, checks::FileEncoding encoding) {
+    const bool latin = encoding == checks::FileEncoding::Latin1 || encoding == checks::FileEncoding::Latin9;
+    if (!latin || bytes.size() < record.size()) return line_text(record);
+    LineText& text = thread_text();
+    const std::size_t n = record.size();  // the record's bytes: a returned record's blocks follow
+    text.chars = n;
+    text.wide.clear();
+    auto note = [&](std::size_t i) {
+        const char32_t c = checks::latin_char(static_cast<unsigned char>(bytes[i]), encoding);
+        const std::uint32_t before = text.wide.empty() ? 0 : text.wide.back().extra;
+        text.wide.push_back({static_cast<std::uint32_t>(i), before + (c < 0x800 ? 1u : 2u)});
+    };
+    std::size_t b = 0;
+    for (; b + kStep <= n; b += kStep)
+        for (unsigned m = high_bits(bytes.data() + b); m != 0; m &= m - 1)
+            note(b + static_cast<std::size_t>(std::countr_zero(m)));
+    for (std::size_t i = b; i < n; ++i)
+        if (static_cast<unsigned char>(bytes[i]) >= 0x80) note(i);
+    if (text.wide.empty()) {
+        text.utf8.assign(bytes.data(), n);
+        return text;
+    }
+    // The runs between the wide characters copied, each wide one written as UTF-8.
+    text.utf8.resize(n + text.wide.back().extra);
+    char* out = text.utf8.data();
+    std::size_t from = 0;
+    for (const LineText::Wide& w : text.wide) {
+        std::memcpy(out, bytes.data() + from, w.at - from);
+        out += w.at - from;
+        out = checks::walk_detail::put_utf8(out, checks::latin_char(static_cast<unsigned char>(bytes[w.at]), encoding));
+        from = w.at + 1;
+    }
+    std::memcpy(out, bytes.data() + from, n - from);
+    return text;
+}
+
 const LineText& line_text(std::u32string_view line) {
-    thread_local LineText text;
+    LineText& text = thread_text();
     text.chars = line.size();
     text.wide.clear();
     // Narrowed sixteen characters a step; a step that holds a wide

@@ -171,6 +171,10 @@ struct LineText {
     };
 };
 const LineText& line_text(std::u32string_view line);
+// The same from the bytes the record was read from: taken as they stand
+// where the file is ISO-8859-1 or -15 (a byte a character), with only its
+// few wide characters written anew.
+const LineText& line_text(std::u32string_view record, std::string_view bytes, checks::FileEncoding encoding);
 
 // The member of type M at `offset` in obj.
 template <class M, class T>

@@ -56,7 +56,9 @@ public:
     FileReader(ReadResult& out, const std::function<void(const std::string&)>& report)
         : out_(out), report_out_(report) {}
 
-    void line(std::u32string_view line) {
+    void line(const checks::RecordText& read) {
+        const std::u32string_view line = read.chars;
+        read_ = &read;
         const std::size_t n = ++out_.records;
         const RecordLayout* layout = checks::find_layout(line);
         const std::string id = to_utf8(line.substr(0, 4));
@@ -135,7 +137,7 @@ private:
         // The first record is read on its own, as it settles the frame; the
         // others straight into the runner that builds them again. The
         // line's text stays this line's until the next line is read.
-        const LineText& text = line_text(r.record);
+        const LineText& text = line_text(r.record, read_->bytes, read_->encoding);
         const bool read_into_runner =
             reader->read(text, parts_, !first_created_.empty() ? first_created_ : frame_.dskoCreated,
                          prover_ ? &prover_->runner() : nullptr, report);
@@ -222,6 +224,7 @@ private:
     bool header_unproven_ = false;
     std::u32string built_chars_, want_;
     ReadReport report_;
+    const checks::RecordText* read_ = nullptr;  // the record being read
     std::unordered_map<const RecordLayout*, std::vector<OpenField>> open_;
 };
 
@@ -233,8 +236,8 @@ ReadResult read_transfer(std::istream& in, const ReadOptions& options,
     if (in.peek() == '<') return read_xml_report(in, options, report);
     ReadResult out;
     FileReader reader(out, report);
-    checks::read_records(
-        in, [&](std::u32string_view line) { reader.line(line); }, options.encoding);
+    checks::read_record_texts(
+        in, [&](const checks::RecordText& line) { reader.line(line); }, options.encoding);
     reader.finish();
     return out;
 }

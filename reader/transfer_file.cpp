@@ -211,7 +211,14 @@ private:
 
 }  // namespace
 
+char32_t latin_char(unsigned char c, FileEncoding encoding) { return encoding == FileEncoding::Latin9 ? latin9(c) : c; }
+
 void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each, FileEncoding encoding) {
+    read_record_texts(
+        in, [&](const RecordText& r) { each(r.chars); }, encoding);
+}
+
+void read_record_texts(std::istream& in, const std::function<void(const RecordText&)>& each, FileEncoding encoding) {
     std::string line;
     std::size_t length = 0;
     // One pass over the lines, each within the bound.
@@ -262,7 +269,7 @@ void read_records(std::istream& in, const std::function<void(std::u32string_view
         any = true;
         if (validate && !valid_utf8(line)) throw std::runtime_error("record " + std::to_string(number) + ": not UTF-8");
         decode(line, encoding, record);
-        each(record);
+        each(RecordText{record, line, encoding});
     };
     if (spool)
         lines(LineReader(spool.get(), kMaxRecordBytes), take);

@@ -35,9 +35,22 @@ enum class FileEncoding { Detect, Latin1, Latin9, Utf8 };
 void read_records(std::istream& in, const std::function<void(std::u32string_view)>& each,
                   FileEncoding encoding = FileEncoding::Detect);
 
+// A record as read: its characters, and the bytes they were read from in
+// the encoding the file was read in (never Detect).
+struct RecordText {
+    std::u32string_view chars;
+    std::string_view bytes;
+    FileEncoding encoding;
+};
+// As read_records, with each record's bytes beside its characters.
+void read_record_texts(std::istream& in, const std::function<void(const RecordText&)>& each,
+                       FileEncoding encoding = FileEncoding::Detect);
+
 // Bytes read as characters: UTF-8, ISO-8859-1 or ISO-8859-15, into `out`
 // (its buffer kept from call to call).
 void decode(std::string_view bytes, FileEncoding encoding, std::u32string& out);
+// The character of a byte of 0x80 or above in ISO-8859-1 or ISO-8859-15.
+char32_t latin_char(unsigned char c, FileEncoding encoding);
 // Whether the bytes are UTF-8 throughout.
 bool valid_utf8(std::string_view s);
 

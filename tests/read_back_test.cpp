@@ -84,6 +84,40 @@ TEST(ReadBack, LineTextSlicesFieldsByCharacter) {
     }
 }
 
+// A line of ISO-8859-1 or -15 is taken from its bytes as it is from its
+// characters: the same UTF-8, the same wide characters, for a whole line
+// and for a record that is only its first part (a returned one), with
+// high bytes anywhere, around the sixteen-byte steps.
+TEST(ReadBack, LineTextFromLatinBytesIsLineTextFromCharacters) {
+    using tamrel::checks::FileEncoding;
+    std::mt19937 rng(33);
+    for (const FileEncoding encoding : {FileEncoding::Latin1, FileEncoding::Latin9}) {
+        for (std::size_t length = 0; length <= 70; ++length) {
+            for (int variant = 0; variant < 20; ++variant) {
+                std::string bytes;
+                for (std::size_t i = 0; i < length; ++i) {
+                    const unsigned r = rng() % 8;
+                    bytes += static_cast<char>(r == 0   ? 0x80 + rng() % 0x80
+                                               : r == 1 ? 0xA4 + rng() % 0x1B
+                                                        : 'A' + rng() % 26);
+                }
+                std::u32string chars;
+                tamrel::checks::decode(bytes, encoding, chars);
+                const std::u32string record = chars.substr(0, variant % 2 ? chars.size() : rng() % (chars.size() + 1));
+                const tamrel::readback::LineText want = tamrel::readback::line_text(record);
+                const tamrel::readback::LineText& got = tamrel::readback::line_text(record, bytes, encoding);
+                EXPECT_EQ(got.utf8, want.utf8);
+                EXPECT_EQ(got.chars, want.chars);
+                ASSERT_EQ(got.wide.size(), want.wide.size());
+                for (std::size_t i = 0; i < want.wide.size(); ++i) {
+                    EXPECT_EQ(got.wide[i].at, want.wide[i].at);
+                    EXPECT_EQ(got.wide[i].extra, want.wide[i].extra);
+                }
+            }
+        }
+    }
+}
+
 // The report's JSON writer stores plain texts itself and hands the rest to
 // the general escaper: every text comes out as that escaper writes it (a
 // text of invalid UTF-8 as far as it writes it), across the lengths where
