@@ -2,6 +2,8 @@
 // listing's visits are inlined into it.
 #pragma once
 #include <algorithm>
+#include <unordered_map>
+#include <vector>
 
 #include "checks/rules.h"
 
@@ -26,9 +28,30 @@ inline long number(std::u32string_view digits) {
     return v;
 }
 
+// What the walk looks at in a layout of a hundred fields: its fixed texts
+// and the fields that announce blocks. Found once a layout (the layouts are
+// static) and kept for the thread, the last one asked for in front.
+struct LayoutFacts {
+    std::vector<const FieldLayout*> literals, announcing;
+};
+inline const LayoutFacts& facts(const RecordLayout& l) {
+    thread_local const RecordLayout* last = nullptr;
+    thread_local const LayoutFacts* last_facts = nullptr;
+    if (&l == last) return *last_facts;
+    thread_local std::unordered_map<const RecordLayout*, LayoutFacts> all;
+    auto [it, made] = all.try_emplace(&l);
+    if (made)
+        for (const FieldLayout& f : l.fields) {
+            if (f.kind == FieldKind::Literal && !f.block) it->second.literals.push_back(&f);
+            if (f.announce != Announce::None) it->second.announcing.push_back(&f);
+        }
+    last = &l, last_facts = &it->second;
+    return it->second;
+}
+
 inline bool literals_match(std::u32string_view line, std::size_t at, const RecordLayout& l) {
-    for (const FieldLayout& f : l.fields)
-        if (f.kind == FieldKind::Literal && !f.block && !starts_with(line, at + f.pos - 1u, f.literal)) return false;
+    for (const FieldLayout* f : facts(l).literals)
+        if (!starts_with(line, at + f->pos - 1u, f->literal)) return false;
     return true;
 }
 
@@ -105,14 +128,13 @@ bool walk_line(std::u32string_view line, const RecordLayout& record, Visit&& vis
     const RecordLayout& r = form(line, 0, record);
     std::size_t at = take(line, 0, r, false, 1, visit, problem);
     if (at == 0) return false;
-    const bool blocks = std::any_of(r.fields.begin(), r.fields.end(),
-                                    [](const FieldLayout& f) { return f.announce != Announce::None; });
-    if (!blocks && at != line.size()) {  // a record that stands alone: too long
+    const std::vector<const FieldLayout*>& announcing = facts(r).announcing;
+    if (announcing.empty() && at != line.size()) {  // a record that stands alone: too long
         problem = {&kRecordLength, 0, nullptr, std::to_string(line.size()) + " instead of " + std::to_string(at)};
         return false;
     }
-    for (const FieldLayout& f : r.fields) {
-        if (f.announce == Announce::None) continue;
+    for (const FieldLayout* announce : announcing) {
+        const FieldLayout& f = *announce;
         const RecordLayout& b = *f.block;
         const std::u32string_view text = line.substr(f.pos - 1u, f.len);
         long times = 0;
