@@ -65,6 +65,7 @@ const LineText& line_text(std::u32string_view record, std::string_view bytes, ch
     auto note = [&](std::size_t i) {
         const char32_t c = checks::latin_char(static_cast<unsigned char>(bytes[i]), encoding);
         const std::uint32_t before = text.wide.empty() ? 0 : text.wide.back().extra;
+        // Two bytes of UTF-8, or three for the few of ISO-8859-15 from U+0800 (the euro sign).
         text.wide.push_back({static_cast<std::uint32_t>(i), before + (c < 0x800 ? 1u : 2u)});
     };
     std::size_t b = 0;

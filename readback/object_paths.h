@@ -270,10 +270,6 @@ bool is_default(const M& m, const M& fresh) {
         return m == fresh;
 }
 
-}  // namespace detail
-
-namespace detail {
-
 // A property's key as the JSON text writes it, quotes and colon included,
 // made when the program is compiled: the writer stores it with a few moves.
 template <class T, std::size_t I>
@@ -293,13 +289,13 @@ void append_member(JsonText& out, const T& obj, const T& fresh, std::string_view
     if constexpr (requires { e.prefix; }) {
         append_members(out, obj.*e.member, e.prefix);
     } else {
+        using M = std::remove_cvref_t<decltype(obj.*e.member)>;
         if (is_default(obj.*e.member, fresh.*e.member)) return;
         const std::size_t before = out.size();
         if (prefix.empty())
             out.put_key(key_text<T, I>);
         else
             out.put_key(prefix, e.name);
-        using M = std::remove_cvref_t<decltype(obj.*e.member)>;
         append_value(out, obj.*e.member);
         // A sub-object (or a list by index) that holds nothing: only these end in braces.
         if constexpr (Bound<M> || requires(const M& m) { m.view(); })

@@ -58,7 +58,6 @@ public:
 
     void line(const checks::RecordText& read) {
         const std::u32string_view line = read.chars;
-        read_ = &read;
         const std::size_t n = ++out_.records;
         const RecordLayout* layout = checks::find_layout(line);
         const std::string id = to_utf8(line.substr(0, 4));
@@ -72,7 +71,7 @@ public:
             read_dsko(r.record, frame_);
             file_errors(n, id, r, *layout, nullptr);
         } else if (layout != &layouts::kNCSZ) {
-            data(n, id, r, *layout);
+            data(n, id, r, *layout, read);
         }
     }
 
@@ -114,7 +113,8 @@ private:
         return false;
     }
 
-    void data(std::size_t n, const std::string& id, const checks::ReturnedLine& r, const RecordLayout& layout) {
+    void data(std::size_t n, const std::string& id, const checks::ReturnedLine& r, const RecordLayout& layout,
+              const checks::RecordText& read) {
         const ProcedureReader* reader = reader_for_record(layout);
         if (!reader) return skip(n, id, "tamrel reads no record " + id);
         if (cls_.empty()) {
@@ -137,7 +137,7 @@ private:
         // The first record is read on its own, as it settles the frame; the
         // others straight into the runner that builds them again. The
         // line's text stays this line's until the next line is read.
-        const LineText& text = line_text(r.record, read_->bytes, read_->encoding);
+        const LineText& text = line_text(r.record, read.bytes, read.encoding);
         const bool read_into_runner =
             reader->read(text, parts_, !first_created_.empty() ? first_created_ : frame_.dskoCreated,
                          prover_ ? &prover_->runner() : nullptr, report);
@@ -224,7 +224,6 @@ private:
     bool header_unproven_ = false;
     std::u32string built_chars_, want_;
     ReadReport report_;
-    const checks::RecordText* read_ = nullptr;  // the record being read
     std::unordered_map<const RecordLayout*, std::vector<OpenField>> open_;
 };
 
