@@ -75,14 +75,17 @@ public:
     explicit Setter(General general) : general_(std::move(general)) {}
 
     explicit operator bool() const { return set_ || general_; }
-    // Whether the property is set by `set` at offset(), with fixed() as its entry.
-    bool sets_with(Member set) const { return set_ == set; }
-    std::size_t offset() const { return offset_; }
-    std::int16_t fixed() const { return fixed_; }
     bool operator()(T& obj, const Place& at, std::string_view value) const {
-        if (set_) return set_(reinterpret_cast<char*>(&obj) + offset_, at, fixed_, value);
+        if (set_) return set_(address(obj), at, fixed_, value);
         return general_ && general_(obj, at, value);
     }
+    // Sets the property as `set` would, where `set` is this setter's own
+    // function: called by name, so the compiler can inline it.
+    template <Member set>
+    void set_as(T& obj, const Place& at, std::string_view value) const {
+        set(address(obj), at, fixed_, value);
+    }
+    bool sets_with(Member set) const { return set_ == set; }
 
     // This setter seen from an object that holds T at `offset`.
     template <class Outer>
@@ -96,6 +99,7 @@ public:
     }
 
 private:
+    void* address(T& obj) const { return reinterpret_cast<char*>(&obj) + offset_; }
     Member set_ = nullptr;
     std::size_t offset_ = 0;
     std::int16_t fixed_ = 0;

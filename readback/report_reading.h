@@ -11,7 +11,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "core/layout.h"
@@ -19,6 +18,7 @@
 #include "core/objects_properties.h"
 #include "readback/field_value.h"
 #include "readback/object_paths.h"
+#include "reader/layout_cache.h"
 #include "reader/line_walk.h"
 #include "reader/transfer_file.h"
 
@@ -112,24 +112,10 @@ LayoutPlan<T> make_plan(const RecordLayout& layout) {
     return plan;
 }
 
-// The plan of a layout: the thread's last few are kept in a short list
-// (a record has a handful of layouts) in front of the map of all.
+// The plan of a layout, made once a layout and kept for the thread.
 template <Bound T>
 const LayoutPlan<T>& layout_plan(const RecordLayout& layout) {
-    struct Recent {
-        const RecordLayout* layout = nullptr;
-        const LayoutPlan<T>* plan = nullptr;
-    };
-    thread_local Recent recent[8];
-    thread_local std::size_t next = 0;
-    for (const Recent& r : recent)
-        if (r.layout == &layout) return *r.plan;
-    // Past the short list: the map's guard is not passed for every part.
-    thread_local std::unordered_map<const RecordLayout*, LayoutPlan<T>> plans;
-    auto it = plans.find(&layout);
-    if (it == plans.end()) it = plans.emplace(&layout, make_plan<T>(layout)).first;
-    recent[next++ % std::size(recent)] = {&layout, &it->second};
-    return it->second;
+    return checks::per_layout<LayoutPlan<T>>(layout, [](const RecordLayout& l) { return make_plan<T>(l); });
 }
 
 // A line as UTF-8: its fields are sliced from it without a text of their
@@ -176,12 +162,6 @@ const LineText& line_text(std::u32string_view line);
 // few wide characters written anew.
 const LineText& line_text(std::u32string_view record, std::string_view bytes, checks::FileEncoding encoding);
 
-// The member of type M at `offset` in obj.
-template <class M, class T>
-M& member(T& obj, std::size_t offset) {
-    return *reinterpret_cast<M*>(reinterpret_cast<char*>(&obj) + offset);
-}
-
 // Sets what the declarations place and gives the fields they do not in
 // `left`. A value becomes a text of its own only there.
 template <Bound T>
@@ -214,11 +194,9 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
             }
             bool placed = true;
             if (step.direct == Direct::Text) {
-                set_text(member<std::string>(obj, step.own.offset()), value);
+                step.own.template set_as<&detail::set_plain<std::string>>(obj, at, value);
             } else if (step.direct == Direct::TextEntry) {
-                const std::int16_t fixed = step.own.fixed();
-                member<Indexed<std::string>>(obj, step.own.offset())
-                    .set(fixed < 0 ? static_cast<std::int16_t>(at.entry) : fixed, value);
+                step.own.template set_as<&detail::set_entry<Indexed<std::string>>>(obj, at, value);
             } else {
                 placed = step.role == FieldRole::Record ? step.record && step.record(frame.datensatz, at, value)
                                                         : step.own && step.own(obj, at, value);

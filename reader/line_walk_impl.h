@@ -2,10 +2,10 @@
 // listing's visits are inlined into it.
 #pragma once
 #include <algorithm>
-#include <unordered_map>
 #include <vector>
 
 #include "checks/rules.h"
+#include "reader/layout_cache.h"
 
 namespace tamrel::checks {
 namespace walk_detail {
@@ -29,24 +29,19 @@ inline long number(std::u32string_view digits) {
 }
 
 // What the walk looks at in a layout of a hundred fields: its fixed texts
-// and the fields that announce blocks. Found once a layout (the layouts are
-// static) and kept for the thread, the last one asked for in front.
+// and the fields that announce blocks, found once a layout.
 struct LayoutFacts {
     std::vector<const FieldLayout*> literals, announcing;
 };
 inline const LayoutFacts& facts(const RecordLayout& l) {
-    thread_local const RecordLayout* last = nullptr;
-    thread_local const LayoutFacts* last_facts = nullptr;
-    if (&l == last) return *last_facts;
-    thread_local std::unordered_map<const RecordLayout*, LayoutFacts> all;
-    auto [it, made] = all.try_emplace(&l);
-    if (made)
-        for (const FieldLayout& f : l.fields) {
-            if (f.kind == FieldKind::Literal && !f.block) it->second.literals.push_back(&f);
-            if (f.announce != Announce::None) it->second.announcing.push_back(&f);
+    return per_layout<LayoutFacts>(l, [](const RecordLayout& layout) {
+        LayoutFacts found;
+        for (const FieldLayout& f : layout.fields) {
+            if (f.kind == FieldKind::Literal && !f.block) found.literals.push_back(&f);
+            if (f.announce != Announce::None) found.announcing.push_back(&f);
         }
-    last = &l, last_facts = &it->second;
-    return it->second;
+        return found;
+    });
 }
 
 inline bool literals_match(std::u32string_view line, std::size_t at, const RecordLayout& l) {
