@@ -78,7 +78,12 @@ std::size_t char_count(std::string_view s) noexcept {
 }
 
 std::size_t byte_offset(std::string_view s, std::size_t n) noexcept {
+    // A character takes a byte or more: n characters or more reach the end.
+    if (n >= s.size()) return s.size();
     std::size_t i = 0;
+    // Eight ASCII bytes are eight characters.
+    for (std::uint64_t x; n >= 8 && i + 8 <= s.size(); i += 8, n -= 8)
+        if (std::memcpy(&x, s.data() + i, 8), (x & bytes::kHigh) != 0) break;
     while (n > 0 && i < s.size()) {
         i += seq_len(static_cast<unsigned char>(s[i]));
         --n;

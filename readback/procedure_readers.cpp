@@ -33,9 +33,9 @@ namespace {
 template <class T>
 void read_into(T& obj, const LineText& line, std::span<const checks::Part> parts, std::string_view file_created,
                ReadReport& out) {
-    thread_local std::vector<ReadField> left;
+    thread_local LeftFields left;
     read_declared(obj, line, parts, out.frame, left);
-    read_own_forms(obj, std::span<const ReadField>(left), parts, out.frame);
+    read_own_forms(obj, std::span<const ReadField>(left.fields), parts, out.frame);
     const std::string time = own_time(out.frame, file_created.empty() ? out.frame.created : file_created);
     if (!time.empty()) assign(obj, out.frame.createdFrom, {}, time);
     write_json(obj, out.json);

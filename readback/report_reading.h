@@ -8,6 +8,7 @@
 #pragma once
 #include <algorithm>
 #include <cstdint>
+#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,7 +29,15 @@ namespace tamrel::readback {
 struct ReadField {
     const FieldLayout* field;
     const checks::Part* part;
-    std::string value;
+    std::string_view value;
+};
+// The fields the declarations do not place, given to the procedure's own
+// reading: their values are views of the line, or of `made` where a value
+// is made anew (an amount), so that no field needs a text of its own.
+struct LeftFields {
+    std::vector<ReadField> fields;
+    std::deque<std::string> made;
+    void clear() { fields.clear(), made.clear(); }
 };
 
 // What a data record says beyond its report: the record identification
@@ -56,6 +65,7 @@ inline bool derived(const FieldLayout& f) {
 // static) and kept for the thread's later records: the fields to read, in
 // their order, each with what takes its value.
 enum class FieldRole : std::uint8_t {
+    // The two that are read apart from the rest (tested as one: below Record).
     Count,    // a count of blocks: the property "Anzahl<block>", where there is one
     Created,  // the record's time stamp
     Record,   // a member of the record identification (DatensatzData)
@@ -163,10 +173,10 @@ const LineText& line_text(std::u32string_view line);
 const LineText& line_text(std::u32string_view record, std::string_view bytes, checks::FileEncoding encoding);
 
 // Sets what the declarations place and gives the fields they do not in
-// `left`. A value becomes a text of its own only there.
+// `left`.
 template <Bound T>
 void read_declared(T& obj, const LineText& text, std::span<const checks::Part> parts, RecordFrame& frame,
-                   std::vector<ReadField>& left) {
+                   LeftFields& left) {
     left.clear();
     std::string scratch;
     LineText::Slicer slicer(text);
@@ -178,20 +188,20 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
         for (const FieldStep<T>& step : *plan) {
             const std::string_view raw = slicer.slice(p.at + step.from, step.len);
             const FieldLayout& f = *step.field;
-            if (step.role == FieldRole::Created) [[unlikely]] {
-                frame.created = raw;
-                const std::size_t open = f.name.find('(');
-                if (open != std::string_view::npos)
-                    frame.createdFrom = f.name.substr(open + 1, f.name.size() - open - 2);
+            if (step.role < FieldRole::Record) [[unlikely]] {
+                if (step.role == FieldRole::Created) {
+                    frame.created = raw;
+                    const std::size_t open = f.name.find('(');
+                    if (open != std::string_view::npos)
+                        frame.createdFrom = f.name.substr(open + 1, f.name.size() - open - 2);
+                } else if (step.own) {
+                    // A count of blocks is the property "Anzahl<block>" where the
+                    // object has one (its entries are read with the blocks).
+                    step.own(obj, at, field_value(raw, f, scratch));
+                }
                 continue;
             }
             const std::string_view value = field_value(raw, f, scratch);
-            // A count of blocks is the property "Anzahl<block>" where the
-            // object has one (its entries are read with the blocks).
-            if (step.role == FieldRole::Count) {
-                if (step.own) step.own(obj, at, value);
-                continue;
-            }
             bool placed = true;
             if (step.direct == Direct::Text) {
                 step.own.template set_as<&detail::set_plain<std::string>>(obj, at, value);
@@ -203,7 +213,8 @@ void read_declared(T& obj, const LineText& text, std::span<const checks::Part> p
             }
             // A field with a remark ("Merkmal1 (1 or 0)") is placed as it
             // stands and still given to the procedure's own reading.
-            if (!placed || step.remarked) left.push_back({&f, &p, std::string(value)});
+            if (!placed || step.remarked) [[unlikely]]
+                left.fields.push_back({&f, &p, value.data() == scratch.data() ? left.made.emplace_back(value) : value});
         }
     }
 }

@@ -12,7 +12,7 @@ void read_own_forms<BeitrErh>(BeitrErh& b, std::span<const ReadField> left, std:
                               RecordFrame& frame) {
     read_converted_bnrst(left, frame);
     for (const ReadField& r : left) {
-        const std::string& v = r.value;
+        const std::string_view v = r.value;
         if (r.field->name == DSBE::ArtKennzeichen.name) {
             b.ArtKennzeichen = v == "K";
         } else if (r.field->name == DSBE::Merkmal1.name) {

@@ -18,7 +18,7 @@ void read_own_forms<BeitrNachw>(BeitrNachw& b, std::span<const ReadField> left, 
     const Statement& f = BW02::Fields;
     for (const ReadField& r : left) {
         const std::string_view name = r.field->name;
-        const std::string& v = r.value;
+        const std::string_view v = r.value;
         if (name == f.Merkmal1.name) {
             b.Merkmal1 = v == "1";
         } else if (name == f.Merkmal2.name) {
@@ -33,7 +33,7 @@ void read_own_forms<BeitrNachw>(BeitrNachw& b, std::span<const ReadField> left, 
             // Street and house number joined by a blank: split at the last.
             const std::size_t blank = v.rfind(' ');
             b.Arbeitgeber.Strasse = v.substr(0, blank);
-            b.Arbeitgeber.Hausnummer = blank == std::string::npos ? std::string() : v.substr(blank + 1);
+            b.Arbeitgeber.Hausnummer = blank == std::string_view::npos ? std::string_view() : v.substr(blank + 1);
         }
     }
 }

@@ -14,7 +14,7 @@ struct Code {
     std::string_view code;
     std::int32_t value;
 };
-std::int32_t decoded(const std::string& v, std::initializer_list<Code> codes) {
+std::int32_t decoded(std::string_view v, std::initializer_list<Code> codes) {
     for (const Code& c : codes)
         if (v == c.code) return c.value;
     return 0;
@@ -32,7 +32,7 @@ void read_own_forms<Erst>(Erst& e, std::span<const ReadField> left, std::span<co
     const ReadField* entgelt = find(left, DBAU::FirstOfEntgelt14.name);
     const ReadField* wert = find(left, DBAU::FirstOfWert13.name);
     for (const ReadField& r : left) {
-        const std::string& v = r.value;
+        const std::string_view v = r.value;
         const std::string_view name = r.field->name;
         if (name == DBAU::WhichEntgelt.name && entgelt) {
             // The first amount given, and which of the four it was.

@@ -21,7 +21,7 @@ bool marginal(std::string_view group2) {
 // "0G" or "0C" of a registration says otherwise of group 2. Then group 2 is
 // the first piece of "246" in the text ("0G"), or empty ("0C"), and the
 // groups around it take the rest.
-void read_groups(Meldung& m, const std::string& joined, const ReadField* mark) {
+void read_groups(Meldung& m, std::string_view joined, const ReadField* mark) {
     std::string* groups[] = {&m.Beitragsgruppe1, &m.Beitragsgruppe2, &m.Beitragsgruppe3, &m.Beitragsgruppe4};
     for (std::size_t i = 0; i < 4; ++i) groups[i]->assign(text::mid(joined, i + 1, 1));
     if (m.Meldungsart != 1 || !mark || marginal(m.Beitragsgruppe2) == (mark->value == "0G")) return;
@@ -32,7 +32,7 @@ void read_groups(Meldung& m, const std::string& joined, const ReadField* mark) {
     }
     for (const std::string_view piece : {"2", "4", "6"}) {
         const std::size_t at = joined.find(piece);
-        if (at == std::string::npos) continue;
+        if (at == std::string_view::npos) continue;
         m.Beitragsgruppe1 = joined.substr(0, at);
         m.Beitragsgruppe2 = piece;
         m.Beitragsgruppe3 = joined.substr(at + 1);
@@ -80,9 +80,9 @@ void read_own_forms<Meldung>(Meldung& m, std::span<const ReadField> left, std::s
     const ReadField* marker = find(left, layouts::DBNA::Marker.name);
     m.MitNamensdaten = marker && marker->value == "A";
     for (const ReadField& r : left) {
-        const std::string& v = r.value;
+        const std::string_view v = r.value;
         if (r.field->name == DBME::Beitragsgruppen.name) {
-            read_groups(m, v.empty() ? std::string(4, '0') : v, mark);
+            read_groups(m, v.empty() ? std::string_view("0000") : v, mark);
         } else if (r.field->name == DBME::Taetigkeitsschluessel.name && !v.empty()) {
             // The key's three pieces are joined without padding: cut where
             // the new form's pieces end (the old form reads the same).
