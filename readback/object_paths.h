@@ -33,10 +33,11 @@ struct Place {
 };
 
 // A text property set from a field's value: an append takes the library's
-// short path (no overlap to allow for), and keeps the property's buffer.
+// short path (no overlap to allow for), and keeps the property's buffer; an
+// empty value (most fields of a record) is no more than the clearing.
 inline void set_text(std::string& out, std::string_view text) {
     out.clear();
-    out.append(text);
+    if (!text.empty()) out.append(text);
 }
 
 // A field's value as the property takes it: text, J/N, digits.

@@ -145,12 +145,17 @@ struct LineText {
     // before a field are counted on from the field before it.
     class Slicer {
     public:
-        explicit Slicer(const LineText& text) : text_(text) {}
+        explicit Slicer(const LineText& text)
+            : text_(text),
+              past_wide_(text.wide.empty() ? 0 : text.wide.back().at + 1),
+              wide_extra_(text.wide.empty() ? 0 : text.wide.back().extra) {}
         std::string_view slice(std::size_t at, std::size_t len) {
             const std::size_t end = std::min(at + len, text_.chars);
             at = std::min(at, end);
             // Within the text: at <= end <= chars, whose bytes the text holds.
-            if (text_.wide.empty()) return {text_.utf8.data() + at, end - at};
+            // After the last wide character (most fields; every field of a
+            // line without one) a character's byte is found by one sum.
+            if (at >= past_wide_) return {text_.utf8.data() + at + wide_extra_, end - at};
             const std::size_t from = byte_of(at);
             return {text_.utf8.data() + from, byte_of(end) - from};
         }
@@ -163,6 +168,7 @@ struct LineText {
             return ch + extra_;
         }
         const LineText& text_;
+        const std::size_t past_wide_, wide_extra_;
         std::size_t next_ = 0, extra_ = 0, last_ = 0;
     };
 };
