@@ -82,8 +82,8 @@ std::size_t byte_offset(std::string_view s, std::size_t n) noexcept {
     if (n >= s.size()) return s.size();
     std::size_t i = 0;
     // Eight ASCII bytes are eight characters.
-    for (std::uint64_t x; n >= 8 && i + 8 <= s.size(); i += 8, n -= 8)
-        if (std::memcpy(&x, s.data() + i, 8), (x & bytes::kHigh) != 0) break;
+    for (; n >= 8 && i + 8 <= s.size(); i += 8, n -= 8)
+        if ((bytes::load8(s.data() + i) & bytes::kHigh) != 0) break;
     while (n > 0 && i < s.size()) {
         i += seq_len(static_cast<unsigned char>(s[i]));
         --n;

@@ -1,6 +1,7 @@
 // What a field of a record says, as the value of the property it was
 // written from: the value that writes the same characters again.
 #pragma once
+#include <bit>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,13 @@ constexpr unsigned kTrimmed = bit(FieldKind::Code) | bit(FieldKind::An) | bit(Fi
                               bit(FieldKind::Vsnr) | bit(FieldKind::Bnr);
 constexpr unsigned kZeros = bit(FieldKind::N) | bit(FieldKind::Date) | bit(FieldKind::DateTime);
 constexpr unsigned kAmounts = bit(FieldKind::Amount) | bit(FieldKind::SignedAmount);
+constexpr unsigned kAsTheyStand = bit(FieldKind::Flag) | bit(FieldKind::Literal);
+constexpr unsigned kEveryKind = 2 * bit(FieldKind::Bnr) - 1;
+static_assert((kTrimmed | kZeros | kAmounts | kAsTheyStand) == kEveryKind &&
+                  std::popcount(kTrimmed) + std::popcount(kZeros) + std::popcount(kAmounts) +
+                          std::popcount(kAsTheyStand) ==
+                      std::popcount(kEveryKind),
+              "every kind of field is taken one way, and only one");
 }  // namespace value_kinds
 
 inline std::string_view field_value(std::string_view chars, const FieldLayout& f, std::string& scratch) {
@@ -39,7 +47,7 @@ inline std::string_view field_value(std::string_view chars, const FieldLayout& f
     if (k & kTrimmed) return text::trim_trailing_blanks(chars);
     if (k & kZeros) return text::all_of(chars, '0') ? std::string_view() : chars;
     if (k & kAmounts) return amount_value(chars, f, scratch);
-    return chars;  // a flag, a fixed text
+    return chars;  // kAsTheyStand: a flag, a fixed text
 }
 inline std::string field_value(std::string_view chars, const FieldLayout& f) {
     std::string scratch;

@@ -37,7 +37,10 @@ struct ReadField {
 struct LeftFields {
     std::vector<ReadField> fields;
     std::deque<std::string> made;
-    void clear() { fields.clear(), made.clear(); }
+    void clear() {
+        fields.clear();
+        made.clear();
+    }
 };
 
 // What a data record says beyond its report: the record identification
