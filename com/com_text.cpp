@@ -14,15 +14,25 @@
 
 namespace tamrel::com {
 
+void assign_utf8(std::string& out, const wchar_t* text, std::size_t length) {
+    out.clear();
+    // Most values are short ASCII: copied unit by unit, without the
+    // system's converter and without a call into the string library.
+    if (length > 15) out.reserve(length);
+    for (std::size_t i = 0; i < length; ++i) {
+        if (text[i] >= 0x80) {
+            const int n = WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(length), nullptr, 0, nullptr, nullptr);
+            out.resize(static_cast<std::size_t>(n));
+            WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(length), out.data(), n, nullptr, nullptr);
+            return;
+        }
+        out.push_back(static_cast<char>(text[i]));
+    }
+}
+
 std::string utf8(const wchar_t* text, std::size_t length) {
-    if (length == 0) return {};
-    // Most values are ASCII: copied without the system's converter.
-    std::size_t i = 0;
-    while (i < length && text[i] < 0x80) ++i;
-    if (i == length) return std::string(text, text + length);
-    const int n = WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(length), nullptr, 0, nullptr, nullptr);
-    std::string out(static_cast<std::size_t>(n), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(length), out.data(), n, nullptr, nullptr);
+    std::string out;
+    assign_utf8(out, text, length);
     return out;
 }
 
@@ -97,32 +107,24 @@ std::wstring utf16(std::string_view text) {
     return out;
 }
 
-// Decoded into the thread's buffer, then copied into the BSTR: one pass over
-// the text, one allocation.
+// Decoded on the stack, then copied into the BSTR: one allocation, and no
+// thread-local buffer, whose every lookup on Windows is a call into the
+// threads library.
 BSTR bstr(std::string_view text) {
-    thread_local std::wstring buffer;
-    if (buffer.size() < text.size() + 16) buffer.resize(text.size() + 16);
-    const std::size_t n = decode(text, buffer.data());
-    BSTR b = SysAllocStringLen(buffer.data(), static_cast<UINT>(n));
+    constexpr std::size_t kLocal = 4096;  // every record with its blocks
+    wchar_t local[kLocal];
+    std::wstring large;
+    wchar_t* units = local;
+    if (text.size() + 16 > kLocal) {
+        large.resize(text.size() + 16);
+        units = large.data();
+    }
+    BSTR b = SysAllocStringLen(units, static_cast<UINT>(decode(text, units)));
     if (!b) throw std::bad_alloc();
     return b;
 }
 
 bool missing(const VARIANT& v) { return V_VT(&v) == VT_ERROR && V_ERROR(&v) == DISP_E_PARAMNOTFOUND; }
-
-namespace {}  // namespace
-
-Date date_arg(const VARIANT& arg) {
-    const VARIANT& v = deref(arg);
-    if (missing(v) || V_VT(&v) == VT_EMPTY) return {};
-    VARIANT d;
-    VariantInit(&d);
-    throw_if_failed(VariantChangeType(&d, const_cast<VARIANT*>(&v), 0, VT_DATE));
-    if (V_DATE(&d) == 0.0) return {};
-    SYSTEMTIME t{};
-    if (!VariantTimeToSystemTime(V_DATE(&d), &t)) throw_if_failed(DISP_E_TYPEMISMATCH);
-    return Date{t.wYear, t.wMonth, t.wDay, t.wHour, t.wMinute, t.wSecond};
-}
 
 std::string text_arg(const VARIANT* arg) {
     if (!arg) return {};
@@ -172,34 +174,45 @@ T read_structure(const Com& d) {
     T out;
     const BSTR* m = members<const Com, T>(d);
     std::size_t k = 0;
-    std::apply([&](const auto&... f) { ((out.*(f.member) = utf8(m[k++])), ...); }, properties::Binding<T>::fields);
+    std::apply([&](const auto&... f) { ((assign_utf8(out.*(f.member), m[k], units(m[k])), ++k), ...); },
+               properties::Binding<T>::fields);
     return out;
 }
 
-// Members equal to `before` (what was read from `out`) are left as they
-// are: a call that changes nothing allocates nothing.
+// Whether a BSTR holds `text`. A text has at least as many UTF-8 bytes as
+// UTF-16 units, as many only when it is ASCII: then unit by unit.
+bool holds(BSTR b, std::string_view text) {
+    const std::size_t n = units(b);
+    if (n > text.size()) return false;
+    if (n < text.size()) return utf8(b, n) == text;
+    for (std::size_t i = 0; i < n; ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (c >= 0x80 || b[i] != static_cast<wchar_t>(c)) return false;
+    }
+    return true;
+}
+
+// Members that already hold their value are left as they are: a call that
+// changes nothing allocates nothing.
 template <class T, class Com>
-void write_structure(const T& d, Com& out, const T* before) {
+void write_structure(const T& d, Com& out) {
     BSTR* m = members<Com, T>(out);
     std::size_t k = 0;
-    auto one = [&](const std::string& value, const std::string* was) {
-        if (!was || *was != value) {
+    auto one = [&](const std::string& value) {
+        if (!holds(m[k], value)) {
             BSTR b = bstr(value);  // made before the old one is freed: a failure leaves the member intact
             SysFreeString(m[k]);
             m[k] = b;
         }
         ++k;
     };
-    std::apply([&](const auto&... f) { (one(d.*(f.member), before ? &(before->*(f.member)) : nullptr), ...); },
-               properties::Binding<T>::fields);
+    std::apply([&](const auto&... f) { (one(d.*(f.member)), ...); }, properties::Binding<T>::fields);
 }
 }  // namespace
 
 DSKOData from_com(const ::DSKOData& d) { return read_structure<DSKOData>(d); }
 DatensatzData from_com(const ::DatensatzData& d) { return read_structure<DatensatzData>(d); }
-void to_com(const DSKOData& d, ::DSKOData& out, const DSKOData* before) { write_structure(d, out, before); }
-void to_com(const DatensatzData& d, ::DatensatzData& out, const DatensatzData* before) {
-    write_structure(d, out, before);
-}
+void to_com(const DSKOData& d, ::DSKOData& out) { write_structure(d, out); }
+void to_com(const DatensatzData& d, ::DatensatzData& out) { write_structure(d, out); }
 
 }  // namespace tamrel::com

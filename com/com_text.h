@@ -6,6 +6,7 @@
 
 #include <oleauto.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -16,7 +17,11 @@
 namespace tamrel::com {
 
 std::string utf8(const wchar_t* text, std::size_t length);
-inline std::string utf8(BSTR text) { return text ? utf8(text, SysStringLen(text)) : std::string(); }
+void assign_utf8(std::string& out, const wchar_t* text, std::size_t length);
+// A BSTR's length in UTF-16 units, from the byte count that precedes its
+// text (as SysStringLen reads it, without a call into the system).
+inline std::size_t units(BSTR text) { return text ? reinterpret_cast<const std::uint32_t*>(text)[-1] / 2 : 0; }
+inline std::string utf8(BSTR text) { return utf8(text, units(text)); }
 std::wstring utf16(std::string_view text);
 // A new BSTR of the text; the caller owns it. Throws std::bad_alloc.
 BSTR bstr(std::string_view text);
@@ -37,9 +42,9 @@ void set_text_arg(VARIANT* v, std::string_view text);
 
 DSKOData from_com(const ::DSKOData& d);
 DatensatzData from_com(const ::DatensatzData& d);
-// Writes the members back into the caller's structure (in/out parameters);
-// with `before` (what was read from it), only the members that changed.
-void to_com(const DSKOData& d, ::DSKOData& out, const DSKOData* before = nullptr);
-void to_com(const DatensatzData& d, ::DatensatzData& out, const DatensatzData* before = nullptr);
+// Writes the members back into the caller's structure (in/out parameters):
+// only those whose text differs from what the member holds.
+void to_com(const DSKOData& d, ::DSKOData& out);
+void to_com(const DatensatzData& d, ::DatensatzData& out);
 
 }  // namespace tamrel::com

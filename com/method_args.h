@@ -62,10 +62,9 @@ std::string vosz(const Gen& g, BSTR a, BSTR e, BSTR f, BSTR firma, long enm, VAR
 template <class Gen, class... Extra>
 std::string dsko(const Gen& g, ::DSKOData* udt, const VARIANT& date, Extra... extra) {
     if (!udt) fail_with(E_POINTER);
-    const DSKOData before = from_com(*udt);
-    DSKOData d = before;
+    DSKOData d = from_com(*udt);
     std::string r = g.GenDSKO(d, extra..., date_arg(date));
-    to_com(d, *udt, &before);
+    to_com(d, *udt);
     return r;
 }
 template <class Gen>
@@ -78,11 +77,10 @@ template <class Obj, class Gen, class... Extra>
 std::string data(Gen& g, IDispatch* object, const char* name, ::DatensatzData* udt, const VARIANT& date,
                  Extra... extra) {
     if (!udt) fail_with(E_POINTER);
-    const DatensatzData before = from_com(*udt);
-    DatensatzData dd = before;
+    DatensatzData dd = from_com(*udt);
     std::string r =
         with_data_object<Obj>(object, name, [&](const Obj& o) { return g.GenData(o, dd, extra..., date_arg(date)); });
-    to_com(dd, *udt, &before);
+    to_com(dd, *udt);
     return r;
 }
 

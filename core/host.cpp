@@ -4,9 +4,11 @@
 #include <ctime>
 #include <string>
 
+#include "core/thread_pointer.h"
+
 namespace tamrel {
 namespace {
-thread_local const Host* installed = nullptr;
+using Installed = ThreadPointer<const Host>;
 }
 
 Date system_now() {
@@ -33,10 +35,13 @@ const Host& default_host() {
     return host;
 }
 
-const Host& current_host() { return installed ? *installed : default_host(); }
+const Host& current_host() {
+    const Host* installed = Installed::get();
+    return installed ? *installed : default_host();
+}
 
-HostScope::HostScope(const Host& host) : previous_(installed) { installed = &host; }
-HostScope::~HostScope() { installed = previous_; }
+HostScope::HostScope(const Host& host) : previous_(Installed::get()) { Installed::set(&host); }
+HostScope::~HostScope() { Installed::set(previous_); }
 
 Date now() {
     const Host& h = current_host();

@@ -65,6 +65,13 @@ Set g = CreateObject("TamrelFile26.clsGenErst")
 d = ""
 CheckEqual g.GenVOSZ("98765432", "12345678", "1", expected("firma1"), 0, d, stamp), expected("1"), "clsGenErst.GenVOSZ"
 CheckEqual d, "20240301", "strDatum handed back"
+' Another date, then the first again: each call takes its own.
+d = ""
+r = g.GenVOSZ("98765432", "12345678", "1", expected("firma1"), 0, d, CDate("2025-12-31 23:59:58"))
+CheckEqual d, "20251231", "a second date"
+d = ""
+CheckEqual g.GenVOSZ("98765432", "12345678", "1", expected("firma1"), 0, d, stamp), expected("1"), "the first date again"
+CheckEqual d, "20240301", "the first date again, handed back"
 Set g = CreateObject("TamrelFile26.clsGenMeldung")
 CheckEqual g.GenNCSZ("98765432", "12345678", "1", "3", 1, stamp), expected("2"), "clsGenMeldung.GenNCSZ"
 Set g = CreateObject("TamrelFile26.clsGenBeitrNachw")
