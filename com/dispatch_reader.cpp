@@ -1,7 +1,6 @@
 #include "com/dispatch_reader.h"
 
 #include <memory>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -41,9 +40,8 @@ constexpr HRESULT kNoSuchProperty = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTRO
 // the same ids in every object of it, so each is looked up once. A thread
 // of its own: apartment objects are called on their thread, and no lock is
 // taken on the way.
-using ClassIds = std::unordered_map<std::string, DISPID, NameHash, std::equal_to<>>;
-ClassIds* ids_of_class(IDispatch* object) {
-    thread_local std::vector<std::pair<GUID, std::unique_ptr<ClassIds>>> classes;
+NameIds* ids_of_class(IDispatch* object) {
+    thread_local std::vector<std::pair<GUID, std::unique_ptr<NameIds>>> classes;
     UINT count = 0;
     ITypeInfo* info = nullptr;
     if (FAILED(object->GetTypeInfoCount(&count)) || count == 0 ||
@@ -59,13 +57,11 @@ ClassIds* ids_of_class(IDispatch* object) {
     if (guid == GUID_NULL) return nullptr;  // no class to know it by
     for (auto& [g, ids] : classes)
         if (g == guid) return ids.get();
-    classes.emplace_back(guid, std::make_unique<ClassIds>());
+    classes.emplace_back(guid, std::make_unique<NameIds>());
     return classes.back().second.get();
 }
 
 }  // namespace
-
-std::size_t NameHash::operator()(std::string_view name) const { return std::hash<std::string_view>{}(name); }
 
 HostObject::HostObject(IDispatch* object, std::string path) : object_(object), path_(std::move(path)) {
     // Scripting hosts' objects may answer only IDispatchEx, and by any case.
@@ -79,7 +75,11 @@ HostObject::~HostObject() {
 
 DISPID HostObject::id_of(std::string_view name) const {
     if (class_ids_) {
-        if (const auto known = class_ids_->find(name); known != class_ids_->end()) return known->second;
+        if (const DISPID* known = class_ids_->find(name)) return *known;
+    } else if (name == last_name_) {
+        // An object of no class: the entries of an indexed property and the
+        // items of a group, read one after another under one name, ask once.
+        return last_id_;
     }
     // Property names are short and ASCII: widened on the stack.
     wchar_t wide[64];
@@ -101,15 +101,17 @@ DISPID HostObject::id_of(std::string_view name) const {
     }
     if (FAILED(hr)) hr = object_->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
     if (FAILED(hr)) no_such_property(*this, name);
-    if (class_ids_) class_ids_->emplace(name, id);
+    if (class_ids_)
+        class_ids_->add(name, id);
+    else
+        last_name_.assign(name), last_id_ = id;
     return id;
 }
 
 VARIANT HostObject::invoke(std::string_view name, VARIANT* argument) const {
     const DISPID id = id_of(name);
     DISPPARAMS params{argument, nullptr, argument ? 1u : 0u, 0};
-    VARIANT result;
-    VariantInit(&result);
+    VARIANT result{};  // VT_EMPTY, as VariantInit makes it
     EXCEPINFO e{};
     const HRESULT hr = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET | DISPATCH_METHOD,
                                        &params, &result, &e, nullptr);
@@ -120,8 +122,7 @@ VARIANT HostObject::invoke(std::string_view name, VARIANT* argument) const {
 }
 
 VARIANT HostObject::get(std::string_view name, long index) const {
-    VARIANT arg;
-    VariantInit(&arg);
+    VARIANT arg{};
     V_VT(&arg) = VT_I4;
     V_I4(&arg) = index;
     return invoke(name, index > 0 ? &arg : nullptr);

@@ -16,9 +16,9 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
-#include <unordered_map>
 #include <vector>
 
+#include "com/name_ids.h"
 #include "com/object_members.h"
 #include "core/indexed.h"
 #include "core/property_table.h"
@@ -27,13 +27,6 @@ namespace tamrel::com {
 
 // One object of the host, named by its path ("objMeldung.Vorgang") for the
 // log line of a failing read.
-// Names hashed as they are given (a class's names are asked the same way
-// each time).
-struct NameHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view name) const;
-};
-
 class HostObject {
 public:
     HostObject(IDispatch* object, std::string path);
@@ -54,15 +47,24 @@ private:
     IDispatchEx* ex_ = nullptr;  // the scripting hosts' interface, when the object has it
     // The ids of the object's class, where its type information names the
     // class: each name looked up once a thread.
-    std::unordered_map<std::string, DISPID, NameHash, std::equal_to<>>* class_ids_ = nullptr;
+    NameIds* class_ids_ = nullptr;
+    mutable std::string last_name_;  // without a class: the last name asked, and its id
+    mutable DISPID last_id_ = DISPID_UNKNOWN;
     std::string path_;
 };
 
-// A Variant that clears itself.
+// A Variant that clears itself. Most of a report's values are numbers,
+// flags or empty: only a text, an object or an array is handed to the
+// system to be freed (a reference owns nothing).
 struct Value {
     VARIANT v;
     explicit Value(VARIANT x) : v(x) {}
-    ~Value() { VariantClear(&v); }
+    ~Value() {
+        const VARTYPE t = V_VT(&v);
+        if (!(t & VT_BYREF) &&
+            ((t & VT_ARRAY) || t == VT_BSTR || t == VT_DISPATCH || t == VT_UNKNOWN || t == VT_RECORD))
+            VariantClear(&v);
+    }
     Value(const Value&) = delete;
     Value& operator=(const Value&) = delete;
 };
