@@ -63,7 +63,8 @@ NameIds* ids_of_class(IDispatch* object) {
 
 }  // namespace
 
-HostObject::HostObject(IDispatch* object, std::string path) : object_(object), path_(std::move(path)) {
+HostObject::HostObject(IDispatch* object, std::string_view name, const HostObject* parent)
+    : object_(object), name_(name), parent_(parent) {
     // Scripting hosts' objects may answer only IDispatchEx, and by any case.
     if (FAILED(object_->QueryInterface(__uuidof(IDispatchEx), reinterpret_cast<void**>(&ex_)))) ex_ = nullptr;
     if (!ex_) class_ids_ = ids_of_class(object_);
@@ -150,13 +151,10 @@ void convert(const VARIANT& value, std::string& out, const HostObject& o, std::s
     const VARIANT& v = deref(value);
     out.clear();
     if (empty(v)) return;
-    if (V_VT(&v) == VT_BSTR) {
-        out = utf8(V_BSTR(&v));
-        return;
-    }
+    if (V_VT(&v) == VT_BSTR) return assign_utf8(out, V_BSTR(&v), units(V_BSTR(&v)));
     VARIANT s;
     change(v, s, VT_BSTR, o, name);
-    out = utf8(V_BSTR(&s));
+    assign_utf8(out, V_BSTR(&s), units(V_BSTR(&s)));
     VariantClear(&s);
 }
 

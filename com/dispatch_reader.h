@@ -26,10 +26,12 @@
 namespace tamrel::com {
 
 // One object of the host, named by its path ("objMeldung.Vorgang") for the
-// log line of a failing read.
+// log line of a failing read: a top object (`parent` nullptr) by its own
+// name, a sub-object by its parent's path and its property's name. The path
+// is put together only when an error names it.
 class HostObject {
 public:
-    HostObject(IDispatch* object, std::string path);
+    HostObject(IDispatch* object, std::string_view name, const HostObject* parent = nullptr);
     ~HostObject();
     HostObject(const HostObject&) = delete;
     HostObject& operator=(const HostObject&) = delete;
@@ -38,7 +40,7 @@ public:
     VARIANT get(std::string_view name, long index = 0) const;
     // The result of the object's method `name` called with one text.
     VARIANT call(std::string_view name, std::string_view text) const;
-    const std::string& path() const { return path_; }
+    std::string path() const { return parent_ ? parent_->path() + "." + std::string(name_) : std::string(name_); }
 
 private:
     DISPID id_of(std::string_view name) const;
@@ -50,7 +52,8 @@ private:
     NameIds* class_ids_ = nullptr;
     mutable std::string last_name_;  // without a class: the last name asked, and its id
     mutable DISPID last_id_ = DISPID_UNKNOWN;
-    std::string path_;
+    std::string_view name_;
+    const HostObject* parent_;
 };
 
 // A Variant that clears itself. Most of a report's values are numbers,
@@ -77,7 +80,7 @@ void convert(const VARIANT& v, std::int64_t& out, std::int64_t lo, std::int64_t 
 IDispatch* object_of(const VARIANT& v, const HostObject& o, std::string_view name);
 
 template <properties::Bound T>
-void read_object(IDispatch* object, T& out, const std::string& path);
+void read_object(IDispatch* object, T& out, std::string_view name, const HostObject* parent = nullptr);
 
 namespace reading {
 
@@ -95,7 +98,7 @@ void read_value(const HostObject& o, std::string_view name, M& out, long index =
         convert(v.v, x, std::numeric_limits<M>::min(), std::numeric_limits<M>::max(), o, name);
         out = static_cast<M>(x);
     } else if constexpr (properties::Bound<M>) {
-        if (IDispatch* sub = object_of(v.v, o, name)) read_object(sub, out, o.path() + "." + std::string(name));
+        if (IDispatch* sub = object_of(v.v, o, name)) read_object(sub, out, name, &o);
     }
 }
 
@@ -142,6 +145,7 @@ void read_group(const HostObject& o, O& out, std::string_view name, Indexed<E>& 
     std::int16_t first = 1, last = 0;
     bounds(o, out, name, first, last);
     entries.clear();
+    if (last >= first) entries.reserve(static_cast<std::size_t>(last - first + 1));
     for (std::int32_t i = first; i <= last; ++i) {
         E x{};
         read_value(o, name, x, i);
@@ -183,8 +187,8 @@ void read_field(const HostObject& o, O& out, const properties::Prefixed<T, M>& f
 }  // namespace reading
 
 template <properties::Bound T>
-void read_object(IDispatch* object, T& out, const std::string& path) {
-    const HostObject o(object, path);
+void read_object(IDispatch* object, T& out, std::string_view name, const HostObject* parent) {
+    const HostObject o(object, name, parent);
     for (bool second : {false, true})
         std::apply([&](const auto&... f) { (reading::read_field(o, out, f, second), ...); },
                    properties::Binding<T>::fields);

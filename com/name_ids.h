@@ -7,6 +7,7 @@
 #include <windows.h>  // first: the other system headers build on it
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -38,7 +39,7 @@ private:
         DISPID id = 0;
         bool used = false;
     };
-    std::size_t mask() const { return slots_.size() - 1; }
+    std::size_t mask() const { return mask_; }
     static std::uint64_t word(const char* p) {
         std::uint64_t w;
         std::memcpy(&w, p, 8);
@@ -52,8 +53,12 @@ private:
         } else {
             for (std::size_t i = 0; i < n; ++i) b = b << 8 | static_cast<unsigned char>(name[i]);
         }
-        const std::uint64_t h = a * 0x9E3779B97F4A7C15ull ^ (b + n) * 0xC2B2AE3D27D4EB4Full;
-        return static_cast<std::size_t>(h ^ h >> 29);
+        // Every byte taken reaches the low bits, which pick the slot: many
+        // names share their first or last bytes ("KsZeileA", "KsZeileB").
+        std::uint64_t h = a * 0x9E3779B97F4A7C15ull ^ std::rotl(b * 0xC2B2AE3D27D4EB4Full, 31);
+        h ^= h >> 33;
+        h *= 0xFF51AFD7ED558CCDull;
+        return static_cast<std::size_t>(h ^ h >> 33);
     }
     // Equal names, eight bytes at a time (the last word overlapping).
     static bool same(const std::string& a, std::string_view b) {
@@ -77,11 +82,13 @@ private:
     void grow() {
         std::vector<Slot> old(std::max<std::size_t>(64, 2 * slots_.size()));
         old.swap(slots_);
+        mask_ = slots_.size() - 1;
         count_ = 0;
         for (Slot& s : old)
             if (s.used) put(std::move(s.name), s.id);
     }
     std::vector<Slot> slots_;  // a power of two, at most half used
+    std::size_t mask_ = 0;
     std::size_t count_ = 0;
 };
 
