@@ -90,6 +90,7 @@ HRESULT raise(const json& spec, EXCEPINFO* error) {
 
 long index_argument(const DISPPARAMS& params) {
     if (params.cArgs != 1) return 0;
+    if (V_VT(&params.rgvarg[0]) == VT_I4) return V_I4(&params.rgvarg[0]);
     VARIANT i;
     VariantInit(&i);
     if (FAILED(VariantChangeType(&i, &params.rgvarg[0], 0, VT_I4))) return 0;
@@ -128,7 +129,8 @@ JsonObject::JsonObject(const json& value, std::string cls) : value_(value), clas
         return;
     }
     class_ = class_info(class_name_);
-    std::vector<std::string>& names = class_names(class_name_);
+    names_ = &class_names(class_name_);
+    std::vector<std::string>& names = *names_;
     if (value.is_object())
         for (const auto& [k, v] : value.items())
             if (std::none_of(names.begin(), names.end(), [&](const std::string& n) { return same_name(n, k); }))
@@ -193,7 +195,7 @@ DISPID JsonObject::id_of(std::string_view name) {
     if (!class_name_.empty()) {
         catch_up();
         if (const auto it = ids_.find(name); it != ids_.end()) return it->second;
-        class_names(class_name_).emplace_back(name);  // the class's next id
+        names_->emplace_back(name);  // the class's next id
     }
     return add(name);
 }
@@ -207,8 +209,7 @@ DISPID JsonObject::add(std::string_view name) {
 }
 
 void JsonObject::catch_up() {
-    for (const std::vector<std::string>& names = class_names(class_name_); slots_.size() < names.size();)
-        add(names[slots_.size()]);
+    while (slots_.size() < names_->size()) add((*names_)[slots_.size()]);
 }
 
 // A property read without an index: texts kept in UTF-16, sub-objects kept.
@@ -232,7 +233,7 @@ HRESULT JsonObject::whole(Slot& slot, VARIANT& result) {
 }
 
 HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result, EXCEPINFO* error) {
-    if (!class_name_.empty()) catch_up();  // an id another object of the class was asked for first
+    if (names_ && slots_.size() < names_->size()) catch_up();  // an id another object of the class was asked for first
     if (id < 1 || static_cast<std::size_t>(id) > slots_.size()) return DISP_E_MEMBERNOTFOUND;
     Slot& slot = slots_[static_cast<std::size_t>(id - 1)];
     const long index = index_argument(params);
@@ -245,7 +246,9 @@ HRESULT JsonObject::answer(DISPID id, const DISPPARAMS& params, VARIANT& result,
     }
     if (slot.value->is_object() && slot.value->contains("$raise")) return raise(slot.value->at("$raise"), error);
     if (index == 0) return whole(slot, result);
-    return to_variant(entry(*slot.value, index), result, class_name_.empty() ? "" : class_name_ + "_" + slot.name);
+    const json* e = entry(*slot.value, index);
+    if (!e || !e->is_object()) return to_variant(e, result);
+    return to_variant(e, result, class_name_.empty() ? "" : class_name_ + "_" + slot.name);  // a group's item
 }
 
 namespace {

@@ -58,7 +58,8 @@ private:
     std::vector<Slot> slots_;  // by DISPID - 1
     std::unordered_map<std::string, DISPID, NameHash, NameEqual> ids_;
     const json& value_;
-    std::string class_name_;  // empty: no class
+    std::string class_name_;                     // empty: no class
+    std::vector<std::string>* names_ = nullptr;  // the class's names in the order of their ids
 };
 
 // The host program's test object: NameTest, EmpfBknTest1 and EmpfBknTest2
