@@ -1,8 +1,8 @@
-// A pointer that each thread holds for itself. GCC on Windows emulates
-// thread-local variables: every access is several calls into the threads
-// library, a lock among them, which made up a tenth of a COM call under
-// wine. There the pointer lives in a slot of the system's own, read with
-// one call; elsewhere it is a thread-local variable.
+// A pointer that each thread holds for itself, one for each type T. GCC on
+// Windows emulates thread-local variables: every access is several calls
+// into the threads library, a lock among them, which made up a tenth of a
+// COM call under wine. There the pointer lives in a slot of the system's
+// own, read with one call; elsewhere it is a thread-local variable.
 #pragma once
 
 namespace tamrel {
@@ -10,7 +10,7 @@ namespace tamrel {
 #ifdef _WIN32
 namespace detail {
 // A slot of the system's, taken when first asked for and given back when
-// the library is unloaded; nullptr where the system had none left, and
+// the library is unloaded; not valid where the system had none left, and
 // the pointer then goes the emulated way.
 class ThreadSlot {
 public:
