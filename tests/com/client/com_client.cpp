@@ -373,16 +373,21 @@ void bench(const json& job, const std::string& cls, const std::string& count, bo
 }
 
 // How often the server asks the host's objects for a name: objects of no
-// class ask each time, objects of a class (with type information) once.
+// class ask each time, objects of a class (with type information) once;
+// and whether every record is the same either way (the ids kept are right).
 template <class Itf>
 void lookups(const json& job, const std::string& cls) {
     Generator<Itf> g(job, cls);
     const json& report = job.at("reports").at(0);
+    std::string first_record;
+    int differ = 0;
     auto count = [&](int n, bool typed) {
         const long before = AutomationObject::lookups;
         for (int i = 0; i < n; ++i) {
             const Object obj = typed ? Object(new JsonObject(report, "Report")) : Object(report);
-            g.data(obj.d);
+            const std::string record = g.data(obj.d);
+            if (first_record.empty()) first_record = record;
+            differ += record != first_record;
         }
         return AutomationObject::lookups - before;
     };
@@ -390,6 +395,7 @@ void lookups(const json& job, const std::string& cls) {
     std::printf(
         "name lookups: %ld for 10 reports of objects of no class, %ld for the first of a class, %ld for 10 more\n",
         untyped, first, then);
+    std::printf("records that differ from the first: %d of 21\n", differ);
 }
 
 // Runs a mode for a generator class, through its default interface.
