@@ -5,11 +5,12 @@
 
 namespace tamrel::detail {
 
+static_assert(TLS_OUT_OF_INDEXES == 0xFFFFFFFFul);
+
 ThreadSlot::ThreadSlot() : index_(TlsAlloc()) {}
 ThreadSlot::~ThreadSlot() {
     if (valid()) TlsFree(index_);
 }
-bool ThreadSlot::valid() const { return index_ != TLS_OUT_OF_INDEXES; }
 void* ThreadSlot::get() const { return TlsGetValue(index_); }
 void ThreadSlot::set(void* p) const { TlsSetValue(index_, p); }
 

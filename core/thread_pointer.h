@@ -1,7 +1,7 @@
 // A pointer that each thread holds for itself, one for each type T. GCC on
 // Windows emulates thread-local variables: every access is several calls
-// into the threads library, a lock among them, which made up a tenth of a
-// COM call under wine. There the pointer lives in a slot of the system's
+// into the threads library, a lock among them, which made up a twelfth of
+// a COM call under wine. There the pointer lives in a slot of the system's
 // own, read with one call; elsewhere it is a thread-local variable.
 #pragma once
 
@@ -18,11 +18,12 @@ public:
     ~ThreadSlot();
     ThreadSlot(const ThreadSlot&) = delete;
     ThreadSlot& operator=(const ThreadSlot&) = delete;
-    bool valid() const;
+    bool valid() const { return index_ != kNone; }
     void* get() const;
     void set(void* p) const;
 
 private:
+    static constexpr unsigned long kNone = 0xFFFFFFFFul;  // TLS_OUT_OF_INDEXES
     unsigned long index_;
 };
 }  // namespace detail

@@ -380,7 +380,7 @@ void lookups(const json& job, const std::string& cls) {
     Generator<Itf> g(job, cls);
     const json& report = job.at("reports").at(0);
     std::string first_record;
-    int differ = 0;
+    int made = 0, differ = 0;
     auto count = [&](int n, bool typed) {
         const long before = AutomationObject::lookups;
         for (int i = 0; i < n; ++i) {
@@ -388,6 +388,7 @@ void lookups(const json& job, const std::string& cls) {
             const std::string record = g.data(obj.d);
             if (first_record.empty()) first_record = record;
             differ += record != first_record;
+            ++made;
         }
         return AutomationObject::lookups - before;
     };
@@ -395,7 +396,7 @@ void lookups(const json& job, const std::string& cls) {
     std::printf(
         "name lookups: %ld for 10 reports of objects of no class, %ld for the first of a class, %ld for 10 more\n",
         untyped, first, then);
-    std::printf("records that differ from the first: %d of 21\n", differ);
+    std::printf("records that differ from the first: %d of %d\n", differ, made);
 }
 
 // Runs a mode for a generator class, through its default interface.
